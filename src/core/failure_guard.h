@@ -1,0 +1,26 @@
+#pragma once
+
+#include <QString>
+#include <functional>
+
+#include "core/error_log.h"
+#include "core/session.h"
+
+namespace trimlog {
+
+/// The one failure exit of a business procedure: who it is, and the box that a failure shows. An empty text shows no box.
+struct FailureExit {
+  QString module;
+  QString procedure;
+  QString title;
+  QString text;
+  bool appendDescription = false;  ///< the error's description follows the text
+};
+
+/// Runs the work. On any failure: shows the critical box, logs the description, returns false.
+bool Guarded(Session &session, const FailureExit &exit, const std::function<void()> &work);
+
+/// For procedures that only update the display: a failure is ignored and the procedure left. Returns false then.
+bool GuardedQuietly(const std::function<void()> &work);
+
+}  // namespace trimlog

@@ -1,0 +1,26 @@
+#pragma once
+
+#include <QWidget>
+
+namespace trimlog {
+
+/// One of the windows that the frame shows in its content area. The frame makes it afresh for each visit.
+class ContentWindow : public QWidget {
+  Q_OBJECT
+ public:
+  using QWidget::QWidget;
+  /// May it be left? A refused check has shown its box.
+  virtual bool ValidateFields() { return true; }
+  /// Saves what is being typed, as leaving the field would. Called before the program ends or the profile changes.
+  virtual void SaveOpenEdit() {}
+  /// The window was moved into place and is the current one: set the focus.
+  virtual void Activated() {}
+  virtual void PrintContents() {}        ///< File, Print
+  /// Turns colours and buttons that do not belong on paper off (true) and on again (false).
+  virtual void PrepareForPrinting(bool) {}
+  virtual void GotoPreviousMonth() {}
+  virtual void GotoNextMonth() {}
+  virtual void DeleteWeight() {}
+};
+
+}  // namespace trimlog

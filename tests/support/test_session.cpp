@@ -1,0 +1,63 @@
+#include "support/test_session.h"
+
+#include <gtest/gtest.h>
+
+#include <map>
+
+#include "core/data_access.h"
+
+namespace trimlog {
+
+namespace {
+
+class MemoryStore final : public SettingsStore {
+ public:
+  QString GetSettingString(const QString &key, const QString &valueName, const QString &fallback) const override {
+    const auto found = values_.find({key, valueName});
+    if (found == values_.end()) return fallback;
+    return found->second.section(QChar(0), 0, 0);
+  }
+  bool SaveSettingString(const QString &key, const QString &valueName, const QString &value) override {
+    values_[{key, valueName}] = value;
+    return true;
+  }
+  bool DeleteValue(const QString &key, const QString &valueName) override { return values_.erase({key, valueName}) > 0; }
+  bool DeleteKey(const QString &key) override {
+    return std::erase_if(values_, [&key](const auto &entry) {
+             return entry.first.first == key || entry.first.first.startsWith(key + QLatin1Char('\\'));
+           }) > 0;
+  }
+  bool CreateKey(const QString &) override { return true; }
+
+ private:
+  std::map<std::pair<QString, QString>, QString> values_;
+};
+
+}  // namespace
+
+std::unique_ptr<SettingsStore> MemorySettings() { return std::make_unique<MemoryStore>(); }
+
+TestSession::TestSession(const QLocale &locale) {
+  EXPECT_TRUE(QFile::copy(QStringLiteral(TRIMLOG_SHIPPED_DIR) +
+                              QStringLiteral("/tlg.dat"),
+                          directory.filePath(QStringLiteral("tlg.dat"))));
+  session = std::make_unique<Session>(SessionPlaces{directory.path(), *store, clock, machine, boxes, locale});
+  session->database = Database::Open(session->DataFilePath());
+  LoadControlValues(session->settings, *store, true);
+  AddProfile(1, QStringLiteral("Test Person"));
+  session->CurrentPersonID = QStringLiteral("1");
+  session->LastRealPersonID = QStringLiteral("1");
+  session->UomDisplay = QStringLiteral("Lbs");
+}
+
+void TestSession::AddProfile(int personID, const QString &name, const QString &goal) {
+  Data().Execute(QStringLiteral("INSERT INTO people ( PersonID, PersonName, Goal, GenderID, BirthDate, HeightFeet, "
+                                "HeightInches, NutTargetID ) VALUES ( ?, ?, ?, 2, #1/1/1990#, 5, 6, 30 );"),
+                 {personID, name, goal});
+}
+
+QString TestSession::ValueOf(const QString &field, const QString &table, const QString &where) {
+  return GetDataValue(Data(), field, table, where);
+}
+
+}  // namespace trimlog
