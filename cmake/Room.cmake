@@ -2,7 +2,7 @@
 # windows in src/<room>/windows/*.cpp, each a link target of its own.
 
 add_library(trimlog_flags INTERFACE)
-target_compile_options(trimlog_flags INTERFACE -Wall -Wextra -Wpedantic -Wshadow -Wconversion
+target_compile_options(trimlog_flags INTERFACE -Wall -Wextra -Wpedantic -Wshadow=local -Wconversion
   -Wno-sign-conversion -Wnon-virtual-dtor -Woverloaded-virtual -Werror)
 target_compile_definitions(trimlog_flags INTERFACE QT_NO_CAST_FROM_BYTEARRAY QT_NO_KEYWORDS
   QT_NO_FOREACH QT_DEPRECATED_WARNINGS)

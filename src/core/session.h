@@ -6,6 +6,8 @@
 #include <memory>
 
 #include "core/data_changes.h"
+#include "core/nutrients.h"
+#include "core/reward_settings.h"
 #include "core/settings.h"
 #include "core/statistics.h"
 #include "platform/boxes.h"
@@ -47,6 +49,8 @@ class Session {
 
   Settings settings;
   Statistics statistics;     ///< what UpdateStats last found
+  Nutrients nutrients;
+  RewardSettings rewards;    ///< of the current profile
   QString UomDisplay;        ///< "Lbs" or "Kg": uom.UomDisplay of settings.UomID
 
   QString CurrentPersonID = QStringLiteral("1");  ///< "-1", "-2" samples; "0" nobody

@@ -10,7 +10,7 @@ namespace trimlog {
 
 class FixedClock final : public Clock {
  public:
-  explicit FixedClock(const QDateTime &now) : now(now) {}
+  explicit FixedClock(const QDateTime &start) : now(start) {}
   QDateTime Now() const override { return now; }
   QDateTime now;
 };
