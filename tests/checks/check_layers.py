@@ -1,0 +1,63 @@
+#!/usr/bin/env python3
+"""Holds the house to its plan: logic never reaches Qt Widgets, windows never include another room's window, arrows go
+down only, and boxes have one door.
+
+usage: check_layers.py SOURCE_DIR BUILD_DIR
+"""
+import json
+import pathlib
+import re
+import sys
+
+ROOMS = ["platform", "core", "health", "weightlog", "tools", "journal", "catalogs", "planner", "charts", "maintenance",
+         "companions"]
+WIDGET_HEADERS = re.compile(r'#include [<"](QtWidgets/|QWidget|QDialog|QMessageBox|QApplication|QTableView|QLineEdit|QLabel'
+                            r'|QPushButton|QMainWindow|QMenu|QComboBox|QLayout|QPainter|QPrinter)')
+
+
+def faults(root):
+    src = root / "src"
+    for path in sorted(src.rglob("*")):
+        if path.suffix not in (".cpp", ".h"):
+            continue
+        here = path.relative_to(src)
+        room, windows = here.parts[0], "windows" in here.parts
+        if room not in ROOMS:
+            continue
+        text = path.read_text("utf-8")
+        for number, line in enumerate(text.splitlines(), 1):
+            at = f"{path.relative_to(root)}:{number}"
+            if not windows and WIDGET_HEADERS.search(line):
+                yield f"{at}: logic includes a widget header"
+            included = re.match(r'#include "(\w+)/(windows/)?([\w.]+)"', line)
+            if included and included[1] in ROOMS:
+                if ROOMS.index(included[1]) > ROOMS.index(room):
+                    yield f"{at}: {room} includes the higher room {included[1]}"
+                if included[2] and not windows:
+                    yield f"{at}: logic includes a window"
+                if included[2] and included[1] != room and re.match(r"frm", included[3]):
+                    yield f"{at}: a window includes another room's window"
+            if re.search(r"\bQ(MessageBox|InputDialog|FileDialog)\b", line) and here.name not in (
+                    "qt_boxes.cpp", "qt_boxes.h"):
+                yield f"{at}: a box that does not go through the one door"
+            if windows and re.search(r'"(SELECT|INSERT INTO|UPDATE \w+ SET|DELETE) ', line):
+                yield f"{at}: a window holds SQL"
+
+
+def linked_widgets(build):
+    """Logic targets whose compile commands see the Qt Widgets headers."""
+    commands = json.loads((build / "compile_commands.json").read_text())
+    for command in commands:
+        path = command["file"]
+        if "/src/" in path and "/windows/" not in path and "/src/app/" not in path and "QtWidgets" in command["command"]:
+            yield f"{path}: a logic target is compiled with Qt Widgets in reach"
+
+
+def main():
+    root, build = pathlib.Path(sys.argv[1]), pathlib.Path(sys.argv[2])
+    found = list(faults(root)) + sorted(set(linked_widgets(build)))
+    print("\n".join(found) or "The layers hold.")
+    return 1 if found else 0
+
+
+sys.exit(main())
