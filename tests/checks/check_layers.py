@@ -44,18 +44,19 @@ def faults(root):
                 yield f"{at}: a window holds SQL"
 
 
-def linked_widgets(build):
+def linked_widgets(root, build):
     """Logic targets whose compile commands see the Qt Widgets headers."""
     commands = json.loads((build / "compile_commands.json").read_text())
     for command in commands:
         path = command["file"]
-        if "/src/" in path and "/windows/" not in path and "/src/app/" not in path and "QtWidgets" in command["command"]:
+        if (root / "src") in pathlib.Path(path).parents and "/windows/" not in path and "/src/app/" not in path \
+                and "QtWidgets" in command["command"]:
             yield f"{path}: a logic target is compiled with Qt Widgets in reach"
 
 
 def main():
     root, build = pathlib.Path(sys.argv[1]), pathlib.Path(sys.argv[2])
-    found = list(faults(root)) + sorted(set(linked_widgets(build)))
+    found = list(faults(root)) + sorted(set(linked_widgets(root, build)))
     print("\n".join(found) or "The layers hold.")
     return 1 if found else 0
 
