@@ -15,6 +15,8 @@ struct FailureExit {
   QString title;
   QString text;
   bool appendDescription = false;  ///< the error's description follows the text
+  /// Makes the log's message of the error's description, where the log tells more than that.
+  std::function<QString(const QString &description)> logMessage = {};
 };
 
 /// Runs the work. On any failure: shows the critical box, logs the description, returns false.

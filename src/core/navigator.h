@@ -30,6 +30,8 @@ struct Navigator {
   std::function<bool(QWidget *owner)> AddProfile;
   std::function<void(const QString &topic)> ShowHelp;
   std::function<void()> ExitProgram;                      ///< closes the frame
+  std::function<void()> ResetMainWindow;                  ///< the frame back to its first size, centred
+  std::function<void()> ResetQuickJournal;                ///< the Quick Journal back to its first place and size
 };
 
 }  // namespace trimlog
