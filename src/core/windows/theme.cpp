@@ -65,7 +65,7 @@ bool IsDark(const QPalette &palette) {
 void PaintPanel(QWidget *panel, quint32 backColor) {
   const QColor background = ColorFromBgr(backColor, QApplication::palette());
   const QColor text = ContrastText(background);
-  QPalette palette = QApplication::palette();
+  QPalette palette;  // only these two are set: all else stays the desktop's
   palette.setColor(QPalette::Window, background);
   palette.setColor(QPalette::WindowText, text);
   panel->setPalette(palette);
