@@ -50,16 +50,17 @@ int AgeInYears(const QDate &birthDate, const QDate &today);
 /// Metabolism in Man", 1919, constants rounded). `age` in years, `height` in inches or centimetres. Not rounded. A
 /// kilogram counts as 2.2046 lbs, an inch as 2.54 cm.
 double CalcBMR(double weight, int age, int height, int gender, int UomID);
-/// The session's profile on a date: its latest weight on or before the date, its age as the difference of calendar years.
-/// 0 when there is no such weight or no birth date: no rate can be told for that day.
+/// The session's profile on a date: its latest weight on or before the date, its age as the difference of calendar
+/// years. 0 when there is no such weight or no birth date: no rate can be told for that day.
 double CalcBMR(const Session &session, const QDate &date);
 
-/// Body fat as a fraction (0.2 = 20 percent) from the waist and the weight, never below 0. The regression is the waist
-/// and weight estimate of P. Wright and R. Wilmore (1974) in its customary form for pounds and inches: 98.42 is the men's
-/// constant, 76.76 the women's. Throws divisionByZero for a weight of 0.
+/// Body fat as a fraction (0.2 = 20 percent) from the waist and the weight, never below 0. The regression of lean mass
+/// on weight and waist is J. H. Wilmore's and A. R. Behnke's (Journal of Applied Physiology 27, 1969), in the form for
+/// pounds and inches that the YMCA's fitness tests made common (L. A. Golding and others, "The Y's Way to Physical
+/// Fitness", 1982): 98.42 is the men's constant, 76.76 the women's. Throws divisionByZero for a weight of 0.
 double CalcBodyFat(double waist, double weight, int gender, int UomID);
-/// The same for the session's profile: `gender` 0 takes the profile's; a valid `date` replaces `weight` by the latest one
-/// on or before it, and the result is 0 when there is none.
+/// The same for the session's profile: `gender` 0 takes the profile's; a valid `date` replaces `weight` by the latest
+/// one on or before it, and the result is 0 when there is none.
 double CalcBodyFat(const Session &session, double waist, double weight, int gender, const QDate &date);
 
 }  // namespace trimlog

@@ -9,8 +9,8 @@ namespace trimlog {
 
 class Session;
 
-/// The day rule that the calendar, the journal and the charts share: eaten - burned - basal, where a blank sum counts as
-/// nothing. No value when both sums are blank. `basal` is the day's rate as a whole number, 0 where it is left out.
+/// The day rule that the calendar, the journal and the charts share: eaten - burned - basal, where a blank sum counts
+/// as nothing. No value when both sums are blank. `basal` is the day's rate as a whole number, 0 where it is left out.
 std::optional<double> NetCalories(const QString &caloriesEaten, const QString &caloriesBurned, int basal);
 
 struct NetCaloriesDay {
