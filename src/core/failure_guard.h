@@ -8,7 +8,8 @@
 
 namespace trimlog {
 
-/// The one failure exit of a business procedure: who it is, and the box that a failure shows. An empty text shows no box.
+/// The one failure exit of a business procedure: who it is, and the box that a failure shows. An empty text shows no
+/// box.
 struct FailureExit {
   QString module;
   QString procedure;

@@ -23,7 +23,7 @@ struct SessionPlaces {
   Clock &clock;
   Machine &machine;
   Boxes &boxes;
-  QLocale locale;            ///< number and date forms that the person reads and types
+  QLocale locale;  ///< number and date forms that the person reads and types
 };
 
 /// The state that the whole program shares, made once by main() and handed to whoever needs it. Owns the one connection
@@ -48,16 +48,16 @@ class Session {
   std::unique_ptr<Database> database;
 
   Settings settings;
-  Statistics statistics;     ///< what UpdateStats last found
+  Statistics statistics;  ///< what UpdateStats last found
   Nutrients nutrients;
-  RewardSettings rewards;    ///< of the current profile
-  QString UomDisplay;        ///< "Lbs" or "Kg": uom.UomDisplay of settings.UomID
+  RewardSettings rewards;  ///< of the current profile
+  QString UomDisplay;      ///< "Lbs" or "Kg": uom.UomDisplay of settings.UomID
 
   QString CurrentPersonID = QStringLiteral("1");  ///< "-1", "-2" samples; "0" nobody
-  QString LastRealPersonID;  ///< survives into the next run; never a sample
-  quint32 BackColor = 0xFFE0C0;  ///< colour scheme of the profile, blue-green-red byte order
-  int NutTargetID = 30;      ///< the current target set; 0 for none
-  bool ReloadInProgress = false;  ///< set by backup, restore and import; never cleared
+  QString LastRealPersonID;                       ///< survives into the next run; never a sample
+  quint32 BackColor = 0xFFE0C0;                   ///< colour scheme of the profile, blue-green-red byte order
+  int NutTargetID = 30;                           ///< the current target set; 0 for none
+  bool ReloadInProgress = false;                  ///< set by backup, restore and import; never cleared
   bool AboutMode = false;
   bool DecimalComma = false;
   bool BizEd = false;
@@ -68,17 +68,20 @@ class Session {
   bool SuppressReward = false;  ///< set when a navigation button is pressed, cleared when a weight cell gets the focus
   bool PasswordAccepted = true;
 
-  QDate FirstWeightDate;     ///< invalid: the profile has no weights
+  QDate FirstWeightDate;  ///< invalid: the profile has no weights
   QDate LastWeightDate;
-  QDate RememberedDate;      ///< the calendar's last active date; cleared by LoadData
+  QDate RememberedDate;  ///< the calendar's last active date; cleared by LoadData
 
   WindowPlace framePlace;
   int frameWindowState = 0;  ///< 0 normal, 2 maximised
   WindowPlace quickJournalPlace;
 
-  bool IsSample() const;     ///< the current profile is one of "-1" to "-4"
+  bool IsSample() const;         ///< the current profile is one of "-1" to "-4"
   QString DataFilePath() const;  ///< programDirectory/tlg.dat
   QDate Today() const { return clock.Today(); }
 };
+
+/// "-1" to "-4": the numbers kept for sample profiles.
+bool IsSampleProfile(const QString &personID);
 
 }  // namespace trimlog

@@ -13,20 +13,21 @@ namespace trimlog {
 /// Throws invalidSql (unknown pattern).
 QString Format(double value, const QString &pattern, const QLocale &locale = QLocale::c());
 
-/// Formats a date: "short date" (the locale's), "mmmm, yyyy", "mmm", "d", "dd", "m", "mm", "yy", "yyyy", "ddd", "dddd", "w"
-/// and literal characters between them. An invalid date gives "".
+/// Formats a date: "short date" (the locale's), "mmmm, yyyy", "mmm", "d", "dd", "m", "mm", "yy", "yyyy", "ddd", "dddd",
+/// "w" and literal characters between them. An invalid date gives "".
 QString FormatDate(const QDate &date, const QString &pattern, const QLocale &locale = QLocale::c());
 
 /// A double in its shortest plain form: "93.5", "1234", "-0.25"; never an exponent below 1e15.
 QString PlainText(double value);
 
 /// A typed number. Blanks around it are ignored; the locale's decimal sign counts, and in a comma locale the point too.
-/// A grouping sign counts only where it stands between whole groups before a decimal sign or cannot be taken for a decimal
-/// sign: "93,5" is never 935 and "1.234" never 1234 (both are 93.5 and 1.234 in a comma locale). Full-width digits are
-/// digits. Empty, "12.3.4", "1e309", "nan" and "inf" are no numbers.
+/// A grouping sign counts only where it stands between whole groups before a decimal sign or cannot be taken for a
+/// decimal sign: "93,5" is never 935 and "1.234" never 1234 (both are 93.5 and 1.234 in a comma locale). Full-width
+/// digits are digits. Empty, "12.3.4", "1e309", "nan" and "inf" are no numbers.
 std::optional<double> ParseNumber(const QString &text, const QLocale &locale = QLocale::c());
 bool IsNumeric(const QString &text, const QLocale &locale = QLocale::c());
-/// The number that a text begins with, 0 when it begins with none; point only, whatever the locale ("12.5 lbs" -> 12.5).
+/// The number that a text begins with, 0 when it begins with none; point only, whatever the locale ("12.5 lbs"
+/// -> 12.5).
 double Val(const QString &text);
 /// 0 for empty or non-numeric text.
 double ValueOrZero(const QString &text, const QLocale &locale = QLocale::c());
