@@ -26,7 +26,7 @@ bool Guarded(Session &session, const FailureExit &exit, const std::function<void
   const std::optional<QString> failure = FailureOf(work);
   if (!failure) return true;
   // Logged before the box: a box left standing must not lose the line.
-  LogError(session, exit.module, exit.procedure, *failure);
+  LogError(session, exit.module, exit.procedure, exit.logMessage ? exit.logMessage(*failure) : *failure);
   if (!exit.text.isEmpty()) {
     session.boxes.Critical(exit.title, exit.appendDescription ? exit.text + *failure : exit.text);
   }
