@@ -23,13 +23,13 @@ struct ProfileEntry {
 QList<ProfileEntry> FillProfilesArray(Session &session);
 
 enum class ProfileCommand {
-  Load,             ///< an ordinary profile
-  LoadSample,       ///< a sample: loaded, then welcomed by ShowSampleWelcome
+  Load,        ///< an ordinary profile
+  LoadSample,  ///< a sample: loaded, then welcomed by ShowSampleWelcome
   Separator,
   CreateProfile,
   EditProfiles,
-  SelectProfile,    ///< only with the Profile Administrator
-  Administrator,    ///< only with the Profile Administrator
+  SelectProfile,  ///< only with the Profile Administrator
+  Administrator,  ///< only with the Profile Administrator
 };
 
 /// One entry of the Profiles menu, mnuProfileNames(index). The caption is ready for a menu: a name's own ampersands are
@@ -48,8 +48,8 @@ QList<ProfileMenuEntry> ProfilesMenuEntries(const Session &session, const QList<
 void ShowSampleWelcome(Session &session, const QString &personID);
 
 /// Makes a profile the session's own: person, colour scheme, target set, rewards, nutrients, statistics; clears the
-/// weight dates and the remembered date. Asks for no password and touches no window: LoadData does that around it. Start
-/// calls it too, when the sign-in window chose another profile than the one start had read, or was cancelled.
+/// weight dates and the remembered date. Asks for no password and touches no window: LoadData does that around it.
+/// Start calls it too, when the sign-in window chose another profile than the one start had read, or was cancelled.
 void ApplyProfile(Session &session, const RoomHooks &hooks, const QString &personID);
 
 /// The exit of LoadData as a whole, for Guarded.
@@ -62,8 +62,8 @@ bool HasNoProfiles(Session &session);
 /// caller then loads profile 1.
 bool ResetWeightLossData(Session &session);
 
-/// The administrator's row in an installation with the Profile Administrator; does nothing without it, or when the row is
-/// there. An ordinary profile that holds PersonID 1 moves to the next free key with all its data.
+/// The administrator's row in an installation with the Profile Administrator; does nothing without it, or when the row
+/// is there. An ordinary profile that holds PersonID 1 moves to the next free key with all its data.
 void CreateAdminProfile(Session &session);
 
 }  // namespace trimlog

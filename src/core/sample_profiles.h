@@ -6,8 +6,8 @@
 
 namespace trimlog {
 
-/// Puts a sample profile ("-1" or "-2") back to its pristine copy, in one transaction; any other profile is left alone. A
-/// failure shows its box, logs the failing statement and leaves the profile as it was.
+/// Puts a sample profile ("-1" or "-2") back to its pristine copy, in one transaction; any other profile is left alone.
+/// A failure shows its box, logs the failing statement and leaves the profile as it was.
 void ResetSampleProfile(Session &session, const QString &personID);
 
 /// The question before it. True for Yes.

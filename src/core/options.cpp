@@ -1,0 +1,90 @@
+#include "core/options.h"
+
+#include "core/data_access.h"
+#include "platform/recordset.h"
+
+namespace trimlog {
+
+const QList<OptionChoice> &LineWidths() {
+  static const QList<OptionChoice> widths = {{1, QStringLiteral("Very Fine (default)")},
+                                             {2, QStringLiteral("Fine")},
+                                             {3, QStringLiteral("Medium")},
+                                             {4, QStringLiteral("Thick")},
+                                             {6, QStringLiteral("Very Thick")},
+                                             {8, QStringLiteral("Huge")}};
+  return widths;
+}
+
+const QList<OptionChoice> &DiaryTabs() {
+  static const QList<OptionChoice> tabs = {{0, QStringLiteral("Notes")},
+                                           {1, QStringLiteral("Meals/Snacks")},
+                                           {2, QStringLiteral("Exercises/Workouts")},
+                                           {3, QStringLiteral("Body Measurements")}};
+  return tabs;
+}
+
+const QList<OptionChoice> &BodyTypes() {
+  static const QList<OptionChoice> types = {{1, QStringLiteral("Chest")},   {2, QStringLiteral("Waist")},
+                                            {3, QStringLiteral("Hips")},    {4, QStringLiteral("Biceps")},
+                                            {5, QStringLiteral("Forearm")}, {6, QStringLiteral("Thigh")},
+                                            {7, QStringLiteral("Calf")},    {8, QStringLiteral("Body Fat %")}};
+  return types;
+}
+
+const QList<QString> &ChartNames() {
+  static const QList<QString> names = {QStringLiteral("Weight Lost by Week"), QStringLiteral("Your Weight"),
+                                       QStringLiteral("Nutrients and Calories"),
+                                       QStringLiteral("Your Body Measurements")};
+  return names;
+}
+
+QList<OptionChoice> UnitChoices(Session &session) {
+  QList<OptionChoice> units;
+  Recordset rows = session.Data().OpenRecordset(QStringLiteral("SELECT uom.* FROM uom ORDER BY uom.UomID;"));
+  for (; !rows.Eof(); rows.MoveNext()) {
+    units.append({rows.Integer(QStringLiteral("UomID")), rows.Text(QStringLiteral("UomDescription"))});
+  }
+  return units;
+}
+
+QList<OptionChoice> NutrientChoices(Session &session) {
+  QList<OptionChoice> choices = {{caloriesConsumedID, QStringLiteral("Calories Consumed (kcal)")},
+                                 {caloriesBurnedID, QStringLiteral("Calories Burned (kcal)")},
+                                 {netCaloriesID, QStringLiteral("Net Calories (kcal)")}};
+  Recordset rows = session.Data().OpenRecordset(
+      QStringLiteral("SELECT nutrients.* FROM nutrients WHERE (nutrients.NutrientID > 1) ORDER BY "
+                     "nutrients.NutSortOrder;"));
+  for (; !rows.Eof(); rows.MoveNext()) {
+    choices.append({rows.Integer(QStringLiteral("NutrientID")), rows.Text(QStringLiteral("NutDescPlusUoM"))});
+  }
+  return choices;
+}
+
+UnitLabels LabelsOf(int uomID) {
+  if (uomID == 1) {
+    return {QStringLiteral("lbs."), QStringLiteral("Ht (ft.)"), QStringLiteral("Ht (in.)"),
+            QStringLiteral("Goal (lbs.)")};
+  }
+  return {QStringLiteral("kg."), QStringLiteral("Ht (m.)"), QStringLiteral("Ht (cm.)"), QStringLiteral("Goal (kg.)")};
+}
+
+void RereadNutrientID(Session &session) {
+  session.settings.NutrientID =
+      session.store.GetSettingLong(settingsRoot, QStringLiteral("NutrientID"), session.settings.NutrientID);
+}
+
+void StoreOptions(Session &session, const Settings &edited) {
+  session.settings = edited;
+  session.UomDisplay = GetDataValue(session.Data(), QStringLiteral("UomDisplay"), QStringLiteral("uom"),
+                                    QStringLiteral("((uom.UomID)=?)"), {}, {edited.UomID});
+  SaveControlValues(session.settings, session.store);
+  session.changes.AnnounceSettings();
+}
+
+void StoreLossFactor(Session &session, int lossFactor) {
+  session.settings.LossFactor = lossFactor;
+  SaveSetting(session.settings, session.store, QStringLiteral("LossFactor"));
+  session.changes.AnnounceSettings();
+}
+
+}  // namespace trimlog

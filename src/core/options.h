@@ -1,0 +1,48 @@
+#pragma once
+
+#include <QList>
+#include <QString>
+
+#include "core/session.h"
+
+namespace trimlog {
+
+/// One entry of a list in the options window: the value kept and the text shown.
+struct OptionChoice {
+  int value = 0;
+  QString text;
+};
+
+const QList<OptionChoice> &LineWidths();  ///< settings LineWidth1 to 4, in pixels
+const QList<OptionChoice> &DiaryTabs();   ///< setting DefaultDiaryTab
+const QList<OptionChoice> &BodyTypes();   ///< setting BodyMeasDefault, 1 to 8
+const QList<QString> &ChartNames();       ///< charts 1 to 4, at 0 to 3
+/// The two unit systems of the data file.
+QList<OptionChoice> UnitChoices(Session &session);
+/// What the calendar's figure of the day can be: calories consumed (1), burned (101), net (102), then every other
+/// nutrient with its unit.
+QList<OptionChoice> NutrientChoices(Session &session);
+
+inline constexpr int caloriesConsumedID = 1;
+inline constexpr int caloriesBurnedID = 101;
+inline constexpr int netCaloriesID = 102;
+
+/// The words of a unit system.
+struct UnitLabels {
+  QString weight;        ///< "lbs." or "kg."
+  QString HeightFeet;    ///< "Ht (ft.)" or "Ht (m.)"
+  QString HeightInches;  ///< "Ht (in.)" or "Ht (cm.)"
+  QString Goal;          ///< "Goal (lbs.)" or "Goal (kg.)"
+};
+UnitLabels LabelsOf(int uomID);
+
+/// Reads the setting NutrientID afresh from the store: the calendar and chart 3 write it too.
+void RereadNutrientID(Session &session);
+
+/// Takes over what the options window edited: the session's settings and unit label, then the store; announces it.
+void StoreOptions(Session &session, const Settings &edited);
+
+/// Stores the sign of losses at once: 1 shows a loss as positive, -1 as negative.
+void StoreLossFactor(Session &session, int lossFactor);
+
+}  // namespace trimlog
