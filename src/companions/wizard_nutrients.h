@@ -1,0 +1,37 @@
+#pragma once
+
+#include <QList>
+#include <QString>
+
+#include "companions/wizard_answers.h"
+#include "core/session.h"
+
+namespace trimlog {
+
+/// One diet plan of the wizard; the key names its preset row in selected_nutrients.
+struct DietPlan {
+  QString key;
+  QString name;
+};
+/// In the order of the list.
+const QList<DietPlan> &DietPlans();
+
+/// The target set recommended for a person's age on `today` and gender. Ages under 11 take the adult band.
+QString GetRDATargetID(const QDate &birthDate, bool genderMale, const QDate &today);
+
+/// Fills the work table temp_meals_search with the nutrients to choose from: MealID the nutrient, MealDesc its name,
+/// IsModified the tick, MealGroupID the order, Amount the target. The diet's preset is ticked and stands on top. One
+/// transaction.
+void FillWizardNutrients(Session &session, const WizardAnswers &answers);
+
+/// The note above the list: where its first targets come from.
+QString WizardTargetsNote(const QString &diet);
+
+/// How many nutrients are ticked.
+int CountWizardNutrients(Session &session);
+/// "<count> Nutrients Selected So Far".
+QString WizardCountText(int count);
+/// Shows why the nutrient step cannot be left; true when it can.
+bool CheckWizardNutrients(Session &session);
+
+}  // namespace trimlog

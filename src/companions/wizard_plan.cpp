@@ -1,0 +1,50 @@
+#include "companions/wizard_plan.h"
+
+#include "platform/error.h"
+
+namespace trimlog {
+
+WizardPlan::WizardPlan(bool addingProfile, bool manyColors) : addingProfile_(addingProfile) {
+  if (addingProfile) {
+    steps_ = {WizardStep::Profile, WizardStep::WeightAndDiet};
+    return;
+  }
+  steps_ = {WizardStep::Introduction, WizardStep::Profile, WizardStep::WeightAndDiet, WizardStep::Nutrients};
+  if (manyColors) steps_.append(WizardStep::Colors);
+}
+
+WizardStep WizardPlan::StepAt(int number) const {
+  if (number < 1 || number > WizardSteps()) {
+    throw Error(error_number::outOfBounds, QStringLiteral("Internal Wizard Error"));
+  }
+  return steps_[number - 1];
+}
+
+QString WizardPlan::TitleOf(int number) const {
+  QString title;
+  switch (StepAt(number)) {
+    case WizardStep::Introduction:
+      title = QStringLiteral("Introduction to this Wizard");
+      break;
+    case WizardStep::Profile:
+      title = QStringLiteral("Your Profile Information");
+      break;
+    case WizardStep::WeightAndDiet:
+      title = addingProfile_ ? QStringLiteral("Your Weight Information")
+                             : QStringLiteral("Your Weight and Diet Information");
+      break;
+    case WizardStep::Nutrients:
+      title = QStringLiteral("Your Nutrient Selections");
+      break;
+    case WizardStep::Colors:
+      title = QStringLiteral("Your Color Scheme");
+      break;
+  }
+  return title + QStringLiteral(" (Step %1 of %2)").arg(number).arg(WizardSteps());
+}
+
+QString WizardPlan::NextCaption(int number) const {
+  return number == WizardSteps() ? QStringLiteral("&Finish") : QStringLiteral("&Next");
+}
+
+}  // namespace trimlog

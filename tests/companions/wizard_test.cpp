@@ -1,0 +1,176 @@
+#include <gtest/gtest.h>
+
+#include "companions/wizard_answers.h"
+#include "companions/wizard_finish.h"
+#include "companions/wizard_nutrients.h"
+#include "companions/wizard_plan.h"
+#include "platform/recordset.h"
+#include "support/test_session.h"
+
+namespace trimlog {
+namespace {
+
+const QLocale english(QLocale::English, QLocale::UnitedStates);
+const QLocale german(QLocale::German, QLocale::Germany);
+
+QStringList Titles(const WizardPlan &plan) {
+  QStringList titles;
+  for (int step = 1; step <= plan.WizardSteps(); ++step) titles.append(plan.TitleOf(step));
+  return titles;
+}
+
+TEST(WizardPlan, NamesItsStepsByModeAndScreen) {
+  EXPECT_EQ(Titles(WizardPlan(false, true)),
+            (QStringList{"Introduction to this Wizard (Step 1 of 5)", "Your Profile Information (Step 2 of 5)",
+                         "Your Weight and Diet Information (Step 3 of 5)", "Your Nutrient Selections (Step 4 of 5)",
+                         "Your Color Scheme (Step 5 of 5)"}));
+  EXPECT_EQ(Titles(WizardPlan(false, false)).last(), "Your Nutrient Selections (Step 4 of 4)");
+  EXPECT_EQ(Titles(WizardPlan(true, true)),
+            (QStringList{"Your Profile Information (Step 1 of 2)", "Your Weight Information (Step 2 of 2)"}));
+  EXPECT_EQ(WizardPlan(true, true).NextCaption(1), "&Next");
+  EXPECT_EQ(WizardPlan(true, true).NextCaption(2), "&Finish");
+  EXPECT_THROW(WizardPlan(true, true).StepAt(3), Error);
+}
+
+TEST(WizardFields, AreMendedOnLeaving) {
+  EXPECT_EQ(RepairedNumber("abc", english), "0");
+  EXPECT_EQ(RepairedNumber("0.99", english), "0");
+  EXPECT_EQ(RepairedNumber("93,5", german), "93,5");
+  EXPECT_EQ(RepairedHeight2("12", 1, english), "11");
+  EXPECT_EQ(RepairedHeight2("12", 2, english), "12");
+  EXPECT_EQ(RepairedHeight2("-3", 1, english), "0");
+  EXPECT_EQ(RepairedBirthDate("soon", QDate(2024, 2, 29), english), "2/28/1994");
+  EXPECT_EQ(RepairedBirthDate("5/6/1990", QDate(2026, 3, 1), english), "5/6/1990");
+  EXPECT_EQ(RepairedPersonName("  "), "New Profile");
+}
+
+TEST(WizardNutrients, RecommendTheBandOfAgeAndGender) {
+  const QDate today(2026, 3, 1);
+  const std::vector<std::tuple<int, const char *, const char *>> bands = {
+      {10, "13", "23"}, {11, "10", "20"}, {14, "10", "20"}, {15, "11", "21"}, {18, "11", "21"}, {19, "12", "22"},
+      {24, "12", "22"}, {25, "13", "23"}, {50, "13", "23"}, {51, "14", "24"}, {90, "14", "24"}};
+  for (const auto &[age, male, female] : bands) {
+    const QDate birth = today.addYears(-age);
+    EXPECT_EQ(GetRDATargetID(birth, true, today), male) << age;
+    EXPECT_EQ(GetRDATargetID(birth, false, today), female) << age;
+  }
+  EXPECT_EQ(GetRDATargetID(QDate(1975, 3, 2), true, today), "13") << "fifty until tomorrow";
+}
+
+WizardAnswers Answers(const QString &diet) {
+  WizardAnswers answers;
+  answers.PersonName = QStringLiteral("O'Brien \"Bo\"");
+  answers.height1 = 5;
+  answers.height2 = 6;
+  answers.birthDate = QDate(1990, 1, 1);
+  answers.startingWeight = 185.5;
+  answers.startingDate = QDate(2026, 3, 1);
+  answers.goal = 150;
+  answers.diet = diet;
+  return answers;
+}
+
+QString TargetOf(TestSession &session, int nutrientID) {
+  return session.ValueOf(QStringLiteral("Amount"), QStringLiteral("temp_meals_search"),
+                         QStringLiteral("MealID=%1").arg(nutrientID));
+}
+
+TEST(WizardNutrients, FollowTheDiet) {
+  TestSession session;
+  struct Case {
+    const char *diet;
+    int nutrientID;
+    const char *target;
+  };
+  const std::vector<Case> cases = {{"101", 33, "20"},   {"101", 2, "None"}, {"102", 2, "133"},  {"102", 27, "40"},
+                                   {"102", 1, "None"},  {"103", 4, "120"},  {"104", 1, "2200"}, {"106", 13, "1.6"},
+                                   {"106", 11, "4000"}, {"100", 20, "None"}};
+  for (const Case &c : cases) {
+    FillWizardNutrients(*session, Answers(QString::fromLatin1(c.diet)));
+    EXPECT_EQ(TargetOf(session, c.nutrientID), c.target) << c.diet << " nutrient " << c.nutrientID;
+    EXPECT_EQ(CountWizardNutrients(*session), 10) << c.diet;
+  }
+  EXPECT_EQ(session.ValueOf("Count(*) AS N", "temp_meals_search", "MealID BETWEEN 28 AND 32"), "");
+  const Recordset rows = session.Data().OpenRecordset("SELECT Count(*) AS N FROM temp_meals_search;");
+  EXPECT_EQ(rows.Integer("N"), 30) << "35 nutrients without the five custom ones";
+}
+
+TEST(WizardNutrients, TheCustomizedPlanStartsWithTheChosenNutrient) {
+  TestSession session;
+  WizardAnswers answers = Answers(QStringLiteral("108"));
+  answers.nutrientID = 15;
+  FillWizardNutrients(*session, answers);
+  Recordset rows = session.Data().OpenRecordset(
+      "SELECT temp_meals_search.* FROM temp_meals_search WHERE (IsModified=True) ORDER BY MealGroupID;");
+  EXPECT_EQ(rows.RecordCount(), 10);
+  EXPECT_EQ(rows.Integer("MealID"), 15);
+}
+
+TEST(WizardNutrients, RefuseNoneAndMoreThanTen) {
+  TestSession session;
+  FillWizardNutrients(*session, Answers(QStringLiteral("100")));
+  EXPECT_TRUE(CheckWizardNutrients(*session));
+  session.Data().Execute("UPDATE temp_meals_search SET IsModified = True WHERE (MealID=15);");
+  session.boxes.Expect(
+      "Too Many Nutrients",
+      "It appears that you have selected 11 nutrients.  Please select just 10 nutrients from the list.");
+  EXPECT_FALSE(CheckWizardNutrients(*session));
+  session.Data().Execute("UPDATE temp_meals_search SET IsModified = False;");
+  session.boxes.Expect("Not Enough Nutrients",
+                       "It appears that you have not selected any nutrients.  Please select at "
+                       "least one nutrient from the list.");
+  EXPECT_FALSE(CheckWizardNutrients(*session));
+}
+
+/// A file as it is shipped: nobody but the samples.
+void ForgetProfiles(TestSession &session) {
+  session.Data().Execute("DELETE people.*, people.PersonID FROM people WHERE (people.PersonID > 0);");
+}
+
+TEST(WizardFinish, TheFirstRunWritesProfileWeightTargetsAndSelection) {
+  TestSession session;
+  ForgetProfiles(session);
+  EXPECT_TRUE(NeedsWizard(*session));
+  WizardAnswers answers = Answers(QStringLiteral("108"));
+  answers.nutrientID = 15;
+  FillWizardNutrients(*session, answers);
+  session.Data().Execute("UPDATE temp_meals_search SET Amount = \"77,5\" WHERE (MealID=1);");
+  session.Data().Execute("UPDATE temp_meals_search SET Amount = \"1800.5\" WHERE (MealID=2);");
+
+  EXPECT_EQ(FinishWizard(*session, answers, false), "1");
+  EXPECT_EQ(session.ValueOf("PersonName", "people", "PersonID=1"), "O'Brien ''Bo''");
+  EXPECT_EQ(session.ValueOf("Goal", "people", "PersonID=1"), "150");
+  EXPECT_EQ(session.ValueOf("GenderID", "people", "PersonID=1"), "2");
+  EXPECT_EQ(session.ValueOf("BackColor", "people", "PersonID=1"), "16769216");
+  EXPECT_EQ(session.ValueOf("ThisWeight", "weight_loss", "PersonID=1 AND ThisDate=#3/1/2026#"), "185.5");
+  const QString set = session.ValueOf("NutTargetID", "people", "PersonID=1");
+  EXPECT_EQ(session.ValueOf("TargetDesc", "nutrition_targets", "TargetID=" + set), "My Targets");
+  EXPECT_EQ(session.ValueOf("Carbs", "nutrition_targets", "TargetID=" + set), "1800.5");
+  EXPECT_EQ(session.ValueOf("Iron", "nutrition_targets", "TargetID=" + set), "") << "not ticked: no target";
+  EXPECT_EQ(session.ValueOf("NutrientID1", "selected_nutrients", "PersonID=1"), "15");
+  EXPECT_EQ(session.ValueOf("NutDescription1", "selected_nutrients", "PersonID=1"), "Vit C");
+  EXPECT_EQ(session->settings.NutrientID, 15);
+}
+
+TEST(WizardFinish, AFurtherProfileLeavesTheSelectionAlone) {
+  TestSession session;
+  FillWizardNutrients(*session, Answers(QStringLiteral("101")));
+  const QString before = session.ValueOf("NutrientID1", "selected_nutrients", "PersonID=1");
+  const QString sets = session.ValueOf("Max(TargetID) AS M", "nutrition_targets");
+  EXPECT_EQ(FinishWizard(*session, Answers(QStringLiteral("101")), true), "2");
+  EXPECT_EQ(session.ValueOf("NutrientID1", "selected_nutrients", "PersonID=1"), before);
+  EXPECT_EQ(session.ValueOf("Max(TargetID) AS M", "nutrition_targets"), sets);
+  EXPECT_EQ(session->settings.NutrientID, 102);
+}
+
+TEST(WizardFinish, WritesAllOrNothing) {
+  TestSession session;
+  WizardAnswers answers = Answers(QStringLiteral("101"));
+  session.Data().Execute("DELETE selected_nutrients.*, selected_nutrients.PersonID FROM selected_nutrients;");
+  session.Data().Execute("ALTER TABLE selected_nutrients RENAME TO gone;");
+  EXPECT_THROW(FinishWizard(*session, answers, false), Error);
+  EXPECT_EQ(session.ValueOf("PersonName", "people", "PersonID=2"), "");
+}
+
+}  // namespace
+}  // namespace trimlog
