@@ -3,6 +3,7 @@
 #include <QList>
 #include <QString>
 #include <QStringList>
+#include <functional>
 #include <optional>
 
 namespace trimlog {
@@ -17,6 +18,7 @@ struct Box {
   BoxIcon icon = BoxIcon::None;
   QList<BoxButton> buttons = {BoxButton::Ok};
   BoxButton defaultButton = BoxButton::Ok;  ///< ignored when not among the buttons: then the first one
+  std::function<void()> help = nullptr;     ///< when set, the box has a Help button that calls it and stays open
 };
 
 /// The one door to message boxes, input boxes and file dialogs. A test answers it from a queue.
