@@ -20,10 +20,6 @@ constexpr double poundsPerKilogram = 2.2046;
 constexpr double centimetresPerInch = 2.54;
 constexpr double metresPerInch = 0.0254;
 
-double HeightInMetres(double heightFeet, double heightInches, int UomID) {
-  return UomID == poundsSystem ? (heightFeet * 12 + heightInches) * metresPerInch : heightFeet + heightInches / 100;
-}
-
 bool DayReached(const QDate &from, const QDate &to) { return to.day() >= from.day(); }
 
 int CompletedMonths(const QDate &from, const QDate &to) {
@@ -51,11 +47,19 @@ BodyProfile ReadBodyProfile(const Session &session) {
           people.Number(QStringLiteral("HeightFeet")), people.Number(QStringLiteral("HeightInches"))};
 }
 
-int CalcBMI(double weight, double heightFeet, double heightInches, int UomID) {
+double HeightInMetres(double heightFeet, double heightInches, int UomID) {
+  return UomID == poundsSystem ? (heightFeet * 12 + heightInches) * metresPerInch : heightFeet + heightInches / 100;
+}
+
+double UnroundedBMI(double weight, double heightFeet, double heightInches, int UomID) {
   const double height = HeightInMetres(heightFeet, heightInches, UomID);
   if (!(height > 0)) throw Error(error_number::divisionByZero, QStringLiteral("The height is not a positive number."));
   const double kilograms = UomID == poundsSystem ? weight * kilogramsPerPoundInIndex : weight;
-  return Whole(kilograms / (height * height));
+  return kilograms / (height * height);
+}
+
+int CalcBMI(double weight, double heightFeet, double heightInches, int UomID) {
+  return Whole(UnroundedBMI(weight, heightFeet, heightInches, UomID));
 }
 
 int CalcBMI(const Session &session, double weight) {

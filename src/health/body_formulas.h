@@ -23,10 +23,14 @@ struct BodyProfile {
 };
 BodyProfile ReadBodyProfile(const Session &session);
 
+double HeightInMetres(double heightFeet, double heightInches, int UomID);
+
 /// The body mass index, weight in kilograms over height in metres squared (Adolphe Quetelet, "Sur l'homme", 1835),
 /// rounded to a whole number, halves to even; the whole number is what the risk bands compare. A pound counts as
 /// 0.454 kg. Throws divisionByZero for a height of 0 or less, overflow beyond the 16-bit range.
 int CalcBMI(double weight, double heightFeet, double heightInches, int UomID);
+/// The same before it is rounded.
+double UnroundedBMI(double weight, double heightFeet, double heightInches, int UomID);
 /// The same with the height of the session's profile.
 int CalcBMI(const Session &session, double weight);
 

@@ -1,0 +1,81 @@
+#include "tools/tools_profile.h"
+
+#include "platform/recordset.h"
+#include "platform/text_format.h"
+
+namespace trimlog {
+
+namespace {
+
+/// A number kept as text or as a number in the file, as the person reads it.
+QString StoredNumberText(const QString &stored, const QLocale &locale) {
+  const std::optional<double> value = ParseNumber(stored);
+  return value ? NumberText(*value, locale) : stored;
+}
+
+void ReadPlan(ToolsProfile &profile, const Session &session) {
+  const Recordset datPeople = session.Data().OpenRecordset(
+      QStringLiteral("SELECT people.* from people WHERE PersonID=?;"), {session.CurrentPersonID.toInt()});
+  if (datPeople.Eof()) return;
+  profile.Goal = StoredNumberText(datPeople.Text(QStringLiteral("Goal")), session.locale);
+  profile.method = datPeople.Integer(QStringLiteral("GoalMethodID")) == 1 ? GoalMethod::ByRate : GoalMethod::ByDate;
+  profile.GoalMethodDate = datPeople.Field(QStringLiteral("GoalMethodDate")).toDate();
+  profile.GoalMethodLbsWeek = StoredNumberText(datPeople.Text(QStringLiteral("GoalMethodLbsWeek")), session.locale);
+}
+
+void ReadWeights(ToolsProfile &profile, const Session &session) {
+  Recordset weights = session.Data().OpenRecordset(
+      QStringLiteral("SELECT weight_loss.ThisDate, weight_loss.ThisWeight FROM weight_loss "
+                     "WHERE (weight_loss.PersonID=?) ORDER BY weight_loss.ThisDate; "),
+      {session.CurrentPersonID.toInt()});
+  if (weights.Eof()) return;
+  const auto entry = [&weights] {
+    return WeightEntry{weights.Field(QStringLiteral("ThisDate")).toDate(),
+                       weights.Number(QStringLiteral("ThisWeight"))};
+  };
+  profile.initialWeight = entry();
+  weights.MoveLast();
+  profile.currentWeight = entry();
+}
+
+void ReadWaist(ToolsProfile &profile, const Session &session) {
+  Recordset measurements =
+      session.Data().OpenRecordset(QStringLiteral("SELECT measurements.ThisDate, measurements.Waist FROM measurements "
+                                                  "WHERE (measurements.PersonID=?) ORDER BY measurements.ThisDate; "),
+                                   {session.CurrentPersonID.toInt()});
+  if (measurements.Eof()) return;
+  measurements.MoveLast();
+  if (!measurements.Text(QStringLiteral("Waist")).isEmpty()) {
+    profile.LatestWaist = measurements.Number(QStringLiteral("Waist"));
+  }
+}
+
+}  // namespace
+
+ToolsProfile ReadToolsProfile(const Session &session) {
+  ToolsProfile profile;
+  profile.body = ReadBodyProfile(session);
+  ReadPlan(profile, session);
+  ReadWeights(profile, session);
+  ReadWaist(profile, session);
+  return profile;
+}
+
+void SaveGoalMethod(Session &session, GoalMethod method, const QDate &date, const QString &rate) {
+  const ToolsProfile stored = ReadToolsProfile(session);
+  if (stored.method == method && stored.GoalMethodDate == date && stored.GoalMethodLbsWeek == rate) return;
+  const std::optional<double> number = ParseNumber(rate, session.locale);
+  Transaction transaction(session.Data());
+  session.Data().Execute(
+      QStringLiteral("UPDATE people SET GoalMethodID=?, GoalMethodDate=?, GoalMethodLbsWeek=? WHERE PersonID=?;"),
+      {static_cast<int>(method), date.isValid() ? QVariant(date) : QVariant(), number ? QVariant(*number) : QVariant(),
+       session.CurrentPersonID.toInt()});
+  transaction.Commit();
+  session.changes.Announce({QStringLiteral("people"), session.CurrentPersonID, {}});
+}
+
+QString NumberText(double value, const QLocale &locale) {
+  return Format(value, QStringLiteral("General Number"), locale);
+}
+
+}  // namespace trimlog

@@ -1,0 +1,41 @@
+#pragma once
+
+#include <QDate>
+#include <QLocale>
+#include <QString>
+#include <optional>
+
+#include "core/session.h"
+#include "health/body_formulas.h"
+
+namespace trimlog {
+
+struct WeightEntry {
+  QDate ThisDate;
+  double ThisWeight = 0;  ///< in the unit in force when it was typed
+};
+
+enum class GoalMethod { ByRate = 1, ByDate = 2 };
+
+/// What the three calculators read of the session's profile.
+struct ToolsProfile {
+  BodyProfile body;
+  QString Goal;  ///< as the person reads it, in the locale's form
+  GoalMethod method = GoalMethod::ByDate;
+  QDate GoalMethodDate;                      ///< invalid: none stored
+  QString GoalMethodLbsWeek;                 ///< in the locale's form; empty: none stored
+  std::optional<WeightEntry> initialWeight;  ///< the earliest; none: no weight is recorded
+  std::optional<WeightEntry> currentWeight;  ///< the latest
+  std::optional<double> LatestWaist;         ///< of the latest measurements; none: no measurement, or no waist in it
+};
+ToolsProfile ReadToolsProfile(const Session &session);
+
+/// Keeps the method of the plan, its date and its rate with the profile and announces the change; a rate that is no
+/// number and an empty date store nothing there. The goal weight of the planner is a what-if and is never stored.
+/// Writes nothing when nothing differs.
+void SaveGoalMethod(Session &session, GoalMethod method, const QDate &date, const QString &rate);
+
+/// A number in its shortest form as the person reads it.
+QString NumberText(double value, const QLocale &locale);
+
+}  // namespace trimlog
