@@ -31,7 +31,7 @@ struct Navigator {
   std::function<void(const QString &topic)> ShowHelp;
   std::function<void()> ExitProgram;                      ///< closes the frame
   std::function<void()> ResetMainWindow;                  ///< the frame back to its first size, centred
-  std::function<void()> ResetQuickJournal;                ///< the Quick Journal back to its first place and size
+  std::function<void()> ResetQuickJournal;                ///< an open Quick Journal to the place in the session
 };
 
 }  // namespace trimlog

@@ -1,6 +1,7 @@
 #include "core/options.h"
 
 #include "core/data_access.h"
+#include "core/window_position.h"
 #include "platform/recordset.h"
 
 namespace trimlog {
@@ -85,6 +86,12 @@ void StoreLossFactor(Session &session, int lossFactor) {
   session.settings.LossFactor = lossFactor;
   SaveSetting(session.settings, session.store, QStringLiteral("LossFactor"));
   session.changes.AnnounceSettings();
+}
+
+void ResetQuickJournalPlace(Session &session) {
+  session.quickJournalPlace = DefaultQuickJournalPlace(session.framePlace);
+  WindowPosition(session, true, WindowGroup::QuickJournalPosition);
+  WindowPosition(session, true, WindowGroup::QuickJournalSize);
 }
 
 }  // namespace trimlog

@@ -45,4 +45,7 @@ void StoreOptions(Session &session, const Settings &edited);
 /// Stores the sign of losses at once: 1 shows a loss as positive, -1 as negative.
 void StoreLossFactor(Session &session, int lossFactor);
 
+/// Puts the Quick Journal's place and size back to the first ones, in the session and the store.
+void ResetQuickJournalPlace(Session &session);
+
 }  // namespace trimlog

@@ -6,6 +6,7 @@
 #include "core/session.h"
 
 class QComboBox;
+class QFormLayout;
 class QLineEdit;
 
 namespace trimlog {
@@ -20,14 +21,15 @@ class frmPassword : public QDialog {
   Q_OBJECT
  public:
   frmPassword(Session &session, const QString &personID, bool atStartup, QWidget *owner);
+  void reject() override;  ///< Cancel, Esc and the close button refuse the profile
 
  protected:
   bool event(QEvent *event) override;
 
  private:
+  void AddProfile(QFormLayout *fields);
   QString SelectedPersonID() const;
   void OnOk();
-  void OnCancel();
 
   Session &session_;
   const QString personID_;
