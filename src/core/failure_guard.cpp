@@ -6,29 +6,25 @@
 
 namespace trimlog {
 
-namespace {
-
-/// Runs the work; the description of the failure, or nothing when it went well.
-std::optional<QString> FailureOf(const std::function<void()> &work) {
+std::optional<Failure> FailureOf(const std::function<void()> &work) {
   try {
     work();
     return std::nullopt;
   } catch (const Error &error) {
-    return error.Description();
+    return Failure{error.Number(), error.Description()};
   } catch (const std::exception &error) {
-    return QString::fromUtf8(error.what());
+    return Failure{error_number::other, QString::fromUtf8(error.what())};
   }
 }
 
-}  // namespace
-
 bool Guarded(Session &session, const FailureExit &exit, const std::function<void()> &work) {
-  const std::optional<QString> failure = FailureOf(work);
+  const std::optional<Failure> failure = FailureOf(work);
   if (!failure) return true;
   // Logged before the box: a box left standing must not lose the line.
-  LogError(session, exit.module, exit.procedure, exit.logMessage ? exit.logMessage(*failure) : *failure);
+  LogError(session, exit.module, exit.procedure,
+           exit.logMessage ? exit.logMessage(failure->description) : failure->description);
   if (!exit.text.isEmpty()) {
-    session.boxes.Critical(exit.title, exit.appendDescription ? exit.text + *failure : exit.text);
+    session.boxes.Critical(exit.title, exit.appendDescription ? exit.text + failure->description : exit.text);
   }
   return false;
 }

@@ -2,6 +2,7 @@
 
 #include <QString>
 #include <functional>
+#include <optional>
 
 #include "core/error_log.h"
 #include "core/session.h"
@@ -20,7 +21,15 @@ struct FailureExit {
   std::function<QString(const QString &description)> logMessage = {};
 };
 
-/// Runs the work. On any failure: shows the critical box, logs the description, returns false.
+struct Failure {
+  int number = 0;  ///< of error_number; `other` for a failure from outside the error family
+  QString description;
+};
+
+/// Runs the work and gives its failure, or nothing when it went well. For the few that decide by the number.
+std::optional<Failure> FailureOf(const std::function<void()> &work);
+
+/// Runs the work. On any failure: logs the description, shows the critical box, returns false.
 bool Guarded(Session &session, const FailureExit &exit, const std::function<void()> &work);
 
 /// For procedures that only update the display: a failure is ignored and the procedure left. Returns false then.

@@ -1,0 +1,21 @@
+#pragma once
+
+#include <QString>
+
+#include "core/session.h"
+
+namespace trimlog {
+
+/// The flags of special installations, kept in the settings store and read at start.
+void LoadBizEdSettings(Session &session);
+/// Handheld support is on when the store holds a day count for it.
+void LoadHandheldSettings(Session &session);
+void LoadSeravaSetting(Session &session);
+
+/// Whether the handheld's own program follows the exchange at exit; true unless the store says no.
+bool ActiveSyncOnExit(const Session &session);
+
+/// The application's title, which is the frame's caption.
+QString ApplicationTitle(const Session &session);
+
+}  // namespace trimlog

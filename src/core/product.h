@@ -1,0 +1,14 @@
+#pragma once
+
+#include <QString>
+
+namespace trimlog::product {
+
+inline const QString name = QStringLiteral("Trimlog Pro");
+inline const QString version = QStringLiteral("2.7");
+inline const QString seravaEdition = QStringLiteral("SERAVA Edition");
+inline const QString supportMail = QStringLiteral("support@corvane.example");
+inline const QString videoDriverPage = QStringLiteral("https://www.corvane.example/trimlog/support/video-drivers.html");
+inline const QString guardDogPage = QStringLiteral("https://www.corvane.example/trimlog/support/guard-dog.html");
+
+}  // namespace trimlog::product
