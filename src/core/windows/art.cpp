@@ -20,7 +20,8 @@ QIcon ArtIcon(const QString &name) {
 }
 
 QPixmap ArtPixmap(const QString &name, qreal devicePixelRatio) {
-  QPixmap pixmap(QStringLiteral(":/art/%1_%2.png").arg(name, devicePixelRatio > 1 ? QStringLiteral("2x") : QStringLiteral("1x")));
+  QPixmap pixmap(
+      QStringLiteral(":/art/%1_%2.png").arg(name, devicePixelRatio > 1 ? QStringLiteral("2x") : QStringLiteral("1x")));
   if (devicePixelRatio > 1) pixmap.setDevicePixelRatio(2);
   return pixmap;
 }

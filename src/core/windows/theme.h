@@ -20,8 +20,8 @@ double ContrastRatio(const QColor &one, const QColor &other);
 
 /// Black or white, whichever reads better on the background.
 QColor ContrastText(const QColor &background);
-/// A colour that carries meaning (loss, gain), readable on the background: its own value on light backgrounds, a lighter
-/// shade of the same hue on dark ones; black becomes white there.
+/// A colour that carries meaning (loss, gain), readable on the background: its own value on light backgrounds, a
+/// lighter shade of the same hue on dark ones; black becomes white there.
 QColor MeaningColor(const QColor &color, const QColor &background);
 
 /// True when the desktop shows light text on dark.

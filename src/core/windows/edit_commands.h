@@ -1,0 +1,17 @@
+#pragma once
+
+class QWidget;
+
+namespace trimlog {
+
+enum class EditCommand { Undo, Cut, Copy, Paste };
+
+/// Runs an Edit command on a control: on the selected text of a text field, or on the active cell of a grid (a view
+/// whose name begins with "grd"). Read-only fields and cells are only copied from. Any other control, or none, does
+/// nothing.
+void RunEditCommand(EditCommand command, QWidget *control);
+
+/// True when the command could do something on this control now.
+bool CanRunEditCommand(EditCommand command, QWidget *control);
+
+}  // namespace trimlog

@@ -1,0 +1,98 @@
+// The main window's way from nothing to the first screen.
+#include <QApplication>
+#include <QFile>
+
+#include "core/failure_guard.h"
+#include "core/frame_data.h"
+#include "core/product.h"
+#include "core/windows/frmMDI.h"
+#include "core/windows/frmMain.h"
+#include "core/windows/frmPassword.h"
+#include "core/windows/frmSplash.h"
+
+namespace trimlog {
+
+bool frmMDI::MDIForm_Load() {
+  if (!QFile::exists(session_.DataFilePath())) {
+    session_.boxes.Critical(
+        QStringLiteral("Trimlog"),
+        QStringLiteral("The program was unable to find the data file: %1.  The program cannot start "
+                       "without this file.")
+            .arg(session_.programDirectory + QStringLiteral("\\tlg.dat")));
+    return false;
+  }
+  const FailureExit failure{QStringLiteral("frmMDI"), QStringLiteral("MDIForm_Load"),
+                            QStringLiteral("Error Loading Program"),
+                            QStringLiteral("An error occurred while loading the program.")};
+  Guarded(session_, failure, [this] {
+    loaded_ = false;
+    menus_->SetVisible(QStringLiteral("mnuFileProfileAdmin"), session_.BizEd);
+    menus_->SetVisible(QStringLiteral("mnuFileSep4"), session_.BizEd);
+    SetTitle();
+    ShowStartScreens();
+    ApplyPlace();
+    SignIn();
+    RefreshMain();
+    ShowForm(QStringLiteral("frmData"));
+    show();
+    CloseSplash();
+    StartWizardIfNeeded();
+    LoadProfilesMenu();
+    loaded_ = true;
+    if (!session_.ReloadInProgress && session_.settings.ShowTutorial && hooks_.StartTutorialSelector) {
+      QApplication::processEvents();
+      hooks_.StartTutorialSelector();
+    }
+    ShowHandheldMenus();
+  });
+  CloseSplash();
+  RefreshCommands();
+  for (const FrameCommand &command : commands_) {
+    if (!*command.button) continue;
+    const bool available = !command.available || command.available();
+    navigation_->SetCommand(QString::fromLatin1(command.button), available ? command.run : nullptr);
+  }
+  show();
+  return true;
+}
+
+void frmMDI::SetTitle() {
+  const QString title = session_.SeravaEdition
+                            ? QStringLiteral("%1 %2 %3").arg(product::name, product::seravaEdition, product::version)
+                            : QStringLiteral("%1 %2").arg(product::name, product::version);
+  QApplication::setApplicationDisplayName(title);
+  setWindowTitle(title);
+}
+
+void frmMDI::ShowStartScreens() {
+  if (!session_.ReloadInProgress && session_.settings.ShowSplash) {
+    splash_ = new frmSplash(session_, system_, this);
+    splash_->setAttribute(Qt::WA_DeleteOnClose);
+    connect(splash_, &QObject::destroyed, this, [this] { splash_ = nullptr; });
+    splash_->show();
+    QApplication::processEvents();
+  }
+}
+
+void frmMDI::CloseSplash() {
+  if (splash_) splash_->close();
+}
+
+void frmMDI::SignIn() {
+  const QString read = session_.CurrentPersonID;
+  if (!CheckProfilePassword(session_, read, true, this)) session_.CurrentPersonID = sampleProfile1;
+  if (session_.CurrentPersonID != read) ApplyProfile(session_, hooks_, session_.CurrentPersonID);
+  menus_->SetVisible(QStringLiteral("mnuEditReset"), session_.IsSample());
+}
+
+void frmMDI::StartWizardIfNeeded() {
+  if (session_.ReloadInProgress || session_.CurrentPersonID.toInt() != 1 || !navigator_.StartWiz) return;
+  if (navigator_.StartWiz(false)) SwitchTo(session_.CurrentPersonID);
+}
+
+void frmMDI::ShowHandheldMenus() {
+  if (HasHandheldMeals(session_)) menus_->SetVisible(QStringLiteral("mnuPalm"), true);
+  if (session_.HandheldSupport) menus_->SetVisible(QStringLiteral("mnuPPC"), true);
+}
+
+}  // namespace trimlog
