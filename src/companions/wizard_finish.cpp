@@ -1,5 +1,6 @@
 #include "companions/wizard_finish.h"
 
+#include "catalogs/nutrient_selection.h"
 #include "companions/wizard_nutrients.h"
 #include "core/data_access.h"
 #include "platform/recordset.h"
@@ -81,21 +82,15 @@ void InsertTargets(Session &session, const QString &targetID, const QList<Ticked
   session.Data().Execute(columns + values + QStringLiteral(";"), params);
 }
 
-void UpdateSelection(Session &session, const QList<TickedNutrient> &ticked) {
-  QStringList assignments;
-  Params params;
-  for (int position = 1; position <= shownNutrients; ++position) {
-    const bool filled = position <= ticked.size();
-    assignments.append(QStringLiteral("selected_nutrients.NutrientID%1 = ?, selected_nutrients.NutDescription%1 = ?, "
-                                      "selected_nutrients.NutTotal%1 = %2")
-                           .arg(position)
-                           .arg(filled ? QStringLiteral("True") : QStringLiteral("False")));
-    params.append(filled ? ticked[position - 1].NutrientID : 0);
-    params.append(filled ? ticked[position - 1].shortName : QString(QLatin1String("")));
+NutrientSelection SelectionOf(const QList<TickedNutrient> &ticked) {
+  NutrientSelection selection;
+  for (qsizetype i = 0; i < std::min<qsizetype>(ticked.size(), shownNutrients); ++i) {
+    SelectedNutrient &position = selection[static_cast<std::size_t>(i)];
+    position.NutrientID = ticked[i].NutrientID;
+    position.description = ticked[i].shortName;
+    position.NutTotal = true;
   }
-  session.Data().Execute(QStringLiteral("UPDATE selected_nutrients SET ") + assignments.join(QStringLiteral(", ")) +
-                             QStringLiteral(" WHERE ((selected_nutrients.PersonID) = 1);"),
-                         params);
+  return selection;
 }
 
 }  // namespace
@@ -109,7 +104,7 @@ QString FinishWizard(Session &session, const WizardAnswers &answers, bool adding
   if (!addingProfile) {
     const QList<TickedNutrient> ticked = ReadTicked(session);
     InsertTargets(session, targetID, ticked);
-    UpdateSelection(session, ticked);
+    SaveNutrientSelection(session, SelectionOf(ticked));
   }
   transaction.Commit();
   if (!addingProfile && answers.diet == DietPlans().last().key) {

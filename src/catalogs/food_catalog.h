@@ -1,0 +1,48 @@
+#pragma once
+
+#include <QString>
+#include <array>
+#include <vector>
+
+#include "core/session.h"
+#include "journal/food_values.h"
+
+namespace trimlog {
+
+/// A food as the full nutrient dialog shows and a new one is made.
+struct FoodRecord {
+  int MealID = 0;  ///< 0: not stored yet
+  QString MealDesc;
+  QString Amount;  ///< the serving, as text
+  int MealGroupID = 0;
+  std::optional<double> GIValue;
+  int RecordTypeID = 2;
+  FoodValues nutrients;
+};
+
+/// Reads a food; throws noCurrentRecord when there is none with that key.
+FoodRecord ReadFood(Session &session, int mealID);
+
+/// Adds a food of the user's own; returns its key. Double quotes in its texts become two single quotes. One
+/// transaction.
+int AddFood(Session &session, const FoodRecord &food);
+
+/// Stores the description and the 35 nutrients of an edited food, each rounded by its display pattern, and marks it as
+/// modified, so that updates of the shipped foods leave it alone. One transaction.
+void SaveFood(Session &session, const FoodRecord &food);
+
+/// Copies a pre-loaded food to "My Foods": description, group and the 35 nutrients; serving, glycemic value and source
+/// key stay behind. Returns the new key. One transaction.
+int CopyFood(Session &session, int mealID);
+
+/// "Copy the following food: ... to your personal "My Foods" list?"
+QString CopyFoodQuestion(const QString &mealDesc);
+/// What deleting one or several foods asks.
+QString DeleteFoodsQuestion(int count);
+
+/// The order in which the full dialog lists the 35 nutrients, by NutrientID.
+const std::array<int, nutrientCount> &NutrientDialogOrder();
+/// "Calories (cal):", "Total Fat (g):", ...; a custom nutrient under the name that the person gave it.
+QString NutrientLabel(const Nutrients &nutrients, int nutrientID);
+
+}  // namespace trimlog

@@ -1,0 +1,48 @@
+#include "catalogs/nutrient_selection.h"
+
+#include "core/data_access.h"
+#include "platform/recordset.h"
+
+namespace trimlog {
+
+QList<NutrientChoice> NutrientChoices(Session &session) {
+  QList<NutrientChoice> choices;
+  Recordset rows = session.Data().OpenRecordset(
+      QStringLiteral("SELECT nutrients.* FROM nutrients ORDER BY nutrients.NutSortOrder;"));
+  for (; !rows.Eof(); rows.MoveNext()) {
+    choices.append({rows.Integer(QStringLiteral("NutrientID")), rows.Text(QStringLiteral("NutDescPlusUoM")),
+                    rows.Text(QStringLiteral("NutShortDescription")), rows.Text(QStringLiteral("NutFieldName"))});
+  }
+  return choices;
+}
+
+NutrientSelection ReadNutrientSelection(Session &session) {
+  Nutrients nutrients;
+  FillSelectedNutrientsArray(nutrients, session.Data());
+  return nutrients.SelectedNutrients;
+}
+
+void SaveNutrientSelection(Session &session, const NutrientSelection &selection) {
+  Transaction transaction(session.Data());
+  QStringList assignments;
+  Params params;
+  for (int position = 1; position <= shownNutrients; ++position) {
+    const SelectedNutrient &shown = selection[static_cast<std::size_t>(position - 1)];
+    assignments.append(QStringLiteral("selected_nutrients.NutrientID%1 = ?, selected_nutrients.NutDescription%1 = ?, "
+                                      "selected_nutrients.NutTotal%1 = ?")
+                           .arg(position));
+    params << shown.NutrientID << shown.description << shown.NutTotal;
+  }
+  session.Data().Execute(QStringLiteral("UPDATE selected_nutrients SET ") + assignments.join(QStringLiteral(", ")) +
+                             QStringLiteral(" WHERE ((selected_nutrients.PersonID) = 1);"),
+                         params);
+  transaction.Commit();
+  FillSelectedNutrientsArray(session.nutrients, session.Data());
+  session.changes.Announce({QStringLiteral("selected_nutrients"), {}, {}});
+}
+
+bool HandheldHoldsFoods(Session &session) {
+  return !GetDataValue(session.Data(), QStringLiteral("MealID"), QStringLiteral("palm_selected_meals")).isEmpty();
+}
+
+}  // namespace trimlog
