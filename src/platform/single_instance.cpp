@@ -28,19 +28,22 @@ QString RuntimeFolder() {
 }
 
 /// Windows names a pipe, other systems a socket file.
-QString ServerName(const QString &name) {
+QString ServerName(const QString &folder, const QString &name) {
 #ifdef Q_OS_WIN
+  Q_UNUSED(folder);
   return name;
 #else
-  return QDir(RuntimeFolder()).filePath(name);
+  return QDir(folder).filePath(name);
 #endif
 }
 
 }  // namespace
 
-SingleInstance::SingleInstance(const QString &programDirectory)
-    : name_(NameFor(programDirectory)),
-      lock_(std::make_unique<QLockFile>(QDir(RuntimeFolder()).filePath(name_ + QStringLiteral(".lock")))) {
+SingleInstance::SingleInstance(const QString &programDirectory) {
+  const QString folder = RuntimeFolder();
+  const QString name = NameFor(programDirectory);
+  serverName_ = ServerName(folder, name);
+  lock_ = std::make_unique<QLockFile>(QDir(folder).filePath(name + QStringLiteral(".lock")));
   lock_->setStaleLockTime(0);  // only a process that is gone gives its lock up, not one that runs for long
   connect(&server_, &QLocalServer::newConnection, this, [this] {
     while (QLocalSocket *caller = server_.nextPendingConnection()) caller->deleteLater();
@@ -64,11 +67,10 @@ bool SingleInstance::ActivatePrevInstance() {
 
 void SingleInstance::Listen() {
   server_.setSocketOptions(QLocalServer::UserAccessOption);
-  const QString serverName = ServerName(name_);
-  if (server_.listen(serverName)) return;
+  if (server_.listen(serverName_)) return;
   // The socket of a copy that was killed: the lock says that nobody listens there.
-  QLocalServer::removeServer(serverName);
-  server_.listen(serverName);
+  QLocalServer::removeServer(serverName_);
+  server_.listen(serverName_);
 }
 
 void SingleInstance::AskToRaise() const {
@@ -76,7 +78,7 @@ void SingleInstance::AskToRaise() const {
   waited.start();
   do {
     QLocalSocket socket;
-    socket.connectToServer(ServerName(name_));
+    socket.connectToServer(serverName_);
     if (socket.waitForConnected(firstMayBeStarting)) return;
     constexpr unsigned long pause = 50;
     QThread::msleep(pause);

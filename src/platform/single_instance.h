@@ -28,7 +28,7 @@ class SingleInstance : public QObject {
   void Listen();
   void AskToRaise() const;
 
-  QString name_;
+  QString serverName_;
   std::unique_ptr<QLockFile> lock_;
   QLocalServer server_;
 };
