@@ -1,0 +1,21 @@
+#pragma once
+
+#include <QDate>
+#include <QLocale>
+#include <optional>
+
+#include "core/statistics.h"
+#include "weightlog/weight_log.h"
+
+namespace trimlog {
+
+/// What the statistics panel shows for a first and a last weight and a goal, in the person's locale. Nothing as the
+/// goal means that none is known; then neither the distance nor the projection can be told.
+Statistics MakeStatistics(const WeightRow &first, const WeightRow &last, const std::optional<double> &goal,
+                          const QLocale &locale);
+
+/// Recomputes session.statistics, FirstWeightDate and LastWeightDate from the current profile's first and last weight,
+/// and announces them. Reads three rows however long the history. A failure shows its box and is logged.
+void UpdateStats(Session &session);
+
+}  // namespace trimlog

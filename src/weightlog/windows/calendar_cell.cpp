@@ -1,0 +1,162 @@
+#include "weightlog/windows/calendar_cell.h"
+
+#include <QMouseEvent>
+#include <QPainter>
+
+#include "core/windows/theme.h"
+
+namespace trimlog {
+
+namespace {
+
+constexpr int pad = 3;
+constexpr double smallShare = 0.85;
+constexpr double weightShare = 1.1;
+constexpr double largestGrowth = 1.7;
+
+QString Member(const char *control, int i) { return QStringLiteral("%1(%2)").arg(QLatin1String(control)).arg(i); }
+
+QPalette CellPalette(const QPalette &desktop, const QColor &background, const QColor &text, const QColor &field) {
+  QPalette palette;
+  palette.setColor(QPalette::Window, background);
+  palette.setColor(QPalette::WindowText, text);
+  palette.setColor(QPalette::Base, field);
+  palette.setColor(QPalette::Text, ContrastText(field) == ContrastText(desktop.color(QPalette::Base))
+                                       ? desktop.color(QPalette::Text)
+                                       : ContrastText(field));
+  palette.setColor(QPalette::Disabled, QPalette::Base, field);
+  palette.setColor(QPalette::Disabled, QPalette::Text, text);
+  return palette;
+}
+
+QColor Between(const QColor &one, const QColor &other, double share) {
+  const auto mix = [share](int a, int b) { return static_cast<int>(std::lround(a + (b - a) * share)); };
+  return QColor(mix(one.red(), other.red()), mix(one.green(), other.green()), mix(one.blue(), other.blue()));
+}
+
+}  // namespace
+
+CalendarLook::CalendarLook(const QPalette &desktop, quint32 BackColor) : backColor(BackColor) {
+  const QColor base = desktop.color(QPalette::Base);
+  const QColor text = desktop.color(QPalette::Text);
+  const QColor face = desktop.color(QPalette::Button);
+  const QColor own = ColorFromBgr(BackColor, desktop);
+  day = CellPalette(desktop, base, text, base);
+  neighbour = CellPalette(desktop, face, Between(desktop.color(QPalette::ButtonText), face, 0.4), face);
+  active = CellPalette(desktop, own, ContrastText(own), base);
+  line = Between(base, text, 0.22);
+  accent = desktop.color(QPalette::Highlight);
+}
+
+const QPalette &CalendarLook::PaletteOf(const CalendarCell &cell) const {
+  if (cell.background == calendar_colour::buttonFace) return neighbour;
+  return cell.background == calendar_colour::white ? day : active;
+}
+
+CalendarFonts::CalendarFonts(const QFont &base, int cellHeight) : small(base), weight(base) {
+  const double size = QFontInfo(base).pointSizeF();
+  const double room = static_cast<double>(cellHeight) / LeastHeight(base);
+  const double growth = std::clamp(1 + (room - 1) * 0.4, 1.0, largestGrowth);
+  // Whole steps, so that dragging the frame's edge does not set 168 fonts at every pixel.
+  const auto step = [](double points) { return std::round(points * 2) / 2; };
+  small.setPointSizeF(step(size * smallShare * std::sqrt(growth)));
+  weight.setPointSizeF(step(size * weightShare * growth));
+  weight.setWeight(QFont::DemiBold);
+}
+
+int CalendarFonts::LeastHeight(const QFont &base) {
+  QFont small(base);
+  small.setPointSizeF(QFontInfo(base).pointSizeF() * smallShare);
+  QFont weight(base);
+  weight.setPointSizeF(QFontInfo(base).pointSizeF() * weightShare);
+  return 2 * QFontMetrics(small).height() + QFontMetrics(weight).height() + 2;
+}
+
+CalendarCellView::CalendarCellView(int i, QWidget *parent)
+    : QWidget(parent),
+      txtData(new QLineEdit(this)),
+      txtLoss(new FitLabel(Member("txtLoss", i), Qt::AlignRight | Qt::AlignVCenter, this)),
+      txtCalories(new FitLabel(Member("txtCalories", i), Qt::AlignCenter, this)),
+      txtDateGrid(new FitLabel(Member("txtDateGrid", i), Qt::AlignLeft | Qt::AlignVCenter, this)),
+      txtDateGridValue(new FitLabel(Member("txtDateGridValue", i), Qt::AlignLeft, this)) {
+  setObjectName(Member("lblGrid", i));
+  txtData->setObjectName(Member("txtData", i));
+  txtData->setFrame(false);
+  txtData->setAlignment(Qt::AlignCenter);
+  txtDateGridValue->hide();
+}
+
+void CalendarCellView::Show(const CalendarCell &cell, const CalendarLook &look, bool today, bool keepText) {
+  const QPalette &wanted = look.PaletteOf(cell);
+  if (palette().color(QPalette::Window) != wanted.color(QPalette::Window) ||
+      palette().color(QPalette::Base) != wanted.color(QPalette::Base)) {
+    setPalette(wanted);
+  }
+  if (!keepText && txtData->text() != cell.data) txtData->setText(cell.data);
+  txtData->setEnabled(cell.enabled);
+  txtLoss->ShowText(cell.loss);
+  txtLoss->ShowColor(cell.lossColor == calendar_colour::even
+                         ? wanted.color(QPalette::WindowText)
+                         : MeaningColor(ColorFromBgr(cell.lossColor), wanted.color(QPalette::Window)));
+  txtLoss->setVisible(cell.lossVisible);
+  txtCalories->ShowText(cell.calories);
+  txtCalories->setVisible(cell.caloriesVisible);
+  txtDateGrid->ShowText(cell.day);
+  if (txtDateGridValue->text() != cell.dateValue) {
+    txtDateGridValue->ShowText(cell.dateValue);
+    txtData->setAccessibleName(tr("Weight for %1").arg(cell.dateValue));
+  }
+  if (today_ != today || line_ != look.line || accent_ != look.accent) {
+    today_ = today;
+    line_ = look.line;
+    accent_ = look.accent;
+    txtDateGrid->setFont(DayFont());
+    update();
+  }
+  setVisible(cell.visible);
+}
+
+QFont CalendarCellView::DayFont() const {
+  QFont font = small_;
+  font.setBold(today_);
+  return font;
+}
+
+void CalendarCellView::SetFonts(const CalendarFonts &fonts) {
+  small_ = fonts.small;
+  txtData->setFont(fonts.weight);
+  txtLoss->setFont(fonts.small);
+  txtCalories->setFont(fonts.small);
+  txtDateGrid->setFont(DayFont());
+  Arrange();
+}
+
+void CalendarCellView::Arrange() {
+  const int line = QFontMetrics(small_).height();
+  const int field = txtData->fontMetrics().height() + 2;
+  const int inner = width() - 2 * pad - 1;
+  const int room = height() - 2 * line - field;
+  const int gap = std::clamp(room / 4, 0, 2 * pad);
+  const int dayWidth = QFontMetrics(small_).horizontalAdvance(QStringLiteral("30")) + 2 * pad;
+  txtDateGrid->setGeometry(pad, gap, dayWidth, line);
+  txtLoss->setGeometry(pad + dayWidth, gap, inner - dayWidth, line);
+  txtCalories->setGeometry(pad, height() - line - gap - 1, inner, line);
+  txtData->setGeometry(pad, line + gap + std::max(0, (room - 2 * gap) / 2), inner, field);
+}
+
+void CalendarCellView::resizeEvent(QResizeEvent *) { Arrange(); }
+
+void CalendarCellView::mousePressEvent(QMouseEvent *event) {
+  if (event->button() == Qt::LeftButton && txtData->isEnabled()) txtData->setFocus(Qt::MouseFocusReason);
+}
+
+void CalendarCellView::paintEvent(QPaintEvent *) {
+  QPainter painter(this);
+  painter.fillRect(rect(), palette().window());
+  painter.setPen(line_);
+  painter.drawLine(0, height() - 1, width() - 1, height() - 1);
+  painter.drawLine(width() - 1, 0, width() - 1, height() - 1);
+  if (today_) painter.fillRect(0, 0, width() - 1, 3, accent_);
+}
+
+}  // namespace trimlog

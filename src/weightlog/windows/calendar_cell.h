@@ -1,0 +1,65 @@
+#pragma once
+
+#include <QLineEdit>
+#include <QWidget>
+
+#include "weightlog/calendar_month.h"
+#include "weightlog/windows/fit_label.h"
+
+namespace trimlog {
+
+/// How cells are coloured on this desktop, worked out once for all 42.
+struct CalendarLook {
+  QPalette day;        ///< a day of the month
+  QPalette neighbour;  ///< a day of the month before or behind
+  QPalette active;
+  QColor line;            ///< between the cells
+  QColor accent;          ///< marks today
+  quint32 backColor = 0;  ///< what the active cell's background is in the model
+
+  CalendarLook(const QPalette &desktop, quint32 BackColor);
+  const QPalette &PaletteOf(const CalendarCell &cell) const;
+};
+
+struct CalendarFonts {
+  QFont small;  ///< day, loss, nutrient figure
+  QFont weight;
+
+  /// The largest calm sizes for cells of this height, on the base of the desktop's font.
+  CalendarFonts(const QFont &base, int cellHeight);
+  /// The least height in which three lines stand uncut.
+  static int LeastHeight(const QFont &base);
+};
+
+/// One day, lblGrid(i): it paints the background and holds the weight field and the texts around it.
+class CalendarCellView : public QWidget {
+  Q_OBJECT
+ public:
+  CalendarCellView(int i, QWidget *parent);
+
+  QLineEdit *Field() const { return txtData; }
+  /// Shows a cell. `keepText` leaves what is being typed alone.
+  void Show(const CalendarCell &cell, const CalendarLook &look, bool today, bool keepText);
+  void SetFonts(const CalendarFonts &fonts);
+
+ protected:
+  void paintEvent(QPaintEvent *event) override;
+  void resizeEvent(QResizeEvent *event) override;
+  void mousePressEvent(QMouseEvent *event) override;
+
+ private:
+  QFont DayFont() const;
+  void Arrange();
+
+  QLineEdit *txtData;
+  FitLabel *txtLoss;
+  FitLabel *txtCalories;
+  FitLabel *txtDateGrid;
+  FitLabel *txtDateGridValue;
+  QColor line_;
+  QColor accent_;
+  QFont small_;
+  bool today_ = false;
+};
+
+}  // namespace trimlog

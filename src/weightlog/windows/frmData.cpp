@@ -1,0 +1,300 @@
+#include "weightlog/windows/frmData.h"
+
+#include <QCheckBox>
+#include <QComboBox>
+#include <QGuiApplication>
+#include <QHBoxLayout>
+#include <QKeyEvent>
+#include <QTimer>
+#include <QToolButton>
+#include <QVBoxLayout>
+
+#include "core/session.h"
+#include "core/windows/art.h"
+#include "core/windows/theme.h"
+#include "platform/text_format.h"
+#include "weightlog/calendar_nutrients.h"
+#include "weightlog/windows/frmReward.h"
+#include "weightlog/windows/month_grid.h"
+#include "weightlog/windows/weight_entry.h"
+
+namespace trimlog {
+
+frmData::frmData(Session &session, const Navigator &navigator, QWidget *parent)
+    : ContentWindow(parent), session_(session), navigator_(navigator), model_(session) {
+  setObjectName(QStringLiteral("frmData"));
+  setAccessibleName(tr("Data Calendar"));
+  auto *layout = new QVBoxLayout(this);
+  layout->setContentsMargins(0, 0, 0, 0);
+  layout->setSpacing(0);
+  layout->addWidget(MakeHeader());
+  grid_ = new MonthGrid(session_.locale, this);
+  layout->addWidget(grid_, 1);
+  layout->addWidget(MakeFooter());
+  for (QLabel **hidden : {&txtCurrentIndex, &txtCurrentDate}) {
+    *hidden = new QLabel(this);
+    (*hidden)->hide();
+  }
+  txtCurrentIndex->setObjectName(QStringLiteral("txtCurrentIndex"));
+  txtCurrentDate->setObjectName(QStringLiteral("txtCurrentDate"));
+  entry_ = std::make_unique<WeightEntry>(session_, model_, *grid_);
+  FillNutrients();
+  model_.Load();
+  ShowSettings();
+  ShowMonth();
+  Connect();
+}
+
+frmData::~frmData() = default;
+
+QToolButton *frmData::MakeButton(const char *name, const char *picture, const QString &text, const QString &tip,
+                                 void (frmData::*clicked)()) {
+  auto *button = new QToolButton(this);
+  button->setObjectName(QString::fromLatin1(name));
+  button->setIcon(ArtIcon(QString::fromLatin1(picture)));
+  button->setText(text);
+  button->setToolTip(tip);
+  button->setAccessibleName(tip);
+  button->setAutoRaise(true);
+  // A click leaves the focus in the weight field, so that typing goes on there.
+  button->setFocusPolicy(Qt::TabFocus);
+  if (!text.isEmpty()) button->setToolButtonStyle(Qt::ToolButtonTextBesideIcon);
+  connect(button, &QToolButton::clicked, this, clicked);
+  return button;
+}
+
+QWidget *frmData::MakeHeader() {
+  lblMonth = new QLabel(this);
+  lblMonth->setObjectName(QStringLiteral("lblMonth"));
+  cmdPrevMonth =
+      MakeButton("cmdPrevMonth", "previous", {}, tr("Previous month (Page Up)"), &frmData::GotoPreviousMonth);
+  cmdNextMonth = MakeButton("cmdNextMonth", "next", {}, tr("Next month (Page Down)"), &frmData::GotoNextMonth);
+  cmdToday = MakeButton("cmdToday", "today", tr("To&day"), tr("Go to today"), &frmData::GotoToday);
+  cmdDiary = MakeButton("cmdDiary", "journal", tr("&Quick Journal"), tr("Open the Quick Journal for this day"),
+                        &frmData::OpenQuickJournal);
+  cmdDiary->setEnabled(static_cast<bool>(navigator_.OpenQuickJournal));
+  cmdTips = MakeButton("cmdTips", "tips", tr("T&ips"), tr("Tips for the calendar"), &frmData::OpenTips);
+  cmdTips->setEnabled(static_cast<bool>(navigator_.ShowHelp));
+  txtMonth = new FitLabel(QStringLiteral("txtMonth"), Qt::AlignLeft | Qt::AlignVCenter, this);
+  QFont large = font();
+  large.setPointSizeF(QFontInfo(font()).pointSizeF() * 1.4);
+  large.setWeight(QFont::DemiBold);
+  txtMonth->setFont(large);
+  txtMonth->setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Preferred);
+  auto *row = new QHBoxLayout(lblMonth);
+  row->setContentsMargins(6, 3, 6, 3);
+  row->setSpacing(4);
+  row->addWidget(cmdPrevMonth);
+  row->addWidget(cmdNextMonth);
+  row->addWidget(txtMonth, 1);
+  for (QToolButton *button : {cmdToday, cmdDiary, cmdTips}) row->addWidget(button);
+  return lblMonth;
+}
+
+QWidget *frmData::MakeFooter() {
+  auto *footer = new QWidget(this);
+  chkShowLoss = new QCheckBox(tr("Show &Loss"), footer);
+  chkShowLoss->setObjectName(QStringLiteral("chkShowLoss"));
+  chkShowCalories = new QCheckBox(tr("Show &Calories"), footer);
+  chkShowCalories->setObjectName(QStringLiteral("chkShowCalories"));
+  cboNutrientID = new QComboBox(footer);
+  cboNutrientID->setObjectName(QStringLiteral("cboNutrientID"));
+  cboNutrientID->setAccessibleName(tr("Shown on the calendar"));
+  cboNutrientID->setToolTip(tr("What the calendar shows below each day"));
+  cboNutrientID->setSizePolicy(QSizePolicy::Preferred, QSizePolicy::Fixed);
+  cboNutrientID->setSizeAdjustPolicy(QComboBox::AdjustToMinimumContentsLengthWithIcon);
+  cboNutrientID->setMinimumContentsLength(18);
+  lblTotal2 = new QLabel(tr("Month"), footer);
+  lblTotal2->setObjectName(QStringLiteral("lblTotal2"));
+  lblTotal2->setContentsMargins(8, 2, 8, 2);
+  txtTotalMonth = new FitLabel(QStringLiteral("txtTotalMonth"), Qt::AlignCenter, footer);
+  QFont bold = font();
+  bold.setBold(true);
+  txtTotalMonth->setFont(bold);
+  txtTotalMonth->setToolTip(tr("The loss of this month"));
+  txtTotalMonth->setMinimumWidth(QFontMetrics(bold).horizontalAdvance(QStringLiteral("-8888.88")));
+  auto *row = new QHBoxLayout(footer);
+  row->setContentsMargins(8, 4, 0, 4);
+  row->setSpacing(10);
+  row->addWidget(chkShowLoss);
+  row->addWidget(chkShowCalories);
+  row->addWidget(cboNutrientID);
+  row->addStretch(1);
+  row->addWidget(lblTotal2);
+  row->addWidget(txtTotalMonth);
+  return footer;
+}
+
+void frmData::FillNutrients() {
+  for (const NutrientChoice &choice : CalendarNutrientChoices(session_.nutrients)) {
+    cboNutrientID->addItem(choice.description, choice.NutrientID);
+  }
+}
+
+void frmData::Connect() {
+  connect(entry_.get(), &WeightEntry::Entered, this, &frmData::ShowMonth);
+  connect(entry_.get(), &WeightEntry::Saved, this, &frmData::OnSaved);
+  connect(entry_.get(), &WeightEntry::MonthWanted, this, &frmData::GotoMonth);
+  connect(entry_.get(), &WeightEntry::NextWanted, this, [this] { focusNextChild(); });
+  connect(chkShowLoss, &QCheckBox::clicked, this, [this](bool show) {
+    model_.SetShowLoss(show);
+    ShowMonth();
+  });
+  connect(chkShowCalories, &QCheckBox::clicked, this, [this](bool show) {
+    model_.SetShowCalories(show);
+    ShowMonth();
+  });
+  connect(cboNutrientID, &QComboBox::activated, this, [this](int index) {
+    model_.SetNutrientID(cboNutrientID->itemData(index).toInt());
+    ShowMonth();
+  });
+  connect(&session_.changes, &DataChanges::Changed, this, &frmData::OnData);
+  connect(&session_.changes, &DataChanges::SettingsChanged, this, &frmData::OnSettings);
+  connect(&session_.changes, &DataChanges::ProfilesChanged, this, &frmData::OnSettings);
+}
+
+bool frmData::ValidateFields() { return entry_->TryLeave(); }
+
+bool frmData::SaveOpenEdit() {
+  if (!entry_->TryLeave()) return false;
+  ShowReward();
+  return true;
+}
+
+void frmData::Activated() {
+  const CalendarMonth &month = model_.Month();
+  const int first = month.IndexOf(month.firstDate);
+  entry_->Enter(month.CanEnter(month.currentIndex) ? month.currentIndex : first);
+}
+
+void frmData::Navigate(const std::function<void()> &move) {
+  if (!entry_->TryLeave()) return;
+  const bool inField = entry_->HasFocus();
+  move();
+  entry_->Forget();
+  ShowMonth();
+  if (inField && model_.Month().currentIndex != 0) entry_->Enter(model_.Month().currentIndex);
+}
+
+void frmData::GotoMonth(int months) {
+  Navigate([this, months] { months > 0 ? model_.GotoNextMonth() : model_.GotoPreviousMonth(); });
+}
+
+void frmData::GotoToday() {
+  Navigate([this] { model_.GotoToday(); });
+}
+
+void frmData::OpenTips() { navigator_.ShowHelp(QStringLiteral("calendar")); }
+
+void frmData::OpenQuickJournal() {
+  if (entry_->TryLeave()) navigator_.OpenQuickJournal(this);
+}
+
+void frmData::DeleteWeight() {
+  const int i = model_.Month().currentIndex;
+  if (i == 0 || grid_->Field(i)->text().isEmpty()) return;
+  const QString question = tr("Delete weight recorded for %1?").arg(model_.Month().Cell(i).dateValue);
+  if (!session_.boxes.Ask(tr("Delete Weight?"), question)) return;
+  if (entry_->PendingCell() != i) entry_->Enter(i);
+  grid_->Field(i)->clear();
+  if (entry_->TryLeave()) ShowMonth();
+}
+
+void frmData::OnData(const DataChange &change) {
+  if (saving_ || (!change.personID.isEmpty() && change.personID != session_.CurrentPersonID)) return;
+  if (change.table.isEmpty() || change.table == QStringLiteral("weight_loss")) {
+    model_.Refresh();
+  } else {
+    model_.FillCalendarNutrients();
+  }
+  ShowMonth();
+}
+
+void frmData::OnSettings() {
+  model_.Refresh();
+  ShowSettings();
+  ShowMonth();
+}
+
+void frmData::OnSaved() {
+  reward_ = model_.TakeReward();
+  ShowMonth();
+  if (reward_) QTimer::singleShot(0, this, &frmData::ShowReward);
+}
+
+void frmData::ShowReward() {
+  if (!reward_) return;
+  // Not between a button's press and its release, which would then go astray.
+  if (QGuiApplication::mouseButtons() != Qt::NoButton) {
+    QTimer::singleShot(50, this, &frmData::ShowReward);
+    return;
+  }
+  const RewardNotice notice = *std::exchange(reward_, std::nullopt);
+  if (session_.SuppressReward) return;
+  frmReward window(session_, notice, this->window());
+  window.exec();
+}
+
+void frmData::ShowMonth() {
+  // The focus of a field that is switched off wanders to its neighbour; nobody enters that one.
+  entry_->Suspend(true);
+  grid_->Show(model_.Month(), session_.BackColor, session_.Today(), entry_->PendingCell());
+  entry_->Suspend(false);
+  txtMonth->ShowText(model_.Month().title);
+  ShowMonthTotal();
+  ShowCurrent();
+}
+
+void frmData::ShowMonthTotal() {
+  const CalendarTotal &total = model_.Month().monthTotal;
+  const QPalette desktop = grid_->DesktopPalette();
+  txtTotalMonth->ShowText(total.text);
+  txtTotalMonth->ShowColor(total.color == calendar_colour::even
+                               ? desktop.color(QPalette::WindowText)
+                               : MeaningColor(ColorFromBgr(total.color), desktop.color(QPalette::Window)));
+}
+
+void frmData::ShowCurrent() {
+  const CalendarMonth &month = model_.Month();
+  txtCurrentIndex->setText(month.currentIndex == 0 ? QString() : QString::number(month.currentIndex));
+  txtCurrentDate->setText(ShortDate(month.currentDate, session_.locale));
+}
+
+void frmData::ShowSettings() {
+  const quint32 panel = printing_ ? calendar_colour::white : session_.BackColor;
+  PaintPanel(lblMonth, panel);
+  PaintPanel(lblTotal2, panel);
+  chkShowLoss->setChecked(session_.settings.ShowLoss);
+  chkShowCalories->setChecked(session_.settings.ShowCalories);
+  cboNutrientID->setCurrentIndex(cboNutrientID->findData(session_.settings.NutrientID));
+}
+
+void frmData::changeEvent(QEvent *event) {
+  ContentWindow::changeEvent(event);
+  if (entry_ && event->type() == QEvent::PaletteChange) ShowMonth();
+}
+
+void frmData::keyPressEvent(QKeyEvent *event) {
+  if (event->key() == Qt::Key_PageUp || event->key() == Qt::Key_PageDown) {
+    GotoMonth(event->key() == Qt::Key_PageUp ? -1 : 1);
+  } else {
+    ContentWindow::keyPressEvent(event);
+  }
+}
+
+void frmData::PrintContents() {
+  if (!entry_->TryLeave()) return;
+}
+
+void frmData::PrepareForPrinting(bool printing) {
+  printing_ = printing;
+  grid_->SetPaper(printing);
+  for (QWidget *control : std::initializer_list<QWidget *>{cmdPrevMonth, cmdNextMonth, cmdToday, cmdDiary, cmdTips,
+                                                           chkShowLoss, chkShowCalories, cboNutrientID}) {
+    control->setVisible(!printing);
+  }
+  ShowSettings();
+  ShowMonth();
+}
+
+}  // namespace trimlog

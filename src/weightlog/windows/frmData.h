@@ -1,0 +1,90 @@
+#pragma once
+
+#include <optional>
+
+#include "core/navigator.h"
+#include "core/windows/content_window.h"
+#include "weightlog/calendar_model.h"
+
+class QCheckBox;
+class QComboBox;
+class QLabel;
+class QToolButton;
+
+namespace trimlog {
+
+class FitLabel;
+class MonthGrid;
+class Session;
+class WeightEntry;
+struct DataChange;
+
+/// The Data Calendar, the program's first screen: a month in which a weight is typed for a date.
+class frmData : public ContentWindow {
+  Q_OBJECT
+ public:
+  frmData(Session &session, const Navigator &navigator, QWidget *parent = nullptr);
+  ~frmData() override;
+
+  bool ValidateFields() override;
+  bool SaveOpenEdit() override;
+  void Activated() override;
+  void PrintContents() override;
+  void PrepareForPrinting(bool printing) override;
+  void GotoPreviousMonth() override { GotoMonth(-1); }
+  void GotoNextMonth() override { GotoMonth(1); }
+  void DeleteWeight() override;
+
+ protected:
+  void changeEvent(QEvent *event) override;
+  void keyPressEvent(QKeyEvent *event) override;
+
+ private:
+  QWidget *MakeHeader();
+  QWidget *MakeFooter();
+  QToolButton *MakeButton(const char *name, const char *picture, const QString &text, const QString &tip,
+                          void (frmData::*clicked)());
+  void FillNutrients();
+  void Connect();
+
+  void GotoMonth(int months);
+  void GotoToday();
+  void OpenTips();
+  void OpenQuickJournal();
+  void OnData(const DataChange &change);
+  void OnSettings();
+  void OnSaved();
+  void ShowReward();
+
+  /// Moves on the calendar after the open cell was left, and takes the focus along when it was in a cell.
+  void Navigate(const std::function<void()> &move);
+  void ShowMonth();
+  void ShowSettings();
+  void ShowCurrent();
+  void ShowMonthTotal();
+
+  Session &session_;
+  const Navigator &navigator_;
+  CalendarModel model_;
+  QLabel *lblMonth = nullptr;
+  FitLabel *txtMonth = nullptr;
+  QToolButton *cmdPrevMonth = nullptr;
+  QToolButton *cmdToday = nullptr;
+  QToolButton *cmdNextMonth = nullptr;
+  QToolButton *cmdDiary = nullptr;
+  QToolButton *cmdTips = nullptr;
+  QCheckBox *chkShowLoss = nullptr;
+  QCheckBox *chkShowCalories = nullptr;
+  QComboBox *cboNutrientID = nullptr;
+  QLabel *lblTotal2 = nullptr;
+  FitLabel *txtTotalMonth = nullptr;
+  QLabel *txtCurrentIndex = nullptr;
+  QLabel *txtCurrentDate = nullptr;
+  MonthGrid *grid_ = nullptr;
+  std::unique_ptr<WeightEntry> entry_;
+  std::optional<RewardNotice> reward_;
+  bool saving_ = false;
+  bool printing_ = false;
+};
+
+}  // namespace trimlog

@@ -1,0 +1,145 @@
+#include "weightlog/windows/month_grid.h"
+
+#include <QApplication>
+#include <QEvent>
+
+#include "core/windows/theme.h"
+
+namespace trimlog {
+
+namespace {
+
+constexpr int days = 7;
+
+QString Member(const char *control, int i) { return QStringLiteral("%1(%2)").arg(QLatin1String(control)).arg(i); }
+
+/// Black on white, whatever the desktop.
+QPalette PaperPalette() {
+  QPalette palette(Qt::white);
+  palette.setColor(QPalette::Base, Qt::white);
+  palette.setColor(QPalette::Window, Qt::white);
+  palette.setColor(QPalette::Button, Qt::white);
+  for (const auto role : {QPalette::Text, QPalette::WindowText, QPalette::ButtonText})
+    palette.setColor(role, Qt::black);
+  return palette;
+}
+
+}  // namespace
+
+MonthGrid::MonthGrid(const QLocale &locale, QWidget *parent)
+    : QWidget(parent), lblTotal1(new FitLabel(QStringLiteral("lblTotal1"), Qt::AlignCenter, this)) {
+  for (int day = 1; day <= days; ++day) {
+    auto *header = new FitLabel(QStringLiteral("lblDay%1").arg(day), Qt::AlignCenter, this);
+    header->setText(locale.dayName(day == 1 ? Qt::Sunday : day - 1, QLocale::ShortFormat));
+    lblDay_[static_cast<size_t>(day - 1)] = header;
+  }
+  lblTotal1->setText(tr("Week"));
+  for (int i = 1; i <= calendarCells; ++i) cells_[static_cast<size_t>(i - 1)] = new CalendarCellView(i, this);
+  for (int row = 1; row <= calendarRows; ++row) {
+    auto *box = new FitLabel(Member("lblTotal", row), Qt::AlignCenter, this);
+    auto *total = new FitLabel(Member("txtTotal", row), Qt::AlignCenter, box);
+    total->setToolTip(tr("The loss of this week"));
+    lblTotal_[static_cast<size_t>(row - 1)] = box;
+    txtTotal_[static_cast<size_t>(row - 1)] = total;
+  }
+  setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Expanding);
+}
+
+int MonthGrid::IndexOf(const QObject *field) const {
+  for (int i = 1; i <= calendarCells; ++i) {
+    if (Field(i) == field) return i;
+  }
+  return 0;
+}
+
+QPalette MonthGrid::DesktopPalette() const { return paper_ ? PaperPalette() : QApplication::palette(); }
+
+void MonthGrid::Show(const CalendarMonth &month, quint32 BackColor, const QDate &today, int keepText) {
+  const CalendarLook look(DesktopPalette(), paper_ ? calendar_colour::white : BackColor);
+  for (int i = 1; i <= calendarCells; ++i) {
+    const CalendarCell &cell = month.Cell(i);
+    cells_[static_cast<size_t>(i - 1)]->Show(cell, look, cell.date == today && cell.enabled, i == keepText);
+  }
+  ShowHeaders(paper_ ? calendar_colour::white : BackColor);
+  ShowTotals(month);
+  const int rows = month.Total(calendarRows).visible ? calendarRows : calendarRows - 1;
+  if (rows == rows_) return;
+  rows_ = rows;
+  Arrange();
+}
+
+void MonthGrid::ShowHeaders(quint32 BackColor) {
+  for (FitLabel *header : lblDay_) PaintPanel(header, BackColor);
+  PaintPanel(lblTotal1, BackColor);
+}
+
+void MonthGrid::ShowTotals(const CalendarMonth &month) {
+  const QPalette desktop = DesktopPalette();
+  const QColor background = desktop.color(QPalette::Window);
+  for (int row = 1; row <= calendarRows; ++row) {
+    FitLabel *total = txtTotal_[static_cast<size_t>(row - 1)];
+    const quint32 color = month.Total(row).color;
+    total->ShowText(month.Total(row).text);
+    total->ShowColor(color == calendar_colour::even ? desktop.color(QPalette::WindowText)
+                                                    : MeaningColor(ColorFromBgr(color), background));
+    total->setVisible(month.Total(row).visible);
+    lblTotal_[static_cast<size_t>(row - 1)]->setVisible(month.Total(row).visible);
+  }
+}
+
+int MonthGrid::HeaderHeight() const { return fontMetrics().height() + 6; }
+
+int MonthGrid::TotalsWidth() const { return width() - days * (width() * 10 / 78); }
+
+QSize MonthGrid::minimumSizeHint() const {
+  const int column = fontMetrics().horizontalAdvance(QStringLiteral("-2,888 Cal"));
+  return {(days + 1) * column, HeaderHeight() + calendarRows * CalendarFonts::LeastHeight(font())};
+}
+
+void MonthGrid::Arrange() {
+  const int header = HeaderHeight();
+  const int column = (width() - TotalsWidth()) / days;
+  const int left = days * column;
+  for (int day = 0; day < days; ++day) lblDay_[static_cast<size_t>(day)]->setGeometry(day * column, 0, column, header);
+  lblTotal1->setGeometry(left, 0, width() - left, header);
+  const int room = height() - header;
+  for (int row = 0; row < calendarRows; ++row) {
+    const int top = header + room * row / rows_;
+    const int bottom = header + room * (row + 1) / rows_;
+    for (int day = 0; day < days; ++day) {
+      cells_[static_cast<size_t>(row * days + day)]->setGeometry(day * column, top, column, bottom - top);
+    }
+    FitLabel *box = lblTotal_[static_cast<size_t>(row)];
+    box->setGeometry(left, top, width() - left, bottom - top);
+    txtTotal_[static_cast<size_t>(row)]->setGeometry(2, 0, box->width() - 4, box->height());
+  }
+}
+
+void MonthGrid::ShowFonts() {
+  const int height = (this->height() - HeaderHeight()) / calendarRows;
+  if (height == fontHeight_) return;
+  const CalendarFonts before(font(), fontHeight_);
+  const CalendarFonts fonts(font(), height);
+  const bool first = fontHeight_ == 0;
+  fontHeight_ = height;
+  if (!first && before.small == fonts.small && before.weight == fonts.weight) return;
+  for (CalendarCellView *cell : cells_) cell->SetFonts(fonts);
+  QFont total = fonts.weight;
+  total.setWeight(QFont::Normal);
+  for (FitLabel *label : txtTotal_) label->setFont(total);
+}
+
+void MonthGrid::resizeEvent(QResizeEvent *) {
+  ShowFonts();
+  Arrange();
+}
+
+void MonthGrid::changeEvent(QEvent *event) {
+  QWidget::changeEvent(event);
+  if (event->type() != QEvent::FontChange) return;
+  fontHeight_ = 0;
+  ShowFonts();
+  Arrange();
+}
+
+}  // namespace trimlog
