@@ -1,7 +1,9 @@
 #include "core/profile_list.h"
 
+#include <QDate>
+
 #include "core/data_access.h"
-#include "core/failure_guard.h"
+#include "core/options.h"
 #include "core/profiles.h"
 #include "platform/text_format.h"
 
@@ -10,7 +12,8 @@ namespace trimlog {
 namespace {
 
 constexpr int longestName = 255;
-constexpr double tallest = 300;  // centimetres beside whole metres; feet, metres and inches stay far below
+constexpr int longestGoal = 50;
+constexpr double tallest = 300;  // centimetres beside no metres; feet, metres and inches stay far below
 constexpr int oldest = 150;      // years
 
 bool ProfileExists(Session &session, const QString &personID) {
@@ -24,43 +27,110 @@ QString FirstProfile(Session &session) {
                       QStringLiteral("(people.PersonID > 0)"), QStringLiteral("FirstID"));
 }
 
-}  // namespace
-
-const QList<Gender> &Genders() {
-  static const QList<Gender> genders = {{1, QStringLiteral("Male")}, {2, QStringLiteral("Female")}};
-  return genders;
+QString RefusedName(const Value &name) {
+  return name.toString().trimmed().isEmpty() ? QStringLiteral("Please enter a name for this profile.") : QString();
 }
 
-QString ProfilesStatement() {
-  return QStringLiteral("SELECT people.* FROM people WHERE (people.PersonID > 0) ORDER BY people.PersonName;");
+QString RefusedHeight(const Value &height) {
+  const double number = height.toDouble();
+  return number >= 0 && number <= tallest ? QString() : QStringLiteral("Please enter a valid height.");
+}
+
+QString RefusedBirthDate(const Value &value, const QDate &today) {
+  const QDate date = value.toDate();
+  if (!date.isValid()) return {};
+  if (date > today) return QStringLiteral("Please enter a birth date that is not in the future.");
+  return date < today.addYears(-oldest) ? QStringLiteral("Please enter a valid birth date.") : QString();
+}
+
+GridColumn HeightColumn(const QString &field, const QString &caption) {
+  return {.name = field,
+          .caption = caption,
+          .field = field,
+          .type = GridType::Number,
+          .width = 8,
+          .editable = true,
+          .validate = RefusedHeight};
+}
+
+}  // namespace
+
+GridSource ProfilesSource() {
+  return {.table = QStringLiteral("people"),
+          .key = QStringLiteral("PersonID"),
+          .where = QStringLiteral("(people.PersonID > 0)"),
+          .order = {{QStringLiteral("PersonName")}}};
+}
+
+GridColumns ProfileColumns(const Session &session) {
+  const UnitLabels labels = LabelsOf(session.settings.UomID);
+  const Clock &clock = session.clock;
+  return {
+      {.name = QStringLiteral("PersonName"),
+       .caption = QStringLiteral("Name"),
+       .field = QStringLiteral("PersonName"),
+       .width = 22,
+       .editable = true,
+       .maxLength = longestName,
+       .validate = RefusedName},
+      {.name = QStringLiteral("Goal"),
+       .caption = labels.Goal,
+       .field = QStringLiteral("Goal"),
+       .type = GridType::NumberText,
+       .width = 10,
+       .editable = true,
+       .maxLength = longestGoal},
+      HeightColumn(QStringLiteral("HeightFeet"), labels.HeightFeet),
+      HeightColumn(QStringLiteral("HeightInches"), labels.HeightInches),
+      {.name = QStringLiteral("Gender"),
+       .caption = QStringLiteral("Gender"),
+       .field = QStringLiteral("GenderID"),
+       .type = GridType::Choice,
+       .width = 10,
+       .editable = true,
+       .choices = {{1, QStringLiteral("Male")}, {2, QStringLiteral("Female")}}},
+      {.name = QStringLiteral("BirthDate"),
+       .caption = QStringLiteral("Birth Date"),
+       .field = QStringLiteral("BirthDate"),
+       .type = GridType::Date,
+       .width = 12,
+       .editable = true,
+       .validate = [&clock](const Value &value) { return RefusedBirthDate(value, clock.Today()); }},
+  };
+}
+
+GridColumns ProfileColourColumns() {
+  return {{.name = QStringLiteral("PersonName"),
+           .caption = QStringLiteral("Name"),
+           .field = QStringLiteral("PersonName"),
+           .width = 30},
+          {.name = QStringLiteral("BackColor"), .field = QStringLiteral("BackColor"), .visible = false}};
+}
+
+FailureExit ProfileListFailure(GridAction action) {
+  const QString module = QStringLiteral("frmSetup");
+  switch (action) {
+    case GridAction::Delete:
+      return {module, QStringLiteral("cmdDeleteProfile_Click"), QStringLiteral("Error Deleting Profile"),
+              QStringLiteral("An error occurred while deleting the profile.  "), true};
+    case GridAction::Load:
+      return {module, QStringLiteral("Form_Load"), QStringLiteral("Error Loading Setup Info"),
+              QStringLiteral("An error occurred while loading your setup information.")};
+    default:
+      return {module, QStringLiteral("grdPeople_AfterUpdate"), QStringLiteral("Error Saving Data"),
+              QStringLiteral("An error occurred while saving the profile.  "), true};
+  }
 }
 
 bool AskDeleteProfiles(Session &session, int count) {
-  const QString text = count == 1
-                           ? QStringLiteral(
-                                 "When you delete this profile from the list, all data and journal entries for this "
-                                 "profile will also be deleted.  Are you sure you want to continue?")
-                           : QStringLiteral(
-                                 "When you delete these profiles from the list, all data and journal entries for these "
-                                 "profiles will also be deleted.  Are you sure you want to continue?");
+  const QString text =
+      count == 1 ? QStringLiteral(
+                       "When you delete this profile from the list, all data and journal entries for this profile will "
+                       "also be deleted.  Are you sure you want to continue?")
+                 : QStringLiteral(
+                       "When you delete these profiles from the list, all data and journal entries for these profiles "
+                       "will also be deleted.  Are you sure you want to continue?");
   return session.boxes.Ask(QStringLiteral("Warning: Delete Profile?"), text, BoxButton::No);
-}
-
-bool DeleteProfiles(Session &session, const QStringList &personIDs) {
-  const FailureExit failure{QStringLiteral("frmSetup"), QStringLiteral("cmdDeleteProfile_Click"),
-                            QStringLiteral("Error Deleting Profile"),
-                            QStringLiteral("An error occurred while deleting the profile.  "), true};
-  const bool deleted = Guarded(session, failure, [&session, &personIDs] {
-    Transaction transaction(session.Data());
-    for (const QString &personID : personIDs) {
-      session.Data().Execute(
-          QStringLiteral("DELETE people.*, people.PersonID FROM people WHERE (((people.PersonID)=?));"),
-          {personID.toInt()});
-    }
-    transaction.Commit();
-  });
-  if (deleted) session.changes.AnnounceProfiles();
-  return deleted;
 }
 
 QString ProfileToStandOn(Session &session) {
@@ -71,38 +141,16 @@ QString ProfileToStandOn(Session &session) {
 }
 
 bool ConfirmGoal(Session &session, const QString &goal) {
-  const std::optional<double> number = ParseNumber(goal);
+  const std::optional<double> number = ParseNumber(goal, session.locale);
   if (number && *number > 0) return true;
-  return session.boxes.Ask(QStringLiteral("Invalid Goal"),
-                           QStringLiteral("The goal that you entered is invalid.  Are you sure that you want to "
-                                          "continue?"));
-}
-
-QString GoalToStore(const QString &typed, const QLocale &locale) {
-  const std::optional<double> number = ParseNumber(typed, locale);
-  return number ? PlainText(*number) : typed.trimmed();
+  return session.boxes.Ask(
+      QStringLiteral("Invalid Goal"),
+      QStringLiteral("The goal that you entered is invalid.  Are you sure that you want to continue?"));
 }
 
 QString GoalToShow(const QString &stored, const QLocale &locale) {
   const std::optional<double> number = ParseNumber(stored);
   return number ? PlainText(*number).replace(QLatin1Char('.'), locale.decimalPoint()) : stored;
-}
-
-QString RefusedName(const QString &name) {
-  if (name.trimmed().isEmpty()) return QStringLiteral("Please enter a name for this profile.");
-  if (name.size() > longestName) return QStringLiteral("Please enter a name of 255 characters or less.");
-  return {};
-}
-
-QString RefusedHeight(double height) {
-  return height >= 0 && height <= tallest ? QString() : QStringLiteral("Please enter a valid height.");
-}
-
-QString RefusedBirthDate(const QDate &date, const QDate &today) {
-  if (!date.isValid()) return {};
-  if (date > today) return QStringLiteral("Please enter a birth date that is not in the future.");
-  if (date < today.addYears(-oldest)) return QStringLiteral("Please enter a valid birth date.");
-  return {};
 }
 
 }  // namespace trimlog

@@ -1,46 +1,38 @@
 #pragma once
 
-#include <QDate>
 #include <QList>
 #include <QString>
-#include <QStringList>
 
+#include "core/failure_guard.h"
 #include "core/session.h"
+#include "platform/grid_columns.h"
+#include "platform/grid_hooks.h"
+#include "platform/grid_source.h"
 
 namespace trimlog {
 
-/// A gender as kept in people.GenderID.
-struct Gender {
-  int GenderID = 0;
-  QString name;
-};
-const QList<Gender> &Genders();
+/// The ordinary profiles by name, as the grids of the options window show them.
+GridSource ProfilesSource();
+/// The profiles list: name, goal, height, gender, birth date, with their checks. Captions follow the unit system.
+GridColumns ProfileColumns(const Session &session);
+/// The colour list: the names, and beside them, unseen, each one's colour.
+GridColumns ProfileColourColumns();
 
-/// The ordinary profiles, as the grids of the options window show them.
-QString ProfilesStatement();
+/// The failure exits of the profiles list.
+FailureExit ProfileListFailure(GridAction action);
 
 /// The warning before one or several profiles are deleted with everything they hold. True for Yes.
 bool AskDeleteProfiles(Session &session, int count);
-
-/// Deletes profiles in one transaction; the file's relations take their rows along. A failure shows its box, returns
-/// false and deletes none.
-bool DeleteProfiles(Session &session, const QStringList &personIDs);
 
 /// After a deletion: the profile that the session should stand on. The current one when it is still there, otherwise
 /// the first that is left, otherwise the first sample. Also forgets a deleted LastRealPersonID.
 QString ProfileToStandOn(Session &session);
 
-/// May the options window be left with this goal? True for a number above 0; otherwise the person decides.
+/// May the options window be left with this goal, as shown in the person's own form? True for a number above 0;
+/// otherwise the person decides.
 bool ConfirmGoal(Session &session, const QString &goal);
 
-/// The goal as it is kept: a number typed in the person's own form in plain form, anything else as typed.
-QString GoalToStore(const QString &typed, const QLocale &locale);
-/// A kept goal in the person's own form.
+/// A kept goal ("150.5") in the person's own form; a goal that is no number as it is.
 QString GoalToShow(const QString &stored, const QLocale &locale);
-
-/// Why a value is refused in the profiles list, a sentence for the person; "" when it is fine.
-QString RefusedName(const QString &name);
-QString RefusedHeight(double height);
-QString RefusedBirthDate(const QDate &date, const QDate &today);
 
 }  // namespace trimlog

@@ -62,6 +62,8 @@ void frmSetup::ShowTab(SetupTab tab) {
 bool frmSetup::ValidateFields() {
   for (SetupPage *page : pages_) {
     if (page->Validate()) continue;
+    SSTab1->setCurrentWidget(page);
+    if (QWidget *faulty = page->focusWidget()) faulty->setFocus();
     return false;
   }
   return true;
