@@ -1,0 +1,23 @@
+#include <QApplication>
+
+#include "platform/windows/qt_boxes.h"
+#include "platform/windows/qt_machine.h"
+#include "program.h"
+
+int main(int argc, char **argv) {
+  using namespace trimlog;
+  QApplication application(argc, argv);
+  QApplication::setApplicationName(QStringLiteral("trimlog"));
+  // Only closing the main window ends the program: a sign-in window or a box before it must not.
+  QApplication::setQuitOnLastWindowClosed(false);
+  QApplication::setDesktopFileName(QStringLiteral("trimlog"));
+
+  const std::unique_ptr<SettingsStore> store = OpenUserSettings();
+  SystemClock clock;
+  QtMachine machine;
+  QtBoxes boxes;
+  Session session({QApplication::applicationDirPath(), *store, clock, machine, boxes, QLocale()});
+  const std::unique_ptr<OperatingSystem> system = RunningSystem();
+  Program program(session, *system);
+  return program.Start() ? QApplication::exec() : 0;
+}

@@ -1,0 +1,60 @@
+#include "program.h"
+
+#include <QApplication>
+#include <QScreen>
+
+#include "core/windows/twips.h"
+#include "platform/windows/window_stacking.h"
+
+namespace trimlog {
+
+Program::Program(Session &session, const OperatingSystem &system)
+    : session_(session),
+      system_(system),
+      instance_(session.programDirectory),
+      application_(session, hooks_, doors_, system) {
+  FillHooks();
+  FillNavigator();
+  FillDoors();
+  QObject::connect(&instance_, &SingleInstance::RaiseRequested, &instance_, [this] {
+    if (frame_) RaiseWindow(frame_.get());
+  });
+}
+
+bool Program::Start() { return application_.Main() == Application::Outcome::Running && !ended_; }
+
+void Program::FillDoors() {
+  doors_.ActivatePrevInstance = [this] { return instance_.ActivatePrevInstance(); };
+  doors_.ScreenSize = [] {
+    const QSize size = QApplication::primaryScreen()->size();
+    return QSize(TwipsFromPixels(size.width()), TwipsFromPixels(size.height()));
+  };
+  doors_.CloseSplash = [this] {
+    if (frame_) frame_->CloseSplash();
+  };
+  doors_.ShowFrame = [this] { return ShowFrame(); };
+  doors_.MaximiseFrame = [this] { frame_->showMaximized(); };
+  doors_.LetEventsRun = [] { QApplication::processEvents(); };
+  doors_.OpenSetup = [this] {
+    if (navigator_.OpenSetup) navigator_.OpenSetup(SetupTab::Profiles);
+  };
+  doors_.SaveOpenEdit = [this] { return !frame_ || frame_->SaveOpenEdit(); };
+  doors_.ReadWindowPlaces = [this] {
+    if (frame_) frame_->ReadPlace();
+  };
+}
+
+bool Program::ShowFrame() {
+  frame_ =
+      std::make_unique<frmMDI>(FrameParts{session_, navigator_, hooks_, system_, Forms(), [this] { return Close(); }});
+  return frame_->MDIForm_Load();
+}
+
+bool Program::Close() {
+  if (!application_.QueryUnload()) return false;
+  ended_ = true;
+  QCoreApplication::exit();
+  return true;
+}
+
+}  // namespace trimlog

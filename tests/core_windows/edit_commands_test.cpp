@@ -1,0 +1,102 @@
+#include "core/windows/edit_commands.h"
+
+#include <gtest/gtest.h>
+
+#include <QApplication>
+#include <QClipboard>
+#include <QComboBox>
+#include <QLineEdit>
+#include <QPlainTextEdit>
+#include <QSpinBox>
+#include <QStandardItemModel>
+#include <QTableView>
+
+namespace trimlog {
+namespace {
+
+QString Clipboard() { return QApplication::clipboard()->text(); }
+void SetClipboard(const char *text) { QApplication::clipboard()->setText(QString::fromLatin1(text)); }
+
+TEST(EditCommands, WorkOnTheSelectionOfATextField) {
+  QLineEdit field(QStringLiteral("182.5 lbs"));
+  field.setSelection(0, 5);
+  RunEditCommand(EditCommand::Copy, &field);
+  EXPECT_EQ(Clipboard(), QStringLiteral("182.5"));
+  RunEditCommand(EditCommand::Cut, &field);
+  EXPECT_EQ(field.text(), QStringLiteral(" lbs"));
+  RunEditCommand(EditCommand::Undo, &field);
+  EXPECT_EQ(field.text(), QStringLiteral("182.5 lbs"));
+  SetClipboard("90");
+  field.selectAll();
+  RunEditCommand(EditCommand::Paste, &field);
+  EXPECT_EQ(field.text(), QStringLiteral("90"));
+}
+
+TEST(EditCommands, ReadOnlyFieldsAreOnlyCopiedFrom) {
+  QLineEdit field(QStringLiteral("30.5"));
+  field.setReadOnly(true);
+  field.selectAll();
+  SetClipboard("before");
+  RunEditCommand(EditCommand::Cut, &field);
+  RunEditCommand(EditCommand::Paste, &field);
+  EXPECT_EQ(field.text(), QStringLiteral("30.5"));
+  EXPECT_EQ(Clipboard(), QStringLiteral("before"));
+  RunEditCommand(EditCommand::Copy, &field);
+  EXPECT_EQ(Clipboard(), QStringLiteral("30.5"));
+  EXPECT_FALSE(CanRunEditCommand(EditCommand::Paste, &field));
+  EXPECT_TRUE(CanRunEditCommand(EditCommand::Copy, &field));
+}
+
+TEST(EditCommands, ReachTheFieldInsideOtherControls) {
+  QComboBox combo;
+  combo.setEditable(true);
+  combo.setEditText(QStringLiteral("Lunch"));
+  QSpinBox spin;
+  spin.setRange(0, 999);
+  spin.setValue(42);
+  QPlainTextEdit notes(QStringLiteral("walked"));
+  for (QWidget *control : QWidgetList{&combo, &spin, &notes}) {
+    SetClipboard("");
+    QMetaObject::invokeMethod(control, "selectAll");
+    if (control == &combo) combo.lineEdit()->selectAll();
+    RunEditCommand(EditCommand::Copy, control);
+    EXPECT_FALSE(Clipboard().isEmpty()) << control->metaObject()->className();
+  }
+}
+
+TEST(EditCommands, OnAGridMeanTheActiveCell) {
+  QStandardItemModel model(1, 2);
+  model.setItem(0, 0, new QStandardItem(QStringLiteral("Ann")));
+  model.setItem(0, 1, new QStandardItem(QStringLiteral("locked")));
+  model.item(0, 1)->setEditable(false);
+  QTableView grid;
+  grid.setObjectName(QStringLiteral("grdPeople"));
+  grid.setModel(&model);
+  EXPECT_FALSE(CanRunEditCommand(EditCommand::Copy, &grid));
+
+  grid.setCurrentIndex(model.index(0, 0));
+  RunEditCommand(EditCommand::Cut, &grid);
+  EXPECT_EQ(Clipboard(), QStringLiteral("Ann"));
+  EXPECT_EQ(model.item(0, 0)->text(), QString());
+  RunEditCommand(EditCommand::Paste, &grid);
+  EXPECT_EQ(model.item(0, 0)->text(), QStringLiteral("Ann"));
+
+  grid.setCurrentIndex(model.index(0, 1));
+  RunEditCommand(EditCommand::Paste, &grid);
+  RunEditCommand(EditCommand::Cut, &grid);
+  EXPECT_EQ(model.item(0, 1)->text(), QStringLiteral("locked"));
+  EXPECT_EQ(Clipboard(), QStringLiteral("Ann"));
+}
+
+TEST(EditCommands, DoNothingOnOtherControlsAndOnNone) {
+  QWidget other;
+  for (const EditCommand command : {EditCommand::Undo, EditCommand::Cut, EditCommand::Copy, EditCommand::Paste}) {
+    EXPECT_FALSE(CanRunEditCommand(command, nullptr));
+    EXPECT_FALSE(CanRunEditCommand(command, &other));
+    RunEditCommand(command, nullptr);
+    RunEditCommand(command, &other);
+  }
+}
+
+}  // namespace
+}  // namespace trimlog

@@ -1,0 +1,277 @@
+#include <QCloseEvent>
+#include <QTest>
+
+#include "frame_fixture.h"
+
+namespace trimlog {
+namespace {
+
+using Frame = FrameTest;
+
+TEST_F(Frame, StartsOnTheCalendarUnderItsTitle) {
+  Load();
+  EXPECT_TRUE(loaded);
+  EXPECT_EQ(frame->windowTitle(), QStringLiteral("Trimlog Pro 2.7"));
+  EXPECT_EQ(frame->CurrentFormName(), QStringLiteral("frmData"));
+  EXPECT_EQ(Find<QLineEdit>("txtPersonName")->text(), QStringLiteral("Test Person"));
+  EXPECT_EQ(Find<QLineEdit>("txtGoal")->text(), QStringLiteral("150"));
+}
+
+TEST_F(Frame, CannotRunWithoutItsDataFile) {
+  QFile::remove(session->DataFilePath());
+  session.boxes.Expect(QStringLiteral("Trimlog"), QStringLiteral("The program was unable to find the data file: "));
+  Load();
+  EXPECT_FALSE(loaded);
+  EXPECT_TRUE(
+      session.boxes.Shown()[0].text.endsWith(QStringLiteral("tlg.dat.  The program cannot start without this file.")));
+}
+
+TEST_F(Frame, EachFormBringsItsMenus) {
+  Offer(QStringLiteral("frmPlanner"));
+  Offer(QStringLiteral("frmLinks"));
+  Load();
+  const struct {
+    const char *form;
+    bool weight, undoRow, print;
+  } rows[] = {{"frmDiary", false, true, true},
+              {"frmGraphs", false, false, false},
+              {"frmPlanner", false, true, true},
+              {"frmLinks", false, false, false},
+              {"frmData", true, false, true}};
+  for (const auto &row : rows) {
+    frame->ShowForm(QString::fromLatin1(row.form));
+    EXPECT_EQ(frame->CurrentFormName(), QLatin1String(row.form));
+    EXPECT_EQ(Visible("mnuEditDeleteWeight"), row.weight) << row.form;
+    EXPECT_EQ(Visible("mnuEditGoto"), row.weight) << row.form;
+    EXPECT_EQ(Visible("mnuEditUndoRow"), row.undoRow) << row.form;
+    EXPECT_EQ(Visible("mnuFilePrint"), row.print) << row.form;
+  }
+}
+
+TEST_F(Frame, ARefusalLeavesWindowAndMenusAsTheyAre) {
+  Load();
+  const ContentWindow *before = frame->CurrentForm();
+  behaviour.leaves = false;
+  frame->ShowForm(QStringLiteral("frmGraphs"));
+  behaviour.leaves = true;
+  behaviour.saves = false;
+  frame->ShowForm(QStringLiteral("frmGraphs"));
+  EXPECT_EQ(frame->CurrentForm(), before);
+  EXPECT_TRUE(before->isVisible());
+  EXPECT_TRUE(Visible("mnuFilePrint"));
+  EXPECT_TRUE(Visible("mnuEditGoto"));
+}
+
+TEST_F(Frame, SwitchingSavesShowsTheNewAndDropsTheOld) {
+  Load();
+  Choose("mnuViewGraphs");
+  EXPECT_EQ(behaviour.calls.join(QLatin1Char(' ')),
+            QStringLiteral("frmData:save frmGraphs:made frmGraphs:activated frmData:gone"));
+  behaviour.calls.clear();
+  Choose("mnuViewGraphs");  // the window already shown stays the same one
+  EXPECT_TRUE(behaviour.calls.isEmpty());
+}
+
+TEST_F(Frame, QuickJournalLivesOverTheCalendarOnly) {
+  Load();
+  QWidget quickJournal(frame.get(), Qt::Tool);
+  quickJournal.setObjectName(QStringLiteral("frmQuickDiary"));
+  quickJournal.show();
+  session->QuickJournalOpen = true;
+  frame->ShowForm(QStringLiteral("frmGraphs"));
+  EXPECT_FALSE(quickJournal.isVisible());
+  frame->ShowForm(QStringLiteral("frmData"));
+  EXPECT_TRUE(quickJournal.isVisible());
+}
+
+TEST_F(Frame, KeepsItsLeastSizeAndStandsOnTheScreen) {
+  session->framePlace = {-90000, -90000, 100, 100};
+  Load();
+  EXPECT_EQ(frame->size(), QSize(635, 473));
+  EXPECT_TRUE(QApplication::screenAt(frame->geometry().center()));
+  frame->resize(10, 10);
+  QApplication::processEvents();
+  EXPECT_EQ(frame->size(), QSize(635, 473));
+
+  frame->resize(1000, 700);
+  QApplication::processEvents();
+  EXPECT_EQ(Find<QWidget>("frmMain1")->width(), 1000);
+  EXPECT_EQ(Find<QWidget>("frmMain")->geometry().bottom(), Find<QWidget>("pnlContent")->geometry().bottom());
+  EXPECT_EQ(frame->CurrentForm()->mapTo(frame.get(), QPoint(frame->CurrentForm()->width(), 0)).x(), 1000);
+  frame->ReadPlace();
+  EXPECT_EQ(session->framePlace.Width, 15000);
+  EXPECT_EQ(session->framePlace.Height, 10500);
+}
+
+TEST_F(Frame, WindowStateFollowsAndMinimisedIsNoState) {
+  Load();
+  frame->setWindowState(Qt::WindowMaximized);
+  QApplication::processEvents();
+  EXPECT_EQ(session->frameWindowState, 2);
+  frame->setWindowState(Qt::WindowMaximized | Qt::WindowMinimized);
+  QApplication::processEvents();
+  EXPECT_EQ(session->frameWindowState, 2);
+  frame->setWindowState(Qt::WindowNoState);
+  QApplication::processEvents();
+  EXPECT_EQ(session->frameWindowState, 0);
+}
+
+TEST_F(Frame, ClosesOnlyWhenTheShutdownLetsIt) {
+  int asked = 0;
+  bool may = false;
+  QueryUnload = [&] {
+    ++asked;
+    return may;
+  };
+  Load();
+  Choose("mnuFileExit");
+  EXPECT_TRUE(frame->isVisible());
+  may = true;
+  QTest::mouseClick(Find<QWidget>("cmdExit"), Qt::LeftButton);
+  EXPECT_FALSE(frame->isVisible());
+  EXPECT_EQ(asked, 2);
+}
+
+TEST_F(Frame, PressingAwayFromTheCalendarHoldsRewardsBack) {
+  navigator.OpenTools = [](ToolsPanel) {};
+  Load();
+  for (const char *name : {"cmdGraphs", "cmdTools", "cmdExit"}) {
+    session->SuppressReward = false;
+    QTest::mousePress(Find<QWidget>(name), Qt::LeftButton);
+    EXPECT_TRUE(session->SuppressReward) << name;
+  }
+  for (const char *name : {"cmdData", "cmdDiary"}) {
+    session->SuppressReward = false;
+    QTest::mousePress(Find<QWidget>(name), Qt::LeftButton);
+    EXPECT_FALSE(session->SuppressReward) << name;
+  }
+}
+
+TEST_F(Frame, PanelShowsFiguresUnitsAndTheirChanges) {
+  Load();
+  EXPECT_EQ(Find<QLabel>("lblGoal")->text(), QStringLiteral("Goal (Lbs)"));
+  EXPECT_EQ(Find<QLabel>("lblLbsPerWeek")->text(), QStringLiteral("Lbs/Week"));
+  session->statistics = {QStringLiteral("8.5"), QStringLiteral("1.2"), QStringLiteral("20"), QStringLiteral("117"),
+                         QStringLiteral("6/26/2026")};
+  session->changes.AnnounceStatistics();
+  EXPECT_EQ(Find<QLineEdit>("txtLbsLost")->text(), QStringLiteral("8.5"));
+  EXPECT_EQ(Find<QLineEdit>("txtProjDate")->text(), QStringLiteral("6/26/2026"));
+  session->UomDisplay = QStringLiteral("Kg");
+  session->changes.AnnounceSettings();
+  EXPECT_EQ(Find<QLabel>("lblLbsLost")->text(), QStringLiteral("Kg Lost"));
+  session.Data().Execute(QStringLiteral("UPDATE people SET people.Goal = \"145.5\" WHERE (people.PersonID=1);"));
+  session->changes.AnnounceProfiles();
+  EXPECT_EQ(Find<QLineEdit>("txtGoal")->text(), QStringLiteral("145.5"));
+}
+
+TEST_F(Frame, SamplesAreLoadedWelcomedAndMarked) {
+  Load();
+  session.boxes.Expect(QStringLiteral("Welcome to Sample Profile 2"), QStringLiteral("7 month period"));
+  ProfileEntry(QStringLiteral("Sample Profile 2"))->trigger();
+  QApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
+  EXPECT_EQ(session->CurrentPersonID, QStringLiteral("-1"));
+  EXPECT_EQ(session->LastRealPersonID, QStringLiteral("1"));
+  EXPECT_TRUE(Visible("mnuEditReset"));
+  EXPECT_TRUE(ProfileEntry(QStringLiteral("Sample Profile 2"))->isChecked());
+  EXPECT_FALSE(ProfileEntry(QStringLiteral("Test Person"))->isChecked());
+  EXPECT_EQ(behaviour.calls.join(QLatin1Char(' ')),
+            QStringLiteral("frmData:save frmData:made frmData:activated frmData:gone"));
+
+  ProfileEntry(QStringLiteral("Test Person"))->trigger();
+  EXPECT_FALSE(Visible("mnuEditReset"));
+  EXPECT_EQ(Find<QLineEdit>("txtPersonName")->text(), QStringLiteral("Test Person"));
+}
+
+TEST_F(Frame, ASwitchThatCannotSaveChangesNothing) {
+  Load();
+  behaviour.saves = false;
+  ProfileEntry(QStringLiteral("Sample Profile 1"))->trigger();
+  EXPECT_EQ(session->CurrentPersonID, QStringLiteral("1"));
+  EXPECT_TRUE(ProfileEntry(QStringLiteral("Test Person"))->isChecked());
+  EXPECT_FALSE(ProfileEntry(QStringLiteral("Sample Profile 1"))->isChecked());
+}
+
+TEST_F(Frame, NewProfilesAreOfferedOnlyWhereTheyCanBeMade) {
+  Load();
+  const QString create = QStringLiteral("&Create a New Profile...");
+  EXPECT_FALSE(ProfileEntry(create)->isEnabled());
+  navigator.StartWiz = [](bool) { return false; };  // the wizard only makes the first profile
+  frame->LoadProfilesMenu();
+  EXPECT_FALSE(ProfileEntry(create)->isEnabled());
+  bool added = false;
+  navigator.AddProfile = [&](QWidget *) { return added = true; };
+  frame->LoadProfilesMenu();
+  ProfileEntry(create)->trigger();
+  EXPECT_TRUE(added);
+
+  session.Data().Execute(QStringLiteral("DELETE people.* FROM people WHERE (people.PersonID>0);"));
+  navigator.AddProfile = nullptr;
+  bool forced = false;
+  navigator.StartWiz = [&](bool force) {
+    forced = force;
+    session.AddProfile(1, QStringLiteral("Newcomer"));
+    return true;
+  };
+  frame->LoadProfilesMenu();
+  ProfileEntry(create)->trigger();
+  EXPECT_TRUE(forced);
+  EXPECT_EQ(session->CurrentPersonID, QStringLiteral("1"));
+  EXPECT_TRUE(ProfileEntry(QStringLiteral("Newcomer"))->isChecked());
+}
+
+TEST_F(Frame, WizardComesByItselfOnlyForTheFirstProfile) {
+  QStringList runs;
+  navigator.StartWiz = [&](bool force) {
+    runs.append(force ? QStringLiteral("forced") : QStringLiteral("offered"));
+    return false;
+  };
+  Load();
+  EXPECT_EQ(runs, QStringList{QStringLiteral("offered")});
+  session->ReloadInProgress = true;
+  Load();
+  session->ReloadInProgress = false;
+  session.AddProfile(2, QStringLiteral("Bob"));
+  session->CurrentPersonID = QStringLiteral("2");
+  Load();
+  EXPECT_EQ(runs.size(), 1);
+}
+
+TEST_F(Frame, ResettingWeightsTakesProfileOnesWhicheverIsLoaded) {
+  session.AddProfile(2, QStringLiteral("Bob"));
+  for (const char *person : {"1", "2"}) {
+    session.Data().Execute(
+        QStringLiteral("INSERT INTO weight_loss ( PersonID, ThisDate, ThisWeight, ThisLoss ) SELECT %1 AS "
+                       "Expr1, #3/1/2026# AS Expr2, 180 AS Expr3, 0 AS Expr4;")
+            .arg(QLatin1String(person)));
+  }
+  session->CurrentPersonID = QStringLiteral("2");
+  Load();
+  session.boxes.Expect(QStringLiteral("Reset Weight Loss Data"), QStringLiteral("cannot get it back"), BoxButton::No);
+  session.boxes.Expect({}, QStringLiteral("Action canceled.  No data was deleted."));
+  Choose("mnuEditOtherReset");
+  EXPECT_EQ(session->CurrentPersonID, QStringLiteral("2"));
+  session.boxes.Expect(QStringLiteral("Reset Weight Loss Data"), QStringLiteral("cannot get it back"), BoxButton::Yes);
+  session.boxes.Expect({}, QStringLiteral("All weight loss data has been deleted successfully."));
+  Choose("mnuEditOtherReset");
+  EXPECT_EQ(session->CurrentPersonID, QStringLiteral("1"));
+  EXPECT_EQ(session.ValueOf(QStringLiteral("ThisWeight"), QStringLiteral("weight_loss"),
+                            QStringLiteral("weight_loss.PersonID=1")),
+            QString());
+  EXPECT_EQ(session.ValueOf(QStringLiteral("ThisWeight"), QStringLiteral("weight_loss"),
+                            QStringLiteral("weight_loss.PersonID=2")),
+            QStringLiteral("180"));
+}
+
+TEST_F(Frame, ALoadThatFailsSaysSoAndIsLogged) {
+  forms.insert(QStringLiteral("frmData"),
+               [](QWidget *) -> ContentWindow * { throw Error(error_number::other, QStringLiteral("broken")); });
+  session.boxes.Expect(QStringLiteral("Error Loading Program"),
+                       QStringLiteral("An error occurred while loading the program."));
+  Load();
+  QFile log(session.directory.filePath(QStringLiteral("errorlog.txt")));
+  ASSERT_TRUE(log.open(QIODevice::ReadOnly));
+  EXPECT_TRUE(log.readAll().contains("frmMDI, MDIForm_Load, broken"));
+}
+
+}  // namespace
+}  // namespace trimlog

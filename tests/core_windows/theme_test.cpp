@@ -1,0 +1,63 @@
+#include "core/windows/theme.h"
+
+#include <gtest/gtest.h>
+
+#include <QLabel>
+
+namespace trimlog {
+namespace {
+
+TEST(Theme, ContrastIsTheWebGuidelinesRatio) {
+  EXPECT_NEAR(ContrastRatio(Qt::black, Qt::white), 21.0, 0.001);
+  EXPECT_NEAR(ContrastRatio(QColor(0x76, 0x76, 0x76), Qt::white), 4.54, 0.01);  // the well-known lightest readable grey
+  EXPECT_NEAR(RelativeLuminance(QColor(255, 0, 0)), 0.2126, 0.0001);
+}
+
+TEST(Theme, TextOnEveryColourReaches) {
+  for (int red = 0; red <= 255; red += 51) {
+    for (int green = 0; green <= 255; green += 51) {
+      for (int blue = 0; blue <= 255; blue += 51) {
+        const QColor background(red, green, blue);
+        EXPECT_GE(ContrastRatio(ContrastText(background), background), 4.5) << background.name().toStdString();
+      }
+    }
+  }
+}
+
+TEST(Theme, KeptColoursAreBlueGreenRed) {
+  EXPECT_EQ(ColorFromBgr(0xFFE0C0), QColor(0xC0, 0xE0, 0xFF));
+  EXPECT_EQ(BgrFromColor(QColor(0xC0, 0xE0, 0xFF)), 0xFFE0C0U);
+  EXPECT_EQ(ColorFromBgr(255), QColor(Qt::red));
+  QPalette desktop;
+  desktop.setColor(QPalette::Button, QColor(1, 2, 3));
+  desktop.setColor(QPalette::ButtonText, QColor(4, 5, 6));
+  EXPECT_EQ(ColorFromBgr(0x8000000F, desktop), QColor(1, 2, 3));
+  EXPECT_EQ(ColorFromBgr(0x80000012, desktop), QColor(4, 5, 6));
+}
+
+TEST(Theme, MeaningKeepsItsValueOnLightAndItsHueOnDark) {
+  const QColor gain = ColorFromBgr(255), loss = ColorFromBgr(32768), none = ColorFromBgr(0);
+  for (const QColor &light : {QColor(Qt::white), QColor(0xC0, 0xE0, 0xFF), QColor(0xFF, 0xFF, 0xC0)}) {
+    EXPECT_EQ(MeaningColor(gain, light), gain);
+    EXPECT_EQ(MeaningColor(loss, light), loss);
+    EXPECT_EQ(MeaningColor(none, light), none);
+  }
+  for (const QColor &dark : {QColor(Qt::black), QColor(0x23, 0x26, 0x29), QColor(0x2D, 0x2D, 0x2D)}) {
+    for (const QColor &color : {gain, loss, none}) EXPECT_GE(ContrastRatio(MeaningColor(color, dark), dark), 4.5);
+    EXPECT_LT(qAbs(MeaningColor(loss, dark).hsvHue() - loss.hsvHue()), 4);
+    EXPECT_LT(MeaningColor(gain, dark).hsvHue(), 4);
+  }
+}
+
+TEST(Theme, PanelTextFollowsThePanelNotTheDesktop) {
+  QWidget panel;
+  QLabel label(QStringLiteral("Name"), &panel);
+  for (const quint32 color : {0xFFE0C0U, 0x400000U}) {
+    PaintPanel(&panel, color);
+    EXPECT_EQ(label.palette().color(QPalette::WindowText), ContrastText(ColorFromBgr(color)));
+    EXPECT_EQ(panel.palette().color(QPalette::Base), QPalette().color(QPalette::Base));
+  }
+}
+
+}  // namespace
+}  // namespace trimlog
