@@ -5,7 +5,7 @@
 
 namespace trimlog {
 
-QList<NutrientChoice> NutrientChoices(Session &session) {
+QList<NutrientChoice> SelectableNutrients(Session &session) {
   QList<NutrientChoice> choices;
   Recordset rows = session.Data().OpenRecordset(
       QStringLiteral("SELECT nutrients.* FROM nutrients ORDER BY nutrients.NutSortOrder;"));

@@ -16,7 +16,7 @@ struct NutrientChoice {
   QString fieldName;
 };
 /// All 36, in their sort order, "None" first.
-QList<NutrientChoice> NutrientChoices(Session &session);
+QList<NutrientChoice> SelectableNutrients(Session &session);
 
 using NutrientSelection = std::array<SelectedNutrient, shownNutrients>;
 

@@ -203,8 +203,8 @@ TEST_F(Foods, TheSelectionIsStoredForTheWholeFile) {
   SaveNutrientSelection(*session, selection);
   EXPECT_EQ(session->nutrients.SelectedNutrients[0].description, "My \"own\"");
   EXPECT_EQ(session->nutrients.SelectedNutrients[9].NutrientID, 0);
-  EXPECT_EQ(NutrientChoices(*session).size(), 36);
-  EXPECT_EQ(NutrientChoices(*session).first().descriptionPlusUnit, "None");
+  EXPECT_EQ(SelectableNutrients(*session).size(), 36);
+  EXPECT_EQ(SelectableNutrients(*session).first().descriptionPlusUnit, "None");
   EXPECT_FALSE(HandheldHoldsFoods(*session));
 }
 
