@@ -12,6 +12,7 @@
 #include "weightlog/rewards.h"
 #include "weightlog/weight_statistics.h"
 #include "weightlog/windows/frmData.h"
+#include "weightlog/windows/rewards_page.h"
 #define HAS_DATA
 #endif
 
@@ -36,7 +37,7 @@ void Program::FillNavigator() {
   navigator_.ShowHelp = [this](const QString &topic) { ShowHelp(session_, topic); };
 #ifdef HAS_SETUP
   navigator_.OpenSetup = [this](SetupTab tab) {
-    frmSetup setup(session_, navigator_, {}, frame_.get());
+    frmSetup setup(session_, navigator_, {RewardsTab()}, frame_.get());
     setup.ShowTab(tab);
     setup.exec();
   };

@@ -34,7 +34,7 @@ bool frmMDI::MDIForm_Load() {
     SignIn();
     RefreshMain();
     ShowForm(QStringLiteral("frmData"));
-    show();
+    ShowAsKept();
     CloseSplash();
     StartWizardIfNeeded();
     LoadProfilesMenu();
@@ -52,7 +52,7 @@ bool frmMDI::MDIForm_Load() {
     const bool available = !command.available || command.available();
     navigation_->SetCommand(QString::fromLatin1(command.button), available ? command.run : nullptr);
   }
-  show();
+  ShowAsKept();
   return true;
 }
 
@@ -68,7 +68,6 @@ void frmMDI::ShowStartScreens() {
   if (!session_.ReloadInProgress && session_.settings.ShowSplash) {
     splash_ = new frmSplash(session_, system_, this);
     splash_->setAttribute(Qt::WA_DeleteOnClose);
-    connect(splash_, &QObject::destroyed, this, [this] { splash_ = nullptr; });
     splash_->show();
     QApplication::processEvents();
   }

@@ -38,8 +38,11 @@ void frmMDI::LoadProfilesMenu() {
     action->setCheckable(profile);
     action->setChecked(profile && entry.checked);
     connect(action, &QAction::triggered, this, [this, entry] {
-      RunProfileCommand(entry);
-      LoadProfilesMenu();  // a click toggles the mark, also when the switch was refused
+      const FailureExit failure{QStringLiteral("frmMDI"), QStringLiteral("mnuProfileNames_Click"), {}, {}};
+      Guarded(session_, failure, [this, &entry] {
+        RunProfileCommand(entry);
+        LoadProfilesMenu();  // a click toggles the mark, also when the switch was refused
+      });
     });
   }
 }

@@ -5,6 +5,7 @@
 #include <QGridLayout>
 #include <QScreen>
 
+#include "core/failure_guard.h"
 #include "core/window_position.h"
 #include "core/windows/art.h"
 #include "core/windows/frmMain.h"
@@ -30,8 +31,6 @@ constexpr FormMenus formMenus[] = {
     {"frmLinks", "cmdLinks", false, false, false},
 };
 
-constexpr int maximised = 2;
-
 }  // namespace
 
 frmMDI::frmMDI(const FrameParts &parts)
@@ -50,7 +49,7 @@ frmMDI::frmMDI(const FrameParts &parts)
   ConnectCommands();
   connect(&session_.changes, &DataChanges::SettingsChanged, this, &frmMDI::RefreshMain);
   connect(&session_.changes, &DataChanges::ProfilesChanged, this, [this] {
-    if (loaded_) LoadProfilesMenu();
+    if (loaded_) GuardedQuietly([this] { LoadProfilesMenu(); });
   });
 }
 
@@ -77,9 +76,11 @@ void frmMDI::BuildPanels() {
 
 void frmMDI::ConnectCommands() {
   commands_ = FrameCommands(*this, session_, navigator_, hooks_);
-  for (const FrameCommand &command : commands_) {
-    const std::function<void()> &run = command.run;
-    connect(menus_->Action(QString::fromLatin1(command.menu)), &QAction::triggered, this, [run] { run(); });
+  for (FrameCommand &command : commands_) {
+    const QString name = QString::fromLatin1(command.menu);
+    const FailureExit failure{QStringLiteral("frmMDI"), name + QStringLiteral("_Click"), {}, {}};
+    command.run = [this, failure, work = command.run] { Guarded(session_, failure, work); };
+    connect(menus_->Action(name), &QAction::triggered, this, command.run);
   }
   for (QMenu *menu : menuBar()->findChildren<QMenu *>())
     connect(menu, &QMenu::aboutToShow, this, &frmMDI::RefreshCommands);
@@ -144,6 +145,15 @@ void frmMDI::RefreshMain() {
   navigation_->Refresh();
 }
 
+void frmMDI::ShowAsKept() {
+  if (isVisible()) return;
+  if (session_.frameWindowState == maximisedState) {
+    showMaximized();
+  } else {
+    show();
+  }
+}
+
 void frmMDI::ReadPlace() {
   const QRect place = isMaximized() ? normalGeometry() : QRect(pos(), size());
   session_.framePlace = {TwipsFromPixels(place.left()), TwipsFromPixels(place.top()), TwipsFromPixels(place.width()),
@@ -176,7 +186,7 @@ void frmMDI::ResetPlace() {
 
 void frmMDI::changeEvent(QEvent *event) {
   if (event->type() == QEvent::WindowStateChange && loaded_ && !isMinimized()) {
-    session_.frameWindowState = isMaximized() ? maximised : 0;
+    session_.frameWindowState = isMaximized() ? maximisedState : 0;
   }
   QMainWindow::changeEvent(event);
 }

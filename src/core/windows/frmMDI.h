@@ -2,6 +2,7 @@
 
 #include <QHash>
 #include <QMainWindow>
+#include <QPointer>
 #include <functional>
 #include <vector>
 
@@ -80,6 +81,8 @@ class frmMDI : public QMainWindow {
   void changeEvent(QEvent *event) override;
 
  private:
+  static constexpr int maximisedState = 2;  ///< of session.frameWindowState
+
   void BuildPanels();
   void ConnectCommands();
   void RefreshCommands();
@@ -87,6 +90,7 @@ class frmMDI : public QMainWindow {
   void ReplaceForm(const QString &name);
   void ShowQuickJournal(bool visible);
 
+  void ShowAsKept();
   void SetTitle();
   void ShowStartScreens();
   void SignIn();
@@ -110,7 +114,7 @@ class frmMDI : public QMainWindow {
   frmMain1 *statistics_ = nullptr;
   frmMain *navigation_ = nullptr;
   QVBoxLayout *content_ = nullptr;
-  frmSplash *splash_ = nullptr;
+  QPointer<frmSplash> splash_;
   ContentWindow *currentForm_ = nullptr;
   QString currentFormName_;
   bool loaded_ = false;

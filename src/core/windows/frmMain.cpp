@@ -23,9 +23,9 @@ struct Destination {
   bool suppressesReward;
 };
 constexpr Destination destinations[] = {
-    {"cmdData", "&Calendar", "calendar", "Your weights, day by day", false},
+    {"cmdData", "C&alendar", "calendar", "Your weights, day by day", false},
     {"cmdDiary", "&Journal", "journal", "Meals, exercises, measurements and notes", false},
-    {"cmdPlanner", "P&lanner", "planner", "Meals and exercises for coming days", true},
+    {"cmdPlanner", "Pla&nner", "planner", "Meals and exercises for coming days", true},
     {"cmdGraphs", "Cha&rts", "charts", "Charts of your progress", true},
     {"cmdLinks", "Lin&ks", "links", "Web sites worth a visit", true},
     {"cmdTools", "T&ools", "tools", "Goal planner and calculators", true},

@@ -18,6 +18,7 @@ QLineEdit *AddField(QGridLayout *layout, const QString &name, const QString &lab
   auto *field = new QLineEdit(panel);
   field->setObjectName(QStringLiteral("txt") + name);
   field->setReadOnly(true);
+  field->setFocusPolicy(Qt::ClickFocus);  // to be read and copied from, not a stop on the keyboard's way
   field->setToolTip(tip);
   field->setAlignment(stretch > 1 ? Qt::AlignLeft : Qt::AlignCenter);
   field->setMinimumWidth(field->fontMetrics().horizontalAdvance(QStringLiteral("00/00/0000 ")));
