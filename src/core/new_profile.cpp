@@ -46,11 +46,6 @@ std::optional<NewProfileComplaint> CheckNewProfile(Session &session, const NewPr
   return session.BizEd ? CheckSignIn(session, profile) : std::nullopt;
 }
 
-bool IsValidGoal(const QString &goal, const QLocale &locale) {
-  const std::optional<double> number = ParseNumber(goal, locale);
-  return number && *number > 0;
-}
-
 QString AddNewProfile(Session &session, const NewProfile &profile) {
   Transaction transaction(session.Data());
   const QString personID = GetNextID(session.Data(), QStringLiteral("people"));

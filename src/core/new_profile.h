@@ -27,11 +27,9 @@ struct NewProfileComplaint {
   QString title;
   QString text;
 };
-/// Nothing when the profile may be added. A goal that is no number above 0 is no complaint here: the dialog asks.
+/// Nothing when the profile may be added. A goal that is no number above 0 is no
+/// complaint here: ConfirmGoal asks.
 std::optional<NewProfileComplaint> CheckNewProfile(Session &session, const NewProfile &profile);
-
-/// True when the goal is a number above 0; otherwise the dialog asks whether to continue.
-bool IsValidGoal(const QString &goal, const QLocale &locale);
 
 /// Stores the profile under the next key, in one transaction, and announces it. Returns its PersonID. Throws what the
 /// store throws.
