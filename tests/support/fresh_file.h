@@ -1,0 +1,24 @@
+#pragma once
+
+#include <QTemporaryDir>
+
+#include "core/schema.h"
+#include "platform/recordset.h"
+
+namespace trimlog {
+
+/// A data file of its own with the whole schema and no rows.
+class FreshFile {
+ public:
+  FreshFile() : database(Database::Create(Path())) { CreateSchema(*database); }
+  QString Path() const { return directory.filePath(QStringLiteral("tlg.dat")); }
+  int Count(const QString &table, const QString &where = QStringLiteral("1=1")) {
+    return database->OpenRecordset(QStringLiteral("SELECT Count(*) AS N FROM %1 WHERE %2;").arg(table, where))
+        .Integer(QStringLiteral("N"));
+  }
+
+  QTemporaryDir directory;
+  std::unique_ptr<Database> database;
+};
+
+}  // namespace trimlog
