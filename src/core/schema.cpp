@@ -2,6 +2,8 @@
 
 #include <algorithm>
 
+#include "platform/database_internals.h"
+
 namespace trimlog {
 
 namespace {
@@ -61,7 +63,9 @@ void CreateSchemaTable(Database &database, const SchemaTable &table) {
   }
   for (const SchemaRelation &relation : table.relations) {
     if (relation.parentNeeded) continue;
-    for (const QString &statement : TriggerStatements(table, relation)) database.Execute(statement);
+    for (const QString &statement : TriggerStatements(table, relation)) {
+      database.Internals().Plain(statement.toUtf8().constData());
+    }
   }
 }
 
