@@ -1,9 +1,8 @@
 #pragma once
 
+#include <QtGlobal>
 #include <functional>
 #include <vector>
-
-#include <QtGlobal>
 
 namespace trimlog {
 
@@ -27,7 +26,6 @@ class GridKeys {
   const std::vector<qint64> &All();
   std::vector<qint64> Range(int first, int last);  ///< both ends included, clipped to the list
   void Append(qint64 key);
-  void Remove(const std::vector<qint64> &sortedKeys);
 
  private:
   ReadTop read_;

@@ -14,8 +14,6 @@
 
 namespace trimlog {
 
-enum class GridRowState { Clean, Changed, Refused, Blank };
-
 /// The rows of a GridSource as a table: keys first, values as they are seen. One row at a time is being changed; its
 /// changes stay here until SaveRow writes them in one transaction. Needs no display and opens no box: what fails is
 /// thrown as an Error, except from data(), which shows an unreadable row as empty.
@@ -24,9 +22,9 @@ class GridModel : public QAbstractTableModel {
  public:
   enum Role {
     ColumnNameRole = Qt::UserRole,       ///< of a horizontal header: the column's name
-    RowStateRole = Qt::UserRole + 1,     ///< int of GridRowState
     CellChangedRole = Qt::UserRole + 2,  ///< bool: changed and not yet saved
     SentenceRole = Qt::UserRole + 3,     ///< why the cell's text is refused; empty when it is not
+    ValueRole = Qt::UserRole + 4,  ///< the value itself, as stored; also for setting one that was chosen, not typed
   };
 
   explicit GridModel(const QLocale &locale, QObject *parent = nullptr);
@@ -42,6 +40,7 @@ class GridModel : public QAbstractTableModel {
   void RebindColumn(const QString &name, const QString &field, const QString &caption, const QString &pattern = {});
   void SetCaption(const QString &name, const QString &caption);
   void SetChoices(const QString &name, const QList<GridChoice> &choices);
+  void SetColumnVisible(const QString &name, bool visible);
   void SetAllowNew(bool allow);  ///< an empty row at the end takes new records
   const QLocale &Locale() const { return locale_; }
 

@@ -8,8 +8,6 @@
 
 namespace trimlog {
 
-class GridDelegate;
-
 /// The data grid of every window: shows the rows of a GridSource, changes them in place, marks, sorts, copies and
 /// deletes whole rows.
 ///
@@ -73,8 +71,8 @@ class BoundGrid : public QTableView {
   void Copy();
   void Paste();
   // Whole rows.
-  void CopyRows(GridClipboard &clipboard) const;  ///< for other grids of the program
-  void CopyRowsExternal() const;                  ///< as cells for other programs
+  bool CopyRows(GridClipboard &clipboard);  ///< for other grids of the program
+  void CopyRowsExternal();                  ///< as cells for other programs
   bool PasteRows(const GridClipboard &clipboard);
 
  Q_SIGNALS:
@@ -97,28 +95,38 @@ class BoundGrid : public QTableView {
   QModelIndex moveCursor(CursorAction action, Qt::KeyboardModifiers modifiers) override;
   void currentChanged(const QModelIndex &current, const QModelIndex &previous) override;
   void scrollContentsBy(int dx, int dy) override;
-  int sizeHintForColumn(int column) const override;
+  void paintEvent(QPaintEvent *event) override;
 
  private:
   friend class GridSelection;
   struct Place;
+
   bool RunGuarded(GridAction action, const std::function<void()> &work);
-  bool KeepingPlace(const std::function<void()> &work);
   Place TakePlace() const;
+  void KeepingPlace(const std::function<void()> &work);
   void RestorePlace(const Place &place);
-  bool MayLeaveRow(int targetRow);
-  void CloseOpenEditor(bool keep);
-  QWidget *OpenEditor() const;
-  QModelIndex NextEditable(bool forward) const;
+  void GoToFirstRow();
+  void TellCurrentRow();
+  std::vector<int> MarkedRowNumbers() const;
+  std::vector<qint64> RowsToCopy() const;
   void PrefetchVisible();
+
+  QModelIndex LeaveRowFor(const QModelIndex &target);
+  void ShowRefusal();
+  QWidget *OpenEditor() const;
+  void CloseOpenEditor(bool keep);
+  QModelIndex NextEditable(bool forward) const;
+  bool HandleEditingKey(QKeyEvent *event);
+  bool ActivateRow();
+  void keyboardSearch(const QString &search) override;
+  void DeleteKeepingPlace(const std::vector<qint64> &keys);
+
+  void ApplyFont();
   void ApplyWidths();
   void SaveWidths();
   int WidthOf(const GridColumn &column) const;
   void SortByClick(int section);
   void ShowSortIndicator();
-  void ShowSentence();
-  void keyboardSearch(const QString &search) override;
-  bool HandleEditingKey(QKeyEvent *event);
 
   GridModel *model_;
   SettingsStore *store_ = nullptr;
