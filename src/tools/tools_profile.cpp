@@ -13,6 +13,12 @@ QString StoredNumberText(const QString &stored, const QLocale &locale) {
   return value ? NumberText(*value, locale) : stored;
 }
 
+QString WeightCaption(const QString &caption, const std::optional<WeightEntry> &entry, const QString &UomDisplay,
+                      const QLocale &locale) {
+  if (!entry) return caption;
+  return caption + QStringLiteral(" of ") + NumberText(entry->ThisWeight, locale) + QLatin1Char(' ') + UomDisplay;
+}
+
 void ReadPlan(ToolsProfile &profile, const Session &session) {
   const Recordset datPeople = session.Data().OpenRecordset(
       QStringLiteral("SELECT people.* from people WHERE PersonID=?;"), {session.CurrentPersonID.toInt()});
@@ -72,6 +78,30 @@ void SaveGoalMethod(Session &session, GoalMethod method, const QDate &date, cons
        session.CurrentPersonID.toInt()});
   transaction.Commit();
   session.changes.Announce({QStringLiteral("people"), session.CurrentPersonID, {}});
+}
+
+QString GenderText(int GenderID) { return GenderID == 1 ? QStringLiteral("Male") : QStringLiteral("Female"); }
+
+QString WholeHeightText(const BodyProfile &body, int UomID, const QLocale &locale) {
+  const double whole = body.HeightFeet * (UomID == 1 ? 12 : 100) + body.HeightInches;
+  return NumberText(whole, locale) + QLatin1Char(' ') + LengthUnitText(UomID);
+}
+
+QString LengthUnitText(int UomID) { return UomID == 1 ? QStringLiteral("Inches") : QStringLiteral("Cm"); }
+
+QString CurrentWeightCaption(const ToolsProfile &profile, const QString &UomDisplay, const QLocale &locale) {
+  return WeightCaption(QStringLiteral("Use My Current Weight"), profile.currentWeight, UomDisplay, locale);
+}
+
+QString InitialWeightCaption(const ToolsProfile &profile, const QString &UomDisplay, const QLocale &locale) {
+  return WeightCaption(QStringLiteral("Use My Initial Weight"), profile.initialWeight, UomDisplay, locale);
+}
+
+QString CurrentWaistCaption(const ToolsProfile &profile, int UomID, const QLocale &locale) {
+  const QString caption = QStringLiteral("Use My Most Recent Measurement");
+  if (!profile.LatestWaist) return caption;
+  return caption + QStringLiteral(" of ") + NumberText(*profile.LatestWaist, locale) + QLatin1Char(' ') +
+         LengthUnitText(UomID);
 }
 
 QString NumberText(double value, const QLocale &locale) {

@@ -35,6 +35,17 @@ ToolsProfile ReadToolsProfile(const Session &session);
 /// Writes nothing when nothing differs.
 void SaveGoalMethod(Session &session, GoalMethod method, const QDate &date, const QString &rate);
 
+// What the panels show of the profile.
+QString GenderText(int GenderID);
+/// "66 Inches" or "170 Cm".
+QString WholeHeightText(const BodyProfile &body, int UomID, const QLocale &locale);
+QString LengthUnitText(int UomID);
+/// "Use My Current Weight of 150.5 Lbs"; without the amount while no weight is recorded.
+QString CurrentWeightCaption(const ToolsProfile &profile, const QString &UomDisplay, const QLocale &locale);
+QString InitialWeightCaption(const ToolsProfile &profile, const QString &UomDisplay, const QLocale &locale);
+/// "Use My Most Recent Measurement of 36 Inches"; without the amount while no waist is recorded.
+QString CurrentWaistCaption(const ToolsProfile &profile, int UomID, const QLocale &locale);
+
 /// A number in its shortest form as the person reads it.
 QString NumberText(double value, const QLocale &locale);
 

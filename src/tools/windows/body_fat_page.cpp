@@ -1,0 +1,125 @@
+#include "tools/windows/body_fat_page.h"
+
+#include <QLabel>
+#include <QPushButton>
+#include <QRadioButton>
+
+#include "core/failure_guard.h"
+#include "core/windows/setup_controls.h"
+#include "platform/windows/number_field.h"
+#include "tools/body_fat.h"
+#include "tools/windows/body_fat_bar.h"
+#include "tools/windows/tool_colours.h"
+#include "tools/windows/tool_controls.h"
+
+namespace trimlog {
+
+BodyFatPage::BodyFatPage(Session &session, const ToolsProfile &profile, QWidget *parent)
+    : QWidget(parent), session_(session), profile_(profile) {
+  setObjectName(QStringLiteral("pnlBodyFat"));
+  auto *layout = new QVBoxLayout(this);
+  AddHeading(layout, QStringLiteral("lblBodyFatTitle"), QStringLiteral("Estimating Your Percentage of Body Fat"));
+  AddInputs(layout);
+  pnlBodyFatChart = new BodyFatBar(ToolColours(session_), this);
+  QSizePolicy policy = pnlBodyFatChart->sizePolicy();
+  policy.setRetainSizeWhenHidden(true);
+  pnlBodyFatChart->setSizePolicy(policy);
+  pnlBodyFatChart->hide();
+  layout->addSpacing(8);
+  layout->addWidget(pnlBodyFatChart);
+  pnlBodyFatSummary = AddResultText(layout, QStringLiteral("pnlBodyFatSummary"), QStringLiteral("Assessment"), 7);
+  SetToolFields();
+}
+
+void BodyFatPage::AddInputs(QLayout *layout) {
+  QHBoxLayout *person = AddRow(layout);
+  AddLabel(person, {}, QStringLiteral("Gender:"));
+  pnlBodyFatGender = AddLabel(person, QStringLiteral("pnlBodyFatGender"), {});
+  person->addStretch();
+
+  QHBoxLayout *weight = AddRow(layout);
+  optBodyFatCurrentWeight =
+      AddOption(weight, QStringLiteral("optBodyFatCurrentWeight"), QStringLiteral("Use My Current Weight"));
+  weight->addSpacing(24);
+  optBodyFatGoalWeight =
+      AddOption(weight, QStringLiteral("optBodyFatGoalWeight"), QStringLiteral("Use My Goal Weight:"));
+  txtBodyFatGoal = AddNumber(weight, QStringLiteral("txtBodyFatGoal"), QStringLiteral("Goal Weight"), session_.locale);
+  lblBodyFatUOM = AddLabel(weight, QStringLiteral("lblBodyFatUOM"), session_.UomDisplay);
+  weight->addStretch();
+
+  QHBoxLayout *waist = AddRow(layout);
+  optBodyFatCurrentWaist =
+      AddOption(waist, QStringLiteral("optBodyFatCurrentWaist"), QStringLiteral("Use My Most Recent Measurement"));
+  waist->addSpacing(24);
+  optBodyFatOtherWaist =
+      AddOption(waist, QStringLiteral("optBodyFatOtherWaist"), QStringLiteral("Use Another Measurement:"));
+  txtBodyFatWaist = AddNumber(waist, QStringLiteral("txtBodyFatWaist"), QStringLiteral("Waist"), session_.locale);
+  lblBodyFatUOMInches = AddLabel(waist, QStringLiteral("lblBodyFatUOMInches"), LengthUnitText(session_.settings.UomID));
+  waist->addStretch();
+
+  QHBoxLayout *command = AddRow(layout);
+  command->addStretch();
+  cmdBodyFatCalculate = AddCommand(command, QStringLiteral("cmdBodyFatCalculate"), QStringLiteral("Calculate Now"));
+  connect(cmdBodyFatCalculate, &QPushButton::clicked, this, &BodyFatPage::Calculate);
+
+  GroupOptions(this, {optBodyFatCurrentWeight, optBodyFatGoalWeight});
+  GroupOptions(this, {optBodyFatCurrentWaist, optBodyFatOtherWaist});
+  optBodyFatCurrentWeight->setChecked(true);
+  optBodyFatCurrentWaist->setChecked(true);
+  for (const QRadioButton *option :
+       {optBodyFatCurrentWeight, optBodyFatGoalWeight, optBodyFatCurrentWaist, optBodyFatOtherWaist}) {
+    connect(option, &QRadioButton::toggled, this, &BodyFatPage::StartOver);
+  }
+  connect(txtBodyFatGoal, &QLineEdit::textChanged, this, &BodyFatPage::StartOver);
+  connect(txtBodyFatWaist, &QLineEdit::textChanged, this, &BodyFatPage::StartOver);
+}
+
+void BodyFatPage::FillFields() {
+  txtBodyFatGoal->setText(profile_.Goal);
+  SetToolFields();
+}
+
+void BodyFatPage::ShowBodyFatTool() {
+  pnlBodyFatGender->setText(GenderText(profile_.body.GenderID));
+  optBodyFatCurrentWeight->setText(CurrentWeightCaption(profile_, session_.UomDisplay, session_.locale));
+  optBodyFatCurrentWaist->setText(CurrentWaistCaption(profile_, session_.settings.UomID, session_.locale));
+  if (profile_.LatestWaist && txtBodyFatWaist->text().isEmpty()) {
+    txtBodyFatWaist->setText(NumberText(*profile_.LatestWaist, session_.locale));
+  }
+  ClearBodyFatSummary();
+}
+
+void BodyFatPage::FocusCalculate() { cmdBodyFatCalculate->setFocus(); }
+
+void BodyFatPage::SetToolFields() {
+  txtBodyFatGoal->setEnabled(optBodyFatGoalWeight->isChecked());
+  lblBodyFatUOM->setEnabled(optBodyFatGoalWeight->isChecked());
+  txtBodyFatWaist->setEnabled(optBodyFatOtherWaist->isChecked());
+  lblBodyFatUOMInches->setEnabled(optBodyFatOtherWaist->isChecked());
+}
+
+void BodyFatPage::ClearBodyFatSummary() {
+  if (pnlBodyFatSummary) pnlBodyFatSummary->clear();
+}
+
+void BodyFatPage::StartOver() {
+  SetToolFields();
+  ClearBodyFatSummary();
+}
+
+void BodyFatPage::Calculate() {
+  const FailureExit failure{QStringLiteral("frmTools"), QStringLiteral("cmdBodyFatCalculate_Click"),
+                            QStringLiteral("Unable to Calculate"),
+                            QStringLiteral("Your body fat cannot be calculated.  "), true};
+  Guarded(session_, failure, [this] {
+    const BodyFatQuestion question{optBodyFatGoalWeight->isChecked(), txtBodyFatGoal->text(),
+                                   optBodyFatOtherWaist->isChecked(), txtBodyFatWaist->text()};
+    const BodyFatAssessment assessment =
+        AssessBodyFat(question, profile_, session_.settings.UomID, session_.UomDisplay, session_.locale);
+    pnlBodyFatChart->ShowAssessment(assessment);
+    pnlBodyFatChart->show();
+    pnlBodyFatSummary->setText(assessment.summary);
+  });
+}
+
+}  // namespace trimlog

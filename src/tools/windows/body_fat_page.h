@@ -1,0 +1,54 @@
+#pragma once
+
+#include <QWidget>
+
+#include "core/session.h"
+#include "tools/tools_profile.h"
+
+class QLabel;
+class QLayout;
+class QPushButton;
+class QRadioButton;
+
+namespace trimlog {
+
+class BodyFatBar;
+class NumberField;
+
+/// The Body Fat Assessment: the percentage of body fat from waist and weight, its place on a bar, and what to think of
+/// it.
+class BodyFatPage : public QWidget {
+  Q_OBJECT
+ public:
+  BodyFatPage(Session &session, const ToolsProfile &profile, QWidget *parent);
+
+  /// Fills the field that starts from the profile: the goal weight.
+  void FillFields();
+  /// Shows what is taken from the profile and its latest measurement.
+  void ShowBodyFatTool();
+  void FocusCalculate();
+
+ private:
+  void AddInputs(QLayout *layout);
+  void SetToolFields();
+  void ClearBodyFatSummary();
+  void StartOver();
+  void Calculate();
+
+  Session &session_;
+  const ToolsProfile &profile_;
+  QLabel *pnlBodyFatGender = nullptr;
+  QRadioButton *optBodyFatCurrentWeight = nullptr;
+  QRadioButton *optBodyFatGoalWeight = nullptr;
+  NumberField *txtBodyFatGoal = nullptr;
+  QLabel *lblBodyFatUOM = nullptr;
+  QRadioButton *optBodyFatCurrentWaist = nullptr;
+  QRadioButton *optBodyFatOtherWaist = nullptr;
+  NumberField *txtBodyFatWaist = nullptr;
+  QLabel *lblBodyFatUOMInches = nullptr;
+  QPushButton *cmdBodyFatCalculate = nullptr;
+  BodyFatBar *pnlBodyFatChart = nullptr;
+  QLabel *pnlBodyFatSummary = nullptr;
+};
+
+}  // namespace trimlog

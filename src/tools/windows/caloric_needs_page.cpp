@@ -1,0 +1,156 @@
+#include "tools/windows/caloric_needs_page.h"
+
+#include <QEvent>
+#include <QGridLayout>
+#include <QLabel>
+#include <QPushButton>
+#include <QRadioButton>
+
+#include "core/failure_guard.h"
+#include "core/windows/setup_controls.h"
+#include "platform/windows/number_field.h"
+#include "tools/windows/activity_chart.h"
+#include "tools/windows/tool_colours.h"
+#include "tools/windows/tool_controls.h"
+
+namespace trimlog {
+
+namespace {
+
+QLabel *KeepPlaceWhenHidden(QLabel *label) {
+  QSizePolicy policy = label->sizePolicy();
+  policy.setRetainSizeWhenHidden(true);
+  label->setSizePolicy(policy);
+  return label;
+}
+
+}  // namespace
+
+CaloricNeedsPage::CaloricNeedsPage(Session &session, const ToolsProfile &profile, QWidget *parent)
+    : QWidget(parent), session_(session), profile_(profile) {
+  setObjectName(QStringLiteral("pnlBMR"));
+  auto *layout = new QVBoxLayout(this);
+  AddHeading(layout, QStringLiteral("lblBMRTitle"), QStringLiteral("Estimating Your Caloric Needs:"));
+  AddInputs(layout);
+  AddResults(layout);
+  chart_ = new ActivityChart(ToolColours(session_), this);
+  layout->addWidget(chart_);
+  pnlBMRSummary = AddResultText(layout, QStringLiteral("pnlBMRSummary"), QStringLiteral("Summary"), 6);
+  connect(chart_, &ActivityChart::ChoiceMade, this, &CaloricNeedsPage::UpdateBMRSummary);
+  SetToolFields();
+  ClearBMRResults();
+}
+
+void CaloricNeedsPage::AddInputs(QLayout *layout) {
+  QHBoxLayout *person = AddRow(layout);
+  AddLabel(person, {}, QStringLiteral("Gender:"));
+  pnlBMRGender = AddLabel(person, QStringLiteral("pnlBMRGender"), {});
+  person->addSpacing(24);
+  AddLabel(person, {}, QStringLiteral("Height:"));
+  pnlBMRHeight = AddLabel(person, QStringLiteral("pnlBMRHeight"), {});
+  person->addStretch();
+
+  QHBoxLayout *weight = AddRow(layout);
+  optBMRCurrentWeight =
+      AddOption(weight, QStringLiteral("optBMRCurrentWeight"), QStringLiteral("Use My Current Weight"));
+  weight->addSpacing(24);
+  optBMRGoalWeight = AddOption(weight, QStringLiteral("optBMRGoalWeight"), QStringLiteral("Use My Goal Weight:"));
+  txtBMRGoal = AddNumber(weight, QStringLiteral("txtBMRGoal"), QStringLiteral("Goal Weight"), session_.locale);
+  pnlBMRUOM = AddLabel(weight, QStringLiteral("pnlBMRUOM"), session_.UomDisplay);
+  weight->addStretch();
+
+  QHBoxLayout *age = AddRow(layout);
+  optBMRCurrentAge = AddOption(age, QStringLiteral("optBMRCurrentAge"), QStringLiteral("Use My Current Age"));
+  age->addSpacing(24);
+  optBMROtherAge = AddOption(age, QStringLiteral("optBMROtherAge"), QStringLiteral("Use Another Age:"));
+  txtBMRAge = AddNumber(age, QStringLiteral("txtBMRAge"), QStringLiteral("Age"), session_.locale);
+  age->addStretch();
+  QPushButton *calculate = AddCommand(age, QStringLiteral("cmdBMRCalculate"), QStringLiteral("Calculate Now"));
+  connect(calculate, &QPushButton::clicked, this, &CaloricNeedsPage::Calculate);
+
+  GroupOptions(this, {optBMRCurrentWeight, optBMRGoalWeight});
+  GroupOptions(this, {optBMRCurrentAge, optBMROtherAge});
+  optBMRCurrentWeight->setChecked(true);
+  optBMRCurrentAge->setChecked(true);
+  for (const QRadioButton *option : {optBMRCurrentWeight, optBMRGoalWeight, optBMRCurrentAge, optBMROtherAge}) {
+    connect(option, &QRadioButton::toggled, this, &CaloricNeedsPage::StartOver);
+  }
+  connect(txtBMRAge, &QLineEdit::textChanged, this, &CaloricNeedsPage::ClearBMRResults);
+  connect(txtBMRGoal, &QLineEdit::textChanged, this, &CaloricNeedsPage::ClearBMRResults);
+}
+
+void CaloricNeedsPage::AddResults(QLayout *layout) {
+  QHBoxLayout *basal = AddRow(layout);
+  pnlBMRResults1 = AddLabel(basal, QStringLiteral("pnlBMRResults1"), {});
+  pnlBMRResults1->setWordWrap(true);
+  pnlBMRValue = AddLabel(basal, QStringLiteral("pnlBMRValue"), {});
+  QFont bold = pnlBMRValue->font();
+  bold.setBold(true);
+  pnlBMRValue->setFont(bold);
+  pnlBMRResults2 =
+      KeepPlaceWhenHidden(AddLabel(basal, QStringLiteral("pnlBMRResults2"), QStringLiteral("This is your BMR.")));
+  basal->setStretch(0, 1);
+  pnlBMRResults3 =
+      KeepPlaceWhenHidden(AddLabel(layout, QStringLiteral("pnlBMRResults3"),
+                                   QStringLiteral("Now click on your activity level in the chart below.")));
+}
+
+void CaloricNeedsPage::FillFields() {
+  txtBMRAge->setText(QString::number(AgeInYears(profile_.body.BirthDate, session_.Today())));
+  txtBMRGoal->setText(profile_.Goal);
+  SetToolFields();
+  ClearBMRResults();
+  UpdateBMRSummary();
+}
+
+void CaloricNeedsPage::ShowBMRTool() {
+  pnlBMRGender->setText(GenderText(profile_.body.GenderID));
+  pnlBMRHeight->setText(WholeHeightText(profile_.body, session_.settings.UomID, session_.locale));
+  optBMRCurrentWeight->setText(CurrentWeightCaption(profile_, session_.UomDisplay, session_.locale));
+}
+
+void CaloricNeedsPage::ClearBMRResults() {
+  needs_ = {};
+  pnlBMRResults1->setText(QStringLiteral("Click the <Calculate Now> button to see your results."));
+  pnlBMRValue->clear();
+  chart_->ShowAmounts(needs_.perDay);
+  pnlBMRResults2->hide();
+  pnlBMRResults3->hide();
+  UpdateBMRSummary();
+}
+
+void CaloricNeedsPage::SetToolFields() {
+  txtBMRGoal->setEnabled(optBMRGoalWeight->isChecked());
+  pnlBMRUOM->setEnabled(optBMRGoalWeight->isChecked());
+  txtBMRAge->setEnabled(optBMROtherAge->isChecked());
+}
+
+void CaloricNeedsPage::StartOver() {
+  SetToolFields();
+  ClearBMRResults();
+}
+
+void CaloricNeedsPage::Calculate() {
+  if (txtBMRAge->text().isEmpty()) return;
+  const FailureExit failure{QStringLiteral("frmTools"), QStringLiteral("cmdBMRCalculate_Click"),
+                            QStringLiteral("Unable to Calculate"),
+                            QStringLiteral("Your caloric needs cannot be calculated.  "), true};
+  Guarded(session_, failure, [this] {
+    const CaloricQuestion question{optBMRGoalWeight->isChecked(), txtBMRGoal->text(), optBMROtherAge->isChecked(),
+                                   txtBMRAge->text()};
+    needs_ = EstimateCaloricNeeds(question, profile_, session_.settings.UomID, session_.Today(), session_.locale);
+    pnlBMRResults1->setText(QStringLiteral("So, if you did nothing but lie awake in bed all day, you would burn"));
+    pnlBMRValue->setText(needs_.bmr);
+    chart_->ShowAmounts(needs_.perDay);
+    pnlBMRResults2->show();
+    pnlBMRResults3->show();
+    UpdateBMRSummary();
+  });
+}
+
+void CaloricNeedsPage::UpdateBMRSummary() {
+  const int chosen = chart_->Chosen();
+  pnlBMRSummary->setText(chosen < 0 ? QString() : SummarizeCaloricNeeds(needs_, chosen, optBMRGoalWeight->isChecked()));
+}
+
+}  // namespace trimlog

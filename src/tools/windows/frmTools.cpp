@@ -1,0 +1,236 @@
+#include "tools/windows/frmTools.h"
+
+#include <QApplication>
+#include <QComboBox>
+#include <QLabel>
+#include <QPushButton>
+#include <QScreen>
+#include <QScrollArea>
+#include <QStackedWidget>
+#include <QVBoxLayout>
+
+#include "core/failure_guard.h"
+#include "core/windows/setup_controls.h"
+#include "core/windows/theme.h"
+#include "tools/tool_notices.h"
+#include "tools/windows/body_fat_page.h"
+#include "tools/windows/caloric_needs_page.h"
+#include "tools/windows/frmMedicalDisclaimer.h"
+#include "tools/windows/planner_page.h"
+#include "tools/windows/tool_colours.h"
+#include "tools/windows/tool_controls.h"
+
+namespace trimlog {
+
+namespace {
+
+/// What cboTools offers, by key, with the help topic of each.
+struct Tool {
+  const char *caption;
+  const char *helpTopic;
+};
+constexpr std::array<Tool, 3> tools = {{
+    {"Plan for My Weight Loss Goal", "35"},
+    {"Calculate My Daily Caloric Needs", "63"},
+    {"Check My Body Fat Percentage", "65"},
+}};
+const QString startingWeightTopic = QStringLiteral("12");
+
+/// A panel in the profile's colour along an edge of the window.
+QWidget *AddAccentPanel(QLayout *layout, const QString &name, const Session &session) {
+  auto *panel = new QWidget;
+  panel->setObjectName(name);
+  PaintToolPanel(panel, ColorFromBgr(session.BackColor));
+  layout->addWidget(panel);
+  new QHBoxLayout(panel);
+  return panel;
+}
+
+FailureExit Quiet(const char *procedure) { return {QStringLiteral("frmPlan"), QString::fromLatin1(procedure), {}, {}}; }
+
+}  // namespace
+
+frmTools::frmTools(Session &session, const Navigator &navigator, ToolsPanel panel, QWidget *parent)
+    : QDialog(parent), session_(session), navigator_(navigator) {
+  setObjectName(QStringLiteral("frmTools"));
+  setWindowTitle(QStringLiteral("Tools and Calculators"));
+  setModal(true);
+  Guarded(session_, Quiet("Form_Load"), [this] { profile_ = ReadToolsProfile(session_); });
+  auto *layout = new QVBoxLayout(this);
+  layout->setContentsMargins(0, 0, 0, 0);
+  layout->setSpacing(0);
+  AddChoice(layout);
+  AddPages(layout);
+  AddButtons(layout);
+  if (FewColours(session_)) {
+    PaintToolPanel(this, Qt::white);
+    for (QWidget *page :
+         {static_cast<QWidget *>(pnlPlanner), static_cast<QWidget *>(pnlBMR), static_cast<QWidget *>(pnlBodyFat)}) {
+      PaintToolPanel(page, Qt::white);
+    }
+  }
+  cboTools->setCurrentIndex(static_cast<int>(panel));
+  panels_->setCurrentIndex(static_cast<int>(panel));
+  connect(cboTools, &QComboBox::currentIndexChanged, this, &frmTools::SelectTool);
+  connect(&session_.changes, &DataChanges::Changed, this, &frmTools::FollowChange);
+}
+
+void frmTools::AddChoice(QLayout *layout) {
+  QWidget *panel = AddAccentPanel(layout, QStringLiteral("pnlTools1"), session_);
+  QLabel *label = AddLabel(panel->layout(), QStringLiteral("lblTools"), QStringLiteral("&What would you like to do?"));
+  cboTools = new QComboBox(panel);
+  cboTools->setObjectName(QStringLiteral("cboTools"));
+  cboTools->setAccessibleName(QStringLiteral("What would you like to do?"));
+  for (size_t key = 0; key < tools.size(); ++key) {
+    cboTools->addItem(QString::fromLatin1(tools[key].caption), QString::number(key));
+  }
+  panel->layout()->addWidget(cboTools);
+  label->setBuddy(cboTools);
+  qobject_cast<QHBoxLayout *>(panel->layout())->addStretch();
+}
+
+void frmTools::AddPages(QLayout *layout) {
+  // Scrolls only where the screen is smaller than the largest panel.
+  auto *scroll = new QScrollArea(this);
+  scroll->setWidgetResizable(true);
+  scroll->setFrameShape(QFrame::NoFrame);
+  scroll->setFocusPolicy(Qt::NoFocus);
+  panels_ = new QStackedWidget(scroll);
+  pnlPlanner = new PlannerPage(session_, profile_, panels_);
+  pnlBMR = new CaloricNeedsPage(session_, profile_, panels_);
+  pnlBodyFat = new BodyFatPage(session_, profile_, panels_);
+  panels_->addWidget(pnlPlanner);
+  panels_->addWidget(pnlBMR);
+  panels_->addWidget(pnlBodyFat);
+  scroll->setWidget(panels_);
+  layout->addWidget(scroll);
+  const QSize room = screen()->availableSize() * 0.8;
+  scroll->setMinimumSize(panels_->minimumSizeHint().boundedTo(room));
+}
+
+void frmTools::AddButtons(QLayout *layout) {
+  QWidget *panel = AddAccentPanel(layout, QStringLiteral("pnlButtons"), session_);
+  qobject_cast<QHBoxLayout *>(panel->layout())->addStretch();
+  cmdPrint = AddCommand(panel->layout(), QStringLiteral("cmdPrint"), QStringLiteral("&Print"));
+  cmdHelp = AddCommand(panel->layout(), QStringLiteral("cmdHelp"), QStringLiteral("&Help"));
+  cmdClose = AddCommand(panel->layout(), QStringLiteral("cmdClose"), QStringLiteral("&Close"));
+  cmdHelp->setEnabled(static_cast<bool>(navigator_.ShowHelp));
+  for (QPushButton *button : findChildren<QPushButton *>()) button->setAutoDefault(false);
+  connect(cmdPrint, &QPushButton::clicked, this, &frmTools::PrintResults);
+  connect(cmdHelp, &QPushButton::clicked, this,
+          [this] { navigator_.ShowHelp(QString::fromLatin1(tools[cboTools->currentIndex()].helpTopic)); });
+  connect(cmdClose, &QPushButton::clicked, this, [this] {
+    if (pnlPlanner->FieldsAccepted()) close();
+  });
+}
+
+void frmTools::showEvent(QShowEvent *event) {
+  QDialog::showEvent(event);
+  if (activated_) return;
+  activated_ = true;
+  // Boxes come above the window that they belong to, so it has to be on the screen first.
+  QMetaObject::invokeMethod(this, &frmTools::Activate, Qt::QueuedConnection);
+}
+
+void frmTools::Activate() {
+  Guarded(session_, Quiet("Form_Activate"), [this] {
+    if (GreetPerson() == Opened::Left) return;
+    pnlPlanner->ShowStoredPlan();
+    planShown_ = true;
+    if (AskForMissingData() == Opened::Left) return;
+    pnlBMR->FillFields();
+    pnlBodyFat->FillFields();
+    FillTool();
+  });
+}
+
+frmTools::Opened frmTools::GreetPerson() {
+  const int person = session_.CurrentPersonID.toInt();
+  if (person > 0 && !session_.settings.MedicalDisclaimer) frmMedicalDisclaimer(session_, this).exec();
+  if (person < 0) session_.boxes.Show(SampleProfileNotice());
+  return isVisible() ? Opened::GoOn : Opened::Left;
+}
+
+frmTools::Opened frmTools::AskForMissingData() {
+  if (!profile_.initialWeight) {
+    std::function<void()> help;
+    if (navigator_.ShowHelp) help = [this] { navigator_.ShowHelp(startingWeightTopic); };
+    if (session_.boxes.Show(StartingWeightQuestion(help)) == BoxButton::Yes) {
+      LeaveFor([this] {
+        if (navigator_.ShowForm) navigator_.ShowForm(QStringLiteral("frmData"));
+      });
+      return Opened::Left;
+    }
+    Lock();
+  }
+  if (!profile_.body.BirthDate.isValid() && session_.boxes.Show(GenderAndBirthDateQuestion()) == BoxButton::Yes) {
+    LeaveFor([this] {
+      if (navigator_.OpenSetup) navigator_.OpenSetup(SetupTab::Profiles);
+    });
+    return Opened::Left;
+  }
+  return Opened::GoOn;
+}
+
+void frmTools::Lock() {
+  for (QWidget *control : {static_cast<QWidget *>(cboTools), static_cast<QWidget *>(panels_),
+                           static_cast<QWidget *>(cmdPrint), static_cast<QWidget *>(cmdHelp)}) {
+    control->setEnabled(false);
+  }
+  findChild<QLabel *>(QStringLiteral("lblTools"))->setEnabled(false);
+  cmdClose->setFocus();
+}
+
+void frmTools::LeaveFor(const std::function<void()> &door) {
+  reject();
+  door();
+}
+
+void frmTools::SelectTool(int index) {
+  panels_->setCurrentIndex(index);
+  FillTool();
+}
+
+void frmTools::FillTool() {
+  switch (static_cast<ToolsPanel>(cboTools->currentIndex())) {
+    case ToolsPanel::GoalPlanner:
+      pnlPlanner->FocusGoal();
+      break;
+    case ToolsPanel::CaloricNeeds:
+      pnlBMR->ShowBMRTool();
+      break;
+    case ToolsPanel::BodyFat:
+      pnlBodyFat->ShowBodyFatTool();
+      if (profile_.LatestWaist) pnlBodyFat->FocusCalculate();
+      break;
+  }
+}
+
+void frmTools::FollowChange(const DataChange &change) {
+  static const QStringList tables = {QStringLiteral("people"), QStringLiteral("weight_loss"),
+                                     QStringLiteral("measurements")};
+  const bool ours = change.personID.isEmpty() || change.personID == session_.CurrentPersonID;
+  if (!ours || !tables.contains(change.table)) return;
+  GuardedQuietly([this] {
+    profile_ = ReadToolsProfile(session_);
+    pnlPlanner->ShowWeights();
+    pnlBMR->ShowBMRTool();
+    pnlBMR->ClearBMRResults();
+    pnlBodyFat->ShowBodyFatTool();
+  });
+}
+
+void frmTools::PrintResults() {
+  if (session_.boxes.Show(PrintResultsQuestion()) != BoxButton::Ok) return;
+}
+
+void frmTools::done(int result) {
+  if (planShown_) {
+    planShown_ = false;
+    disconnect(&session_.changes, nullptr, this, nullptr);
+    Guarded(session_, Quiet("Form_Unload"), [this] { pnlPlanner->StorePlan(); });
+  }
+  QDialog::done(result);
+}
+
+}  // namespace trimlog

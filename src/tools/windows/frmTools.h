@@ -1,0 +1,63 @@
+#pragma once
+
+#include <QDialog>
+
+#include "core/navigator.h"
+#include "core/session.h"
+#include "tools/tools_profile.h"
+
+class QComboBox;
+class QPushButton;
+class QStackedWidget;
+
+namespace trimlog {
+
+class BodyFatPage;
+class CaloricNeedsPage;
+class PlannerPage;
+
+/// The window "Tools and Calculators": one of three panels at a time, chosen in cboTools. Follows the profile's data
+/// while it is open. The plan's method, date and rate are stored when it closes, however it closes.
+class frmTools : public QDialog {
+  Q_OBJECT
+ public:
+  frmTools(Session &session, const Navigator &navigator, ToolsPanel panel, QWidget *parent = nullptr);
+
+  void done(int result) override;
+
+ protected:
+  void showEvent(QShowEvent *event) override;
+
+ private:
+  enum class Opened { GoOn, Left };
+
+  void AddChoice(QLayout *layout);
+  void AddPages(QLayout *layout);
+  void AddButtons(QLayout *layout);
+  /// The notices and questions on opening, and the first calculation; once.
+  void Activate();
+  Opened GreetPerson();
+  Opened AskForMissingData();
+  void Lock();
+  void LeaveFor(const std::function<void()> &door);
+  void SelectTool(int index);
+  void FillTool();
+  void FollowChange(const DataChange &change);
+  void PrintResults();
+
+  Session &session_;
+  const Navigator &navigator_;
+  ToolsProfile profile_;
+  bool activated_ = false;
+  bool planShown_ = false;  ///< the fields hold the profile's plan and may be stored
+  QComboBox *cboTools = nullptr;
+  QStackedWidget *panels_ = nullptr;
+  PlannerPage *pnlPlanner = nullptr;
+  CaloricNeedsPage *pnlBMR = nullptr;
+  BodyFatPage *pnlBodyFat = nullptr;
+  QPushButton *cmdPrint = nullptr;
+  QPushButton *cmdHelp = nullptr;
+  QPushButton *cmdClose = nullptr;
+};
+
+}  // namespace trimlog

@@ -1,0 +1,23 @@
+#include "tools/windows/tool_colours.h"
+
+#include <QWidget>
+
+#include "core/windows/theme.h"
+
+namespace trimlog {
+
+bool FewColours(const Session &session) { return session.machine.GetNumColors() <= 256; }
+
+std::array<QColor, 3> ToolColours(const Session &session) {
+  if (FewColours(session)) return {QColor(0xFF, 0xFF, 0), QColor(0, 0xFF, 0), QColor(0, 0xFF, 0xFF)};
+  return {QColor(0xFF, 0xEE, 0x9C), QColor(0xB4, 0xE6, 0xA8), QColor(0xA6, 0xE3, 0xF0)};
+}
+
+void PaintToolPanel(QWidget *panel, const QColor &background) {
+  PaintPanel(panel, BgrFromColor(background));
+  QPalette palette = panel->palette();
+  palette.setColor(QPalette::Disabled, QPalette::WindowText, QColor(0x80, 0x80, 0x80));
+  panel->setPalette(palette);
+}
+
+}  // namespace trimlog
