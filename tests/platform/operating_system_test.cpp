@@ -3,6 +3,7 @@
 #include <gtest/gtest.h>
 
 #include "platform/decimal_key.h"
+#include "platform/file_version.h"
 
 namespace trimlog {
 namespace {
@@ -80,6 +81,45 @@ TEST(DecimalKey, OnlyTheKeypadKeyAndOnlyInACommaLocale) {
   DecimalKey point(false);
   point.KeyDown(DecimalKey::keypadDecimal);
   EXPECT_EQ(point.KeyPress('.'), '.');
+}
+
+/// A node of a version block as a resource compiler writes it.
+QByteArray VersionNode(const QString &name, const QByteArray &value, int valueLength,
+                       const QList<QByteArray> &below = {}) {
+  const auto aligned = [](QByteArray bytes) { return bytes.append(QByteArray((4 - bytes.size() % 4) % 4, 0)); };
+  const auto word = [](qsizetype number) {
+    return QByteArray().append(static_cast<char>(number & 0xFF)).append(static_cast<char>(number >> 8));
+  };
+  QByteArray rest = word(valueLength) + word(1);
+  rest.append(reinterpret_cast<const char *>(name.utf16()), name.size() * 2 + 2);
+  QByteArray node = aligned(QByteArray(2, 0) + rest) + value;
+  for (const QByteArray &child : below) node = aligned(node) + child;
+  return node.replace(0, 2, word(node.size()));
+}
+QByteArray VersionString(const QString &name, const QString &value) {
+  const QByteArray bytes(reinterpret_cast<const char *>(value.utf16()), value.size() * 2 + 2);
+  return VersionNode(name, bytes, static_cast<int>(value.size()) + 1);
+}
+
+TEST(FileVersion, ReadsTheBlockOfAProgramFile) {
+  const QByteArray table = VersionNode(QStringLiteral("040904b0"), {}, 0,
+                                       {VersionString(QStringLiteral("CompanyName"), QStringLiteral("Corvane")),
+                                        VersionString(QStringLiteral("FileVersion"), QString::fromUtf8("2.7 ü")),
+                                        VersionString(QStringLiteral("ProductName"), QStringLiteral("Odd"))});
+  const QByteArray block = VersionNode(QStringLiteral("VS_VERSION_INFO"), QByteArray(52, '\x11'), 52,
+                                       {VersionNode(QStringLiteral("VarFileInfo"), {}, 0),
+                                        VersionNode(QStringLiteral("StringFileInfo"), {}, 0, {table})});
+  const QString text = VersionTextOf(QByteArray("MZ junk.") + block + "tail");
+  EXPECT_EQ(text, QString::fromUtf8("Company Name: Corvane\nFile Description:\nFile Version:2.7 ü\nInternal Name: \n"
+                                    "Legal Copyright: \nOriginal FileName:\nProduct Name:Odd\nProduct Version: "));
+  for (qsizetype kept = 0; kept < block.size(); ++kept)
+    VersionTextOf(block.left(kept));  // a cut-off block harms nothing
+}
+
+TEST(FileVersion, AFileWithoutOneSaysSo) {
+  const QString none = QStringLiteral("No version available for this file");
+  EXPECT_EQ(VersionTextOf("plain text"), none);
+  EXPECT_EQ(FileVersionText(QStringLiteral("/no/such/file")), none);
 }
 
 }  // namespace
