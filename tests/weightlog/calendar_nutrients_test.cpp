@@ -1,0 +1,112 @@
+#include "weightlog/calendar_nutrients.h"
+
+#include <gtest/gtest.h>
+
+#include "typed_calendar.h"
+
+namespace trimlog {
+namespace {
+
+class CalendarNutrients : public testing::Test {
+ protected:
+  CalendarNutrients() {
+    FillNutrientDefinitions(calendar.session->nutrients, calendar.session.Data());
+    calendar.session->settings.NetCaloriesBMR = false;
+  }
+
+  void Eat(const char *date, double calories, double fatCalories, double iron, bool planned = false) {
+    calendar.session.Data().Execute(
+        QStringLiteral("INSERT INTO meals ( PersonID, RecordID, ThisDate, MealTypeID, MealID, Amount, Calories, "
+                       "CalFromFat, Iron, Custom1, IsPlanned ) SELECT 1 AS Expr1, ? AS Expr2, ? AS Expr3, 1 AS Expr4, "
+                       "? AS Expr5, \"1\" AS Expr6, ? AS Expr7, ? AS Expr8, ? AS Expr9, 1.5 AS Expr10, ? AS Expr11;"),
+        {++records, Day(date),
+         calendar.session
+             .ValueOf(QStringLiteral("Min(MealID)"), QStringLiteral("meals_list"), QStringLiteral("MealID > 0"))
+             .toInt(),
+         calories, fatCalories, iron, planned});
+  }
+  void Exercise(const char *date, double calories) {
+    calendar.session.Data().Execute(
+        QStringLiteral(
+            "INSERT INTO activities ( PersonID, RecordID, ThisDate, ActivityID, Duration, Calories, IsPlanned ) "
+            "SELECT 1 AS Expr1, ? AS Expr2, ? AS Expr3, ? AS Expr4, \"30\" AS Expr5, ? AS Expr6, 0 AS Expr7;"),
+        {++records, Day(date),
+         calendar.session.ValueOf(QStringLiteral("Min(ActivityID)"), QStringLiteral("activities_list")).toInt(),
+         calories});
+  }
+
+  TypedCalendar calendar;
+  int records = 0;
+};
+
+TEST_F(CalendarNutrients, ShowsTheDaysFigureByTheChosenNutrient) {
+  Eat("2026-03-02", 400, 100, 1.25);
+  Eat("2026-03-02", 200, 50, 0.5);
+  Eat("2026-03-02", 999, 999, 99, true);  // planned: not eaten
+  Eat("2026-03-03", 0, 10, 0);
+  Exercise("2026-03-02", 150);
+  Exercise("2026-03-04", 300);
+  struct Case {
+    int NutrientID;
+    const char *second, *third, *fourth, *fifth;
+  };
+  for (const Case &c : {Case{1, "600 kcal", "0 kcal", "", ""}, Case{101, "150 kcal", "", "300 kcal", ""},
+                        Case{102, "450 Cal", "0 Cal", "-300 Cal", ""}, Case{23, "25 %", "0 %", "", ""},
+                        Case{7, "1.750 mg", "0.000 mg", "", ""}, Case{28, "3.00", "1.50", "", ""}}) {
+    SCOPED_TRACE(c.NutrientID);
+    calendar.session->settings.NutrientID = c.NutrientID;
+    calendar.model->BuildMonth(Day("2026-03-01"));
+    const QString unit = QLatin1Char(' ') + calendar.session->nutrients.NutrientDefs[0].shortUnit;
+    const auto expected = [&unit](const char *text) {
+      return QString::fromLatin1(text).replace(QStringLiteral(" kcal"), unit);
+    };
+    EXPECT_EQ(calendar.Cell("2026-03-02").calories, expected(c.second));
+    EXPECT_EQ(calendar.Cell("2026-03-03").calories, expected(c.third));
+    EXPECT_EQ(calendar.Cell("2026-03-04").calories, expected(c.fourth));
+    EXPECT_EQ(calendar.Cell("2026-03-05").calories, expected(c.fifth));
+  }
+}
+
+TEST_F(CalendarNutrients, NetCaloriesFollowTheWeightThatTheBasalRateGoesBy) {
+  calendar.session->settings.NetCaloriesBMR = true;
+  Eat("2026-03-03", 2000, 0, 0);
+  calendar.model->BuildMonth(Day("2026-03-01"));
+  EXPECT_EQ(calendar.Cell("2026-03-03").calories, QStringLiteral("2000 Cal"));
+  calendar.Type("2026-03-02", "150");
+  const QString withRate = calendar.Cell("2026-03-03").calories;
+  EXPECT_NE(withRate, QStringLiteral("2000 Cal"));
+  calendar.model->BuildMonth(Day("2026-03-01"));
+  EXPECT_EQ(calendar.Cell("2026-03-03").calories, withRate);
+}
+
+TEST_F(CalendarNutrients, HiddenFiguresAreNotReadAndAnUnknownNutrientShowsNothing) {
+  Eat("2026-03-03", 2000, 0, 0);
+  calendar.session->settings.NutrientID = 1;
+  calendar.model->BuildMonth(Day("2026-03-01"));
+  calendar.session->settings.NutrientID = 77;
+  calendar.model->FillCalendarNutrients();
+  EXPECT_TRUE(calendar.Cell("2026-03-03").calories.isEmpty());
+  calendar.model->SetShowCalories(false);
+  EXPECT_FALSE(calendar.Cell("2026-03-03").caloriesVisible);
+  const qint64 before = calendar.session.Data().Counts().statements;
+  calendar.model->FillCalendarNutrients();
+  EXPECT_EQ(calendar.session.Data().Counts().statements, before);
+  EXPECT_EQ(calendar.session->store.GetSettingString(settingsRoot, QStringLiteral("ShowCalories")),
+            QStringLiteral("0"));
+}
+
+TEST_F(CalendarNutrients, ChoicesNameEachFigureOnce) {
+  const std::vector<NutrientChoice> choices = CalendarNutrientChoices(calendar.session->nutrients);
+  ASSERT_GT(choices.size(), 30U);
+  EXPECT_EQ(choices[0].description, QStringLiteral("Calories Consumed (kcal)"));
+  EXPECT_EQ(choices[1].NutrientID, caloriesBurnedID);
+  EXPECT_EQ(choices[2].description, QStringLiteral("Net Calories (kcal)"));
+  std::map<int, int> times;
+  for (const NutrientChoice &choice : choices) {
+    EXPECT_FALSE(choice.description.isEmpty());
+    EXPECT_EQ(++times[choice.NutrientID], 1) << choice.NutrientID;
+  }
+}
+
+}  // namespace
+}  // namespace trimlog

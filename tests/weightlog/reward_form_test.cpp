@@ -1,0 +1,93 @@
+#include "weightlog/reward_form.h"
+
+#include <gtest/gtest.h>
+
+#include "support/test_session.h"
+#include "weightlog/rewards.h"
+
+namespace trimlog {
+namespace {
+
+TEST(RewardForm, OnlyDefaultsFollowTheUnitSystem) {
+  struct Case {
+    const char *daily;
+    const char *weekly;
+    int uomID;
+    const char *dailyAfter;
+    const char *weeklyAfter;
+  };
+  const Case cases[] = {
+      {"0.5", "2.0", 2, "0.25", "0.9"},  {"0.25", "0.9", 1, "0.5", "2.0"}, {"0.50", "2", 2, "0.25", "0.9"},
+      {"0.6", "2.1", 2, "0.6", "2.1"},   {"2.0", "0.5", 2, "2.0", "0.5"},  {"", "x", 2, "", "x"},
+      {"0.25", "0.9", 2, "0.25", "0.9"},
+  };
+  for (const Case &row : cases) {
+    RewardForm form;
+    form.daily = QString::fromLatin1(row.daily);
+    form.weekly = QString::fromLatin1(row.weekly);
+    form.weight = QStringLiteral("2.0");
+    SwapRewardDefaults(form, row.uomID, QLocale::c());
+    EXPECT_EQ(form.daily.toStdString(), row.dailyAfter) << row.daily << " to " << row.uomID;
+    EXPECT_EQ(form.weekly.toStdString(), row.weeklyAfter) << row.weekly << " to " << row.uomID;
+    EXPECT_EQ(form.weight.toStdString(), "2.0");
+  }
+  RewardForm german;
+  german.daily = QStringLiteral("0,5");
+  SwapRewardDefaults(german, 2, QLocale(QLocale::German));
+  EXPECT_EQ(german.daily.toStdString(), "0,25");
+}
+
+TEST(RewardForm, AnEmptyFieldBeginsWithDefaultOrGoal) {
+  TestSession session;
+  EXPECT_EQ(ProposedAmount(*session, RewardType::Daily, 1).toStdString(), "0.5");
+  EXPECT_EQ(ProposedAmount(*session, RewardType::Weekly, 2).toStdString(), "0.9");
+  EXPECT_EQ(ProposedAmount(*session, RewardType::PersonalWeight, 2).toStdString(), "150");
+}
+
+TEST(RewardForm, StoresTheChosenTypeWithItsOwnAmount) {
+  struct Case {
+    RewardType type;
+    double amount;
+  };
+  for (const Case &row : {Case{RewardType::Never, 0},
+                          {RewardType::PersonalWeight, 140.5},
+                          {RewardType::Daily, 0.75},
+                          {RewardType::Weekly, 1.5}}) {
+    TestSession session{QLocale(QLocale::German, QLocale::Germany)};
+    LoadRewardSettings(*session);
+    RewardForm form{row.type,
+                    QStringLiteral("0,75"),
+                    QStringLiteral("1,5"),
+                    QStringLiteral("140,5"),
+                    QStringLiteral("\"Bravo\""),
+                    QStringLiteral("/tmp/my \"bell\".wav")};
+    ASSERT_TRUE(CheckRewardForm(*session, form));
+    ASSERT_TRUE(SaveRewardForm(*session, form));
+    LoadRewardSettings(*session);
+    EXPECT_EQ(session->rewards.type, row.type);
+    EXPECT_DOUBLE_EQ(session->rewards.amount, row.amount);
+    EXPECT_EQ(session->rewards.message.toStdString(), "''Bravo''");
+    EXPECT_EQ(session->rewards.sound.toStdString(), "/tmp/my \"bell\".wav");
+    RewardForm again = ReadRewardForm(*session);
+    if (QString *amount = again.AmountOf(row.type)) {
+      EXPECT_EQ(amount->toStdString(), form.AmountOf(row.type)->toStdString());
+    }
+  }
+}
+
+TEST(RewardForm, RefusesAnAmountThatIsNone) {
+  for (const char *amount : {"", "0", "-1", "two", "1e309"}) {
+    TestSession session;
+    RewardForm form;
+    form.type = RewardType::Weekly;
+    form.daily = QStringLiteral("1");
+    form.weekly = QString::fromLatin1(amount);
+    session.boxes.Expect(QStringLiteral("Invalid Reward Amount"), QStringLiteral("positive number"));
+    EXPECT_FALSE(CheckRewardForm(*session, form)) << amount;
+    form.type = RewardType::Never;
+    EXPECT_TRUE(CheckRewardForm(*session, form)) << amount;
+  }
+}
+
+}  // namespace
+}  // namespace trimlog

@@ -1,0 +1,57 @@
+#pragma once
+
+#include <QDate>
+#include <map>
+#include <memory>
+
+#include "platform/recordset.h"
+#include "platform/text_format.h"
+#include "support/test_session.h"
+#include "weightlog/calendar_model.h"
+
+namespace trimlog {
+
+inline QDate Day(const char *iso) { return QDate::fromString(QString::fromLatin1(iso), Qt::ISODate); }
+
+/// A calendar on which weights are typed by date, as a person does who goes to the day, types and leaves the cell.
+class TypedCalendar {
+ public:
+  explicit TypedCalendar(const QLocale &locale = QLocale(QLocale::English, QLocale::UnitedStates)) : session(locale) {
+    session->rewards.type = RewardType::Never;
+    model = std::make_unique<CalendarModel>(*session);
+  }
+
+  void Load() {
+    model = std::make_unique<CalendarModel>(*session);
+    model->Load();
+  }
+  bool Type(const QDate &date, const QString &text) {
+    model->GotoCalendarDate(date);
+    model->EnterCell(model->Month().currentIndex);
+    return model->ValidateWeight(text) && model->SaveWeight(text);
+  }
+  bool Type(const char *date, const char *text) { return Type(Day(date), QString::fromUtf8(text)); }
+
+  const CalendarCell &Cell(const char *date) const { return model->Month().Cell(model->Month().IndexOf(Day(date))); }
+
+  /// The profile's rows as "2026-01-01 200/0, ...".
+  std::string Rows() {
+    Recordset rows = session.Data().OpenRecordset(
+        QStringLiteral("SELECT weight_loss.ThisDate, weight_loss.ThisWeight, weight_loss.ThisLoss FROM weight_loss "
+                       "WHERE (weight_loss.PersonID=?) ORDER BY weight_loss.ThisDate;"),
+        {session->CurrentPersonID.toInt()});
+    QStringList found;
+    for (; !rows.Eof(); rows.MoveNext()) {
+      found.append(QStringLiteral("%1 %2/%3")
+                       .arg(rows.Field(0).toDate().toString(QStringLiteral("MM-dd")),
+                            PlainText(rows.Number(QStringLiteral("ThisWeight"))),
+                            PlainText(rows.Number(QStringLiteral("ThisLoss")))));
+    }
+    return found.join(QStringLiteral(", ")).toStdString();
+  }
+
+  TestSession session;
+  std::unique_ptr<CalendarModel> model;
+};
+
+}  // namespace trimlog
