@@ -1,0 +1,233 @@
+#include "core/profiles.h"
+
+#include <gtest/gtest.h>
+
+#include "core/colour_scheme.h"
+#include "core/nutrients.h"
+#include "core/profile_list.h"
+#include "support/test_session.h"
+
+namespace trimlog {
+namespace {
+
+std::string PeopleField(TestSession &session, const char *field, int personID) {
+  return session
+      .ValueOf(QString::fromLatin1(field), QStringLiteral("people"), QStringLiteral("PersonID=%1").arg(personID))
+      .toStdString();
+}
+
+int RowsOf(TestSession &session, const char *table, int personID) {
+  return session
+      .ValueOf(QStringLiteral("Count(*) AS HowMany"), QString::fromLatin1(table),
+               QStringLiteral("PersonID=%1").arg(personID))
+      .toInt();
+}
+
+TEST(ApplyProfile, TakesColourTargetsAndStanding) {
+  struct Case {
+    const char *name;
+    const char *personID;
+    const char *stored;  // SQL that prepares people; "" for none
+    double colours;
+    bool loginMode;
+    quint32 backColor;  // before: 0x123456
+    int targetSet;
+    const char *lastReal;  // before: "1"
+  };
+  const Case cases[] = {
+      {"own colour and targets", "7", "UPDATE people SET BackColor=14745599, NutTargetID=12 WHERE PersonID=7;",
+       16777216, false, 14745599, 12, "7"},
+      {"no colour keeps the one in force", "7", "UPDATE people SET NutTargetID=Null WHERE PersonID=7;", 16777216, false,
+       0x123456, 30, "7"},
+      {"a sample ignores its row's colour", "-1", "UPDATE people SET BackColor=255 WHERE PersonID=-1;", 16777216, false,
+       0xFFE0C0, 30, "1"},
+      {"a sample on few colours", "-2", "", 256, false, 0xC0FFFF, 30, "1"},
+      {"nobody on many colours", "0", "", 16777216, false, 0x123456, 30, "0"},
+      {"nobody on few colours", "0", "", 256, false, 0xC0FFFF, 30, "0"},
+      {"nobody in login mode", "0", "", 256, true, 0x123456, 30, "0"},
+      {"an old sample number is never the last real one", "-4", "", 16777216, false, 0x123456, 30, "1"},
+  };
+  for (const Case &row : cases) {
+    SCOPED_TRACE(row.name);
+    TestSession session;
+    FillNutrientDefinitions(session->nutrients, session.Data());
+    session.AddProfile(7, QStringLiteral("Ann"));
+    session.Data().Execute(QStringLiteral("UPDATE people SET NutTargetID=Null WHERE PersonID < 0;"));
+    if (*row.stored) session.Data().Execute(QString::fromLatin1(row.stored));
+    session.machine.colors = row.colours;
+    session->BizEdLoginMode = row.loginMode;
+    session->BackColor = 0x123456;
+    session->FirstWeightDate = session->LastWeightDate = session->RememberedDate = QDate(2026, 1, 1);
+    ApplyProfile(*session, {}, QString::fromLatin1(row.personID));
+    EXPECT_EQ(session->CurrentPersonID.toStdString(), row.personID);
+    EXPECT_EQ(session->BackColor, row.backColor);
+    EXPECT_EQ(session->NutTargetID, row.targetSet);
+    EXPECT_EQ(session->LastRealPersonID.toStdString(), row.lastReal);
+    EXPECT_FALSE(session->FirstWeightDate.isValid() || session->LastWeightDate.isValid() ||
+                 session->RememberedDate.isValid());
+  }
+}
+
+TEST(ApplyProfile, ReadsTargetsBeforeRewardsAndStatisticsLast) {
+  TestSession session;
+  FillNutrientDefinitions(session->nutrients, session.Data());
+  session.AddProfile(7, QStringLiteral("Ann"));
+  session.Data().Execute(QStringLiteral("UPDATE people SET NutTargetID=10 WHERE PersonID=7;"));
+  const QString expected =
+      session.ValueOf(QStringLiteral("Calories"), QStringLiteral("nutrition_targets"), QStringLiteral("TargetID=10"));
+  QStringList order;
+  RoomHooks hooks;
+  hooks.LoadRewardSettings = [&] {
+    EXPECT_DOUBLE_EQ(session->nutrients.NutrientTargets[0], expected.toDouble());
+    order.append(QStringLiteral("rewards of ") + session->CurrentPersonID);
+  };
+  hooks.UpdateStats = [&] {
+    EXPECT_GT(session->nutrients.SelectedNutrients[0].NutrientID, 0);
+    order.append(QStringLiteral("statistics"));
+  };
+  ApplyProfile(*session, hooks, QStringLiteral("7"));
+  EXPECT_EQ(order.join(QStringLiteral(", ")).toStdString(), "rewards of 7, statistics");
+}
+
+std::string MenuOf(TestSession &session) {
+  QStringList lines;
+  for (const ProfileMenuEntry &entry : ProfilesMenuEntries(*session, FillProfilesArray(*session))) {
+    lines.append(entry.caption + (entry.PersonID.isEmpty() ? QString() : QStringLiteral("=") + entry.PersonID) +
+                 (entry.checked ? QStringLiteral("*") : QString()));
+  }
+  return lines.join(QLatin1Char('|')).toStdString();
+}
+
+TEST(ProfilesMenu, ListsNamesSamplesAndCommands) {
+  TestSession session;
+  session.AddProfile(12, QStringLiteral("Tom & Ann"));
+  session.AddProfile(3, QStringLiteral("abel"));
+  const std::string tail = "-|&Create a New Profile...|&Edit Profiles...";
+  EXPECT_EQ(MenuOf(session), "abel=3|Test Person=1*|Tom && Ann=12|-|Sample Profile 1=-2|Sample Profile 2=-1|" + tail);
+  session->CurrentPersonID = QStringLiteral("-1");
+  EXPECT_EQ(MenuOf(session), "abel=3|Test Person=1|Tom && Ann=12|-|Sample Profile 1=-2|Sample Profile 2=-1*|" + tail);
+  session->BizEd = true;
+  EXPECT_EQ(MenuOf(session), "Select &Profile...|Profile &Administrator...");
+  session->BizEdLoginMode = true;
+  EXPECT_EQ(MenuOf(session), "abel=3|Test Person=1|Tom && Ann=12|-|Sample Profile 1=-2|Sample Profile 2=-1*|" + tail);
+}
+
+TEST(ProfilesMenu, EachSampleHasItsOwnWelcome) {
+  TestSession session;
+  session.boxes.Expect(QStringLiteral("Welcome to Sample Profile 1"),
+                       QStringLiteral("This sample profile demonstrates a one month period of weight loss, while also "
+                                      "logging meals, exercises, measurements, and notes in the Journal."));
+  session.boxes.Expect(
+      QStringLiteral("Welcome to Sample Profile 2"),
+      QStringLiteral("This sample profile demonstrates weight loss over a 7 month period of time.  This is an example "
+                     "of using Trimlog Pro at its simplest level, with no journal entries.  The weight loss charts are "
+                     "interesting to see here, since they contain several months of data."));
+  ShowSampleWelcome(*session, QStringLiteral("-2"));
+  ShowSampleWelcome(*session, QStringLiteral("-1"));
+  ShowSampleWelcome(*session, QStringLiteral("1"));
+}
+
+void AddWeightAndNote(TestSession &session, int personID) {
+  session.Data().Execute(QStringLiteral("INSERT INTO weight_loss ( PersonID, ThisDate, ThisWeight, ThisLoss ) VALUES ( "
+                                        "?, #2/1/2026#, 180, 0 );"),
+                         {personID});
+  session.Data().Execute(
+      QStringLiteral("INSERT INTO notes ( PersonID, RecordID, ThisDate, Notes ) VALUES ( ?, 1, #2/1/2026#, \"n\" );"),
+      {personID});
+}
+
+TEST(ResetWeightLossData, DeletesThoseOfProfileOneWhicheverIsLoaded) {
+  TestSession session;
+  session.AddProfile(2, QStringLiteral("Ann"));
+  session->CurrentPersonID = QStringLiteral("2");
+  AddWeightAndNote(session, 1);
+  AddWeightAndNote(session, 2);
+  const QString title = QStringLiteral("Reset Weight Loss Data");
+  const QString question = QStringLiteral(
+      "This action will delete all weight loss data that you have previously recorded.  Once this data is deleted you "
+      "cannot get it back.  Are you sure you want to continue?");
+  session.boxes.Expect(title, question, BoxButton::No);
+  session.boxes.Expect({}, QStringLiteral("Action canceled.  No data was deleted."));
+  EXPECT_FALSE(ResetWeightLossData(*session));
+  EXPECT_EQ(session.boxes.Shown().front().defaultButton, BoxButton::No);
+  EXPECT_EQ(RowsOf(session, "weight_loss", 1), 1);
+
+  session.boxes.Expect(title, question, BoxButton::Yes);
+  session.boxes.Expect({}, QStringLiteral("All weight loss data has been deleted successfully."));
+  EXPECT_TRUE(ResetWeightLossData(*session));
+  EXPECT_EQ(RowsOf(session, "weight_loss", 1) + RowsOf(session, "notes", 1), 0);
+  EXPECT_EQ(RowsOf(session, "weight_loss", 2) + RowsOf(session, "notes", 2), 2);
+}
+
+TEST(AdminProfile, MovesTheFirstProfileWithItsDataAndIsMadeOnce) {
+  TestSession session;
+  session.AddProfile(5, QStringLiteral("Ann"));
+  AddWeightAndNote(session, 1);
+  CreateAdminProfile(*session);
+  EXPECT_EQ(PeopleField(session, "PersonName", 1), "Test Person") << "without the Profile Administrator";
+
+  session->BizEd = true;
+  CreateAdminProfile(*session);
+  EXPECT_EQ(PeopleField(session, "PersonName", 6), "Test Person");
+  EXPECT_EQ(RowsOf(session, "notes", 6), 1);
+  const std::pair<const char *, const char *> admin[] = {
+      {"PersonName", "Administrator"}, {"UserID", "admin"},       {"Password", "kvr7gates"}, {"Goal", "120"},
+      {"GoalMethodID", "2"},           {"HeightInches", "3"},     {"HeightFeet", "5"},       {"GenderID", "2"},
+      {"BackColor", "16769216"},       {"GoalMethodLbsWeek", "2"}};
+  for (const auto &[field, value] : admin) EXPECT_EQ(PeopleField(session, field, 1), value) << field;
+  EXPECT_EQ(PeopleField(session, "UserID", -2), "sample1");
+  EXPECT_EQ(PeopleField(session, "UserID", -1), "sample2");
+  EXPECT_EQ(session
+                .ValueOf(QStringLiteral("ThisWeight"), QStringLiteral("weight_loss"),
+                         QStringLiteral("PersonID=1 AND ThisDate=#3/1/2026#"))
+                .toStdString(),
+            "120");
+
+  session.Data().Execute(QStringLiteral("UPDATE people SET Password=\"mine\" WHERE PersonID=1;"));
+  CreateAdminProfile(*session);
+  EXPECT_EQ(PeopleField(session, "Password", 1), "mine");
+  EXPECT_EQ(RowsOf(session, "weight_loss", 1), 1);
+}
+
+TEST(AdminProfile, AFailureLeavesThePeopleAsTheyWere) {
+  TestSession session;
+  session->BizEd = true;
+  session.Data().Execute(QStringLiteral("DROP TABLE weight_loss;"));
+  EXPECT_ANY_THROW(CreateAdminProfile(*session));
+  EXPECT_EQ(PeopleField(session, "PersonName", 1), "Test Person");
+}
+
+TEST(ProfileToStandOn, FindsAProfileThatIsStillThere) {
+  TestSession session;
+  session.AddProfile(4, QStringLiteral("Ann"));
+  session.AddProfile(9, QStringLiteral("Bob"));
+  EXPECT_EQ(ProfileToStandOn(*session).toStdString(), "1");
+  session->CurrentPersonID = session->LastRealPersonID = QStringLiteral("9");
+  session.Data().Execute(QStringLiteral("DELETE people.* FROM people WHERE PersonID IN (1, 9);"));
+  EXPECT_EQ(ProfileToStandOn(*session).toStdString(), "4");
+  EXPECT_EQ(session->LastRealPersonID.toStdString(), "4");
+  session->CurrentPersonID = QStringLiteral("-1");
+  EXPECT_EQ(ProfileToStandOn(*session).toStdString(), "-1");
+  session->CurrentPersonID = QStringLiteral("4");
+  session.Data().Execute(QStringLiteral("DELETE people.* FROM people WHERE PersonID > 0;"));
+  EXPECT_EQ(ProfileToStandOn(*session).toStdString(), "-2");
+  EXPECT_EQ(session->LastRealPersonID.toStdString(), "") << "what is stored at exit must not name a deleted profile";
+}
+
+TEST(StoreBackColor, KeepsTheColourOfOneProfileAndSaysSo) {
+  TestSession session;
+  session.AddProfile(4, QStringLiteral("Ann"));
+  const QString said =
+      QStringLiteral("Your color scheme changes will completely take effect the next time you log on.");
+  session.boxes.Expect(QStringLiteral("Color Scheme Changed."), said);
+  StoreBackColor(*session, QStringLiteral("4"), 0xE0FFE0);
+  EXPECT_EQ(PeopleField(session, "BackColor", 4), std::to_string(0xE0FFE0));
+  EXPECT_EQ(PeopleField(session, "BackColor", 1), "");
+  EXPECT_EQ(session->BackColor, 0xFFE0C0u) << "another profile is loaded";
+  session.boxes.Expect(QStringLiteral("Color Scheme Changed."), said);
+  StoreBackColor(*session, QStringLiteral("1"), 0xE0FFE0);
+  EXPECT_EQ(session->BackColor, 0xE0FFE0u);
+}
+
+}  // namespace
+}  // namespace trimlog
