@@ -90,7 +90,7 @@ TEST(WizardNutrients, FollowTheDiet) {
     EXPECT_EQ(TargetOf(session, c.nutrientID), c.target) << c.diet << " nutrient " << c.nutrientID;
     EXPECT_EQ(CountWizardNutrients(*session), 10) << c.diet;
   }
-  EXPECT_EQ(session.ValueOf("Count(*) AS N", "temp_meals_search", "MealID BETWEEN 28 AND 32"), "");
+  EXPECT_EQ(session.ValueOf("Count(*) AS N", "temp_meals_search", "MealID BETWEEN 28 AND 32"), "0");
   const Recordset rows = session.Data().OpenRecordset("SELECT Count(*) AS N FROM temp_meals_search;");
   EXPECT_EQ(rows.Integer("N"), 30) << "35 nutrients without the five custom ones";
 }
