@@ -1,0 +1,125 @@
+#include "catalogs/windows/frmSelectedNutrients.h"
+
+#include <QDialogButtonBox>
+#include <QGridLayout>
+#include <QLabel>
+#include <QPushButton>
+#include <QVBoxLayout>
+
+#include "core/failure_guard.h"
+#include "platform/windows/text_field.h"
+
+namespace trimlog {
+
+namespace {
+
+constexpr int shortNameLength = 255;
+
+QString Numbered(const QString &name, int position) { return QStringLiteral("%1(%2)").arg(name).arg(position); }
+
+}  // namespace
+
+frmSelectedNutrients::frmSelectedNutrients(Session &session, const Navigator &navigator, QWidget *owner)
+    : QDialog(owner), session_(session) {
+  setObjectName(QStringLiteral("frmSelectedNutrients"));
+  setWindowTitle(QStringLiteral("Trimlog Pro Nutrient Selections"));
+  setWindowFlag(Qt::WindowContextHelpButtonHint, false);
+
+  auto *layout = new QVBoxLayout(this);
+  auto *note =
+      new QLabel(QStringLiteral("Choose up to ten nutrients.  They are shown wherever foods are listed, in this "
+                                "order.  The custom nutrients take any short name that you type."),
+                 this);
+  note->setWordWrap(true);
+  layout->addWidget(note);
+  auto *grid = new QGridLayout;
+  grid->setColumnStretch(1, 2);
+  grid->setColumnStretch(2, 1);
+  layout->addLayout(grid);
+
+  GuardedQuietly([&] { choices_ = SelectableNutrients(session_); });
+  AddHeadings(grid);
+  for (int position = 1; position <= shownNutrients; ++position) AddRow(grid, position);
+  GuardedQuietly([&] { ShowSelection(ReadNutrientSelection(session_)); });
+
+  auto *buttons = new QDialogButtonBox(QDialogButtonBox::Ok | QDialogButtonBox::Cancel | QDialogButtonBox::Help, this);
+  buttons->button(QDialogButtonBox::Ok)->setObjectName(QStringLiteral("cmdOK"));
+  buttons->button(QDialogButtonBox::Cancel)->setObjectName(QStringLiteral("cmdCancel"));
+  buttons->button(QDialogButtonBox::Help)->setObjectName(QStringLiteral("cmdHelp"));
+  buttons->button(QDialogButtonBox::Help)->setEnabled(static_cast<bool>(navigator.ShowHelp));
+  connect(buttons, &QDialogButtonBox::accepted, this, &frmSelectedNutrients::OnOk);
+  connect(buttons, &QDialogButtonBox::rejected, this, &frmSelectedNutrients::reject);
+  connect(buttons, &QDialogButtonBox::helpRequested, this,
+          [&navigator] { navigator.ShowHelp(QStringLiteral("nutrients")); });
+  layout->addWidget(buttons);
+}
+
+void frmSelectedNutrients::AddHeadings(QGridLayout *grid) {
+  grid->addWidget(new QLabel(QStringLiteral("Nutrient"), this), 0, 1);
+  grid->addWidget(new QLabel(QStringLiteral("Short name"), this), 0, 2);
+  grid->addWidget(new QLabel(QStringLiteral("Calculate Daily Totals?"), this), 0, 3);
+}
+
+void frmSelectedNutrients::AddRow(QGridLayout *grid, int position) {
+  PositionRow &row = Row(position);
+  auto *label =
+      new QLabel(position < shownNutrients ? QStringLiteral("&%1.").arg(position) : QStringLiteral("1&0."), this);
+  row.cboNutrient = new QComboBox(this);
+  row.cboNutrient->setObjectName(Numbered(QStringLiteral("cboNutrient"), position));
+  row.cboNutrient->setAccessibleName(QStringLiteral("Nutrient %1").arg(position));
+  for (const NutrientChoice &choice : choices_) row.cboNutrient->addItem(choice.descriptionPlusUnit, choice.NutrientID);
+  label->setBuddy(row.cboNutrient);
+  row.txtNutrient = new TextField(Numbered(QStringLiteral("txtNutrient"), position),
+                                  QStringLiteral("Short name of nutrient %1").arg(position), shortNameLength, this);
+  row.chkNutTotal = new QCheckBox(this);
+  row.chkNutTotal->setObjectName(Numbered(QStringLiteral("chkNutTotal"), position));
+  row.chkNutTotal->setAccessibleName(QStringLiteral("Calculate daily totals of nutrient %1").arg(position));
+  grid->addWidget(label, position, 0);
+  grid->addWidget(row.cboNutrient, position, 1);
+  grid->addWidget(row.txtNutrient, position, 2);
+  grid->addWidget(row.chkNutTotal, position, 3, Qt::AlignHCenter);
+  connect(row.cboNutrient, &QComboBox::activated, this, [this, position] { OnChosen(position); });
+}
+
+void frmSelectedNutrients::ShowSelection(const NutrientSelection &selection) {
+  for (int position = 1; position <= shownNutrients; ++position) {
+    const SelectedNutrient &shown = selection[static_cast<std::size_t>(position - 1)];
+    PositionRow &row = Row(position);
+    row.cboNutrient->setCurrentIndex(std::max(0, row.cboNutrient->findData(shown.NutrientID)));
+    row.txtNutrient->setText(shown.description);
+    row.chkNutTotal->setChecked(shown.NutTotal);
+  }
+}
+
+void frmSelectedNutrients::OnChosen(int position) {
+  PositionRow &row = Row(position);
+  const NutrientChoice &choice = choices_.at(row.cboNutrient->currentIndex());
+  row.txtNutrient->setText(choice.NutrientID == 0 ? QString() : choice.shortDescription);
+}
+
+NutrientSelection frmSelectedNutrients::Chosen() const {
+  NutrientSelection selection;
+  for (std::size_t i = 0; i < shownNutrients; ++i) {
+    selection[i].NutrientID = rows_[i].cboNutrient->currentData().toInt();
+    selection[i].description = rows_[i].txtNutrient->text();
+    selection[i].NutTotal = rows_[i].chkNutTotal->isChecked();
+  }
+  return selection;
+}
+
+void frmSelectedNutrients::OnOk() {
+  if (HandheldHoldsFoods(session_)) {
+    session_.boxes.Inform(
+        QStringLiteral("Important!"),
+        QStringLiteral("IMPORTANT: If you changed anything regarding the nutrient selections, you will "
+                       "need to re-install the food databases on your handheld.\n\nTo do this, choose "
+                       "\"Configure\" from the \"Mobile\" menu, and then click the \"Re-install Foods\" "
+                       "button."));
+  }
+  const FailureExit failure{QStringLiteral("frmSelectedNutrients"), QStringLiteral("cmdOK_Click"),
+                            QStringLiteral("Error Saving Nutrients"),
+                            QStringLiteral("An error occurred while saving your nutrient selections.")};
+  if (Guarded(session_, failure, [&] { SaveNutrientSelection(session_, Chosen()); })) accept();
+}
+
+}  // namespace trimlog
