@@ -6,11 +6,11 @@
 #include <QTimer>
 #include <QWidget>
 #include <functional>
+#include <stdexcept>
 
 namespace trimlog {
 
-/// The control of a window by its name. A wrong name fails the test and lists what is there; never returns null, so
-/// that one wrong name does not take the other tests along.
+/// The control of a window by its name. A wrong name ends the test and lists what is there.
 template <typename Control>
 Control &Find(QWidget &window, const QString &name) {
   if (auto *found = window.findChild<Control *>(name)) return *found;
@@ -20,8 +20,8 @@ Control &Find(QWidget &window, const QString &name) {
       names.append(child->objectName());
     }
   }
-  ADD_FAILURE() << "No control " << name.toStdString() << " of this kind among " << names.join(u' ').toStdString();
-  return *new Control(&window);
+  throw std::runtime_error("No control " + name.toStdString() + " of this kind among " +
+                           names.join(u' ').toStdString());
 }
 
 /// Acts on the next modal window once it stands, and closes it when the act did not: a test never hangs in exec().
@@ -32,7 +32,11 @@ inline void WhenModal(const std::function<void(QWidget &window)> &act) {
       ADD_FAILURE() << "No modal window came";
       return;
     }
-    act(*window);
+    try {
+      act(*window);
+    } catch (const std::exception &error) {  // must not travel through the event loop
+      ADD_FAILURE() << error.what();
+    }
     if (window == QApplication::activeModalWidget() && window->isVisible()) window->close();
   });
 }

@@ -1,0 +1,399 @@
+#include <gtest/gtest.h>
+
+#include <QCheckBox>
+#include <QLabel>
+#include <QLineEdit>
+#include <QPushButton>
+#include <QRadioButton>
+#include <QTabWidget>
+#include <QTest>
+
+#include "core/nutrients.h"
+#include "core/profiles.h"
+#include "core/windows/choice_combo.h"
+#include "core/windows/colour_combo.h"
+#include "core/windows/frmSetup.h"
+#include "platform/windows/bound_grid.h"
+#include "support/test_session.h"
+#include "support/windows/controls.h"
+
+namespace trimlog {
+namespace {
+
+class SetupWindow : public ::testing::Test {
+ protected:
+  SetupWindow() {
+    FillNutrientDefinitions(session->nutrients, session.Data());
+    navigator.LoadData = [this](const QString &personID) {
+      loaded.append(personID);
+      if (!refused.contains(personID)) ApplyProfile(*session, {}, personID);
+    };
+    navigator.ResetMainWindow = [this] { ++framesReset; };
+  }
+
+  frmSetup &Open(SetupTab tab) {
+    window = std::make_unique<frmSetup>(*session, navigator, QList<SetupPageMaker>(), nullptr);
+    window->ShowTab(tab);
+    window->show();
+    return *window;
+  }
+  template <typename Control>
+  Control &The(const QString &name) {
+    return Find<Control>(*window, name);
+  }
+  void Click(const QString &name) {
+    auto &button = The<QAbstractButton>(name);
+    QTest::mouseClick(&button, Qt::LeftButton, {}, QPoint(5, button.height() / 2));
+  }
+  void Press(const char *name) { QTest::mouseClick(&The<QPushButton>(QString::fromLatin1(name)), Qt::LeftButton); }
+  std::string Stored(const QString &valueName) {
+    return session.store->GetSettingString(settingsRoot, valueName).toStdString();
+  }
+  QMap<QString, QString> AllStored() {
+    QMap<QString, QString> all;
+    for (const SettingRow &row : SettingRows()) {
+      all.insert(row.name, session.store->GetSettingString(settingsRoot, row.name));
+    }
+    return all;
+  }
+  std::string Person(const char *field, int personID) {
+    return session
+        .ValueOf(QString::fromLatin1(field), QStringLiteral("people"), QStringLiteral("PersonID=%1").arg(personID))
+        .toStdString();
+  }
+  /// Types into a cell of the current row and leaves the cell.
+  void TypeCell(const char *column, const QString &text) {
+    auto &grid = The<BoundGrid>(QStringLiteral("grdPeople"));
+    const int place = grid.Model().ColumnByName(QString::fromLatin1(column));
+    grid.setCurrentIndex(grid.Model().index(grid.currentIndex().row(), place));
+    QTest::keyClick(&grid, Qt::Key_F2);
+    auto *editor = grid.viewport()->findChild<QLineEdit *>();
+    ASSERT_TRUE(editor);
+    editor->selectAll();
+    QTest::keyClicks(editor, text);
+    QTest::keyClick(editor, Qt::Key_Return);
+    QApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
+  }
+
+  TestSession session;
+  Navigator navigator;
+  QStringList loaded;
+  QStringList refused;  ///< profiles whose password is not given
+  int framesReset = 0;
+  std::unique_ptr<frmSetup> window;
+};
+
+struct CheckCase {
+  SetupTab tab;
+  QString control;
+  QString valueName;
+};
+
+QList<CheckCase> Checks() {
+  QList<CheckCase> cases;
+  for (const char *name : {"OpenToday", "ShowLoss", "ColorCoding", "ShowCalories"}) {
+    cases.append({SetupTab::Calendar, QStringLiteral("chk") + QLatin1String(name), QString::fromLatin1(name)});
+  }
+  for (int chart = 1; chart <= 4; ++chart) {
+    for (const char *name : {"ShowGridlines", "ShowDataLabels", "PlotPoints"}) {
+      cases.append({SetupTab::Charts, QStringLiteral("chk%1(%2)").arg(QLatin1String(name)).arg(chart),
+                    QLatin1String(name) + QString::number(chart)});
+    }
+  }
+  for (const char *name : {"ConfirmDeletes", "SmartDates", "BodyFat", "NetCaloriesBMR"}) {
+    cases.append({SetupTab::Journal, QStringLiteral("chk") + QLatin1String(name), QString::fromLatin1(name)});
+  }
+  cases.append({SetupTab::Other, QStringLiteral("chkShowSplash"), QStringLiteral("ShowSplash")});
+  return cases;
+}
+
+// Each control is tried alone, so that one wired to another's setting shows.
+TEST_F(SetupWindow, EveryTickLoadsAndStoresItsOwnSetting) {
+  for (const CheckCase &row : Checks()) {
+    SCOPED_TRACE(row.control.toStdString());
+    const QMap<QString, QString> before = AllStored();
+    Open(row.tab);
+    EXPECT_EQ(The<QCheckBox>(row.control).isChecked(), before[row.valueName] == QStringLiteral("-1"));
+    Click(row.control);
+    Press("cmdCancel");
+    EXPECT_EQ(AllStored(), before);
+
+    Open(row.tab);
+    Click(row.control);
+    Press("cmdOK");
+    EXPECT_FALSE(window->isVisible());
+    QMap<QString, QString> expected = before;
+    expected[row.valueName] =
+        before[row.valueName] == QStringLiteral("-1") ? QStringLiteral("0") : QStringLiteral("-1");
+    EXPECT_EQ(AllStored(), expected);
+    EXPECT_EQ(StoredValue(session->settings, row.valueName), expected[row.valueName]);
+  }
+}
+
+TEST_F(SetupWindow, EveryChoiceStoresItsOwnSetting) {
+  struct Case {
+    SetupTab tab;
+    QString control;
+    QString entry;  // "" for an option button
+    QString valueName;
+    QString stored;
+  };
+  QList<Case> cases = {
+      {SetupTab::Calendar, QStringLiteral("cboNutrientID"), QStringLiteral("Protein (g)"), QStringLiteral("NutrientID"),
+       QStringLiteral("4")},
+      {SetupTab::Calendar, QStringLiteral("cboNutrientID"), QStringLiteral("Calories Burned (kcal)"),
+       QStringLiteral("NutrientID"), QStringLiteral("101")},
+      {SetupTab::Calendar, QStringLiteral("cboUomID"), QStringLiteral("Metric (Kilograms and Meters)"),
+       QStringLiteral("UomID"), QStringLiteral("2")},
+      {SetupTab::Journal, QStringLiteral("cboDefaultDiaryTab"), QStringLiteral("Body Measurements"),
+       QStringLiteral("DefaultDiaryTab"), QStringLiteral("3")},
+  };
+  for (int chart = 1; chart <= 4; ++chart) {
+    const QString of = QStringLiteral("(%1)").arg(chart);
+    const QString n = QString::number(chart);
+    cases.append({SetupTab::Charts, QStringLiteral("cboLineWidth") + of, QStringLiteral("Huge"),
+                  QStringLiteral("LineWidth") + n, QStringLiteral("8")});
+    cases.append({SetupTab::Charts, QStringLiteral("cboLineColor") + of, QStringLiteral("Red"),
+                  QStringLiteral("LineColor") + n, QStringLiteral("255")});
+    cases.append({SetupTab::Charts, QStringLiteral("cboPointColor") + of, QStringLiteral("Green"),
+                  QStringLiteral("PointColor") + n, QString::number(0x00C000)});
+  }
+  for (int type = 8; type >= 1; --type) {
+    cases.append({SetupTab::Charts,
+                  QStringLiteral("optBodyType(%1)").arg(type),
+                  {},
+                  QStringLiteral("BodyMeasDefault"),
+                  QString::number(type)});
+  }
+  for (int answer = 0; answer <= 2; ++answer) {
+    const QString n = QString::number(answer);
+    cases.append(
+        {SetupTab::Journal, QStringLiteral("optConfirmMealUpdates") + n, {}, QStringLiteral("ConfirmMealsUpdates"), n});
+    cases.append({SetupTab::Journal,
+                  QStringLiteral("optConfirmExerciseUpdates") + n,
+                  {},
+                  QStringLiteral("ConfirmExerciseUpdates"),
+                  n});
+  }
+  for (const Case &row : cases) {
+    SCOPED_TRACE(row.control.toStdString());
+    QMap<QString, QString> expected = AllStored();
+    Open(row.tab);
+    if (row.entry.isEmpty()) {
+      Click(row.control);
+    } else {
+      auto &list = The<QComboBox>(row.control);
+      ASSERT_GE(list.findText(row.entry), 0);
+      list.setCurrentIndex(list.findText(row.entry));
+    }
+    Press("cmdOK");
+    expected[row.valueName] = row.stored;
+    EXPECT_EQ(AllStored(), expected);
+
+    Open(row.tab);  // and what was stored is what the next visit shows
+    if (row.entry.isEmpty()) {
+      EXPECT_TRUE(The<QRadioButton>(row.control).isChecked());
+    } else {
+      EXPECT_EQ(The<QComboBox>(row.control).currentText(), row.entry);
+    }
+    Press("cmdCancel");
+  }
+}
+
+TEST_F(SetupWindow, ValuesThatNoListKnowsSurviveOk) {
+  session->settings.LineWidth[0] = 15;
+  session->settings.LineColor[1] = 0x123456;
+  Open(SetupTab::Charts);
+  Press("cmdOK");
+  EXPECT_EQ(session->settings.LineWidth[0], 15);
+  EXPECT_EQ(session->settings.LineColor[1], 0x123456);
+}
+
+TEST_F(SetupWindow, TheCalendarsLastNutrientIsReadFromTheStore) {
+  session.store->SaveSettingString(settingsRoot, QStringLiteral("NutrientID"), QStringLiteral("5"));
+  Open(SetupTab::Calendar);
+  EXPECT_EQ(The<ChoiceCombo>(QStringLiteral("cboNutrientID")).ChosenValue(), 5);
+}
+
+TEST_F(SetupWindow, AnotherUnitSystemRenamesTheProfileColumnsAtOnce) {
+  Open(SetupTab::Calendar);
+  const auto caption = [this](const char *column) {
+    const GridModel &model = The<BoundGrid>(QStringLiteral("grdPeople")).Model();
+    return model.headerData(model.ColumnByName(QString::fromLatin1(column)), Qt::Horizontal).toString().toStdString();
+  };
+  EXPECT_EQ(caption("Goal"), "Goal (lbs.)");
+  The<ChoiceCombo>(QStringLiteral("cboUomID")).SetValue(2);
+  EXPECT_EQ(caption("Goal"), "Goal (kg.)");
+  EXPECT_EQ(caption("HeightFeet"), "Ht (m.)");
+  EXPECT_EQ(caption("HeightInches"), "Ht (cm.)");
+  Press("cmdOK");
+  EXPECT_EQ(session->UomDisplay.toStdString(), "Kg");
+  EXPECT_EQ(Person("Goal", 1), "150") << "nothing stored is converted";
+}
+
+TEST_F(SetupWindow, AProfileIsChangedInPlaceAndCancelKeepsIt) {
+  session.AddProfile(2, QStringLiteral("Ann"));
+  int announced = 0;
+  QObject::connect(&session->changes, &DataChanges::ProfilesChanged, [&announced] { ++announced; });
+  Open(SetupTab::Profiles);
+  auto &grid = The<BoundGrid>(QStringLiteral("grdPeople"));
+  EXPECT_EQ(grid.CurrentKey(), 1) << "the loaded profile is the current row";
+  TypeCell("PersonName", QStringLiteral("O'Brien \"Bob\""));
+  TypeCell("Goal", QStringLiteral("142.5"));
+  EXPECT_TRUE(grid.CommitRow());
+  Press("cmdCancel");
+  EXPECT_EQ(Person("PersonName", 1), "O'Brien \"Bob\"");
+  EXPECT_EQ(Person("Goal", 1), "142.5");
+  EXPECT_EQ(Person("PersonName", 2), "Ann");
+  EXPECT_EQ(announced, 1);
+}
+
+TEST_F(SetupWindow, RefusedValuesStayInViewAndKeepTheWindowOpen) {
+  struct Case {
+    const char *column;
+    const char *typed;
+  };
+  for (const Case &row : {Case{"BirthDate", "4/1/2026"},
+                          {"BirthDate", "1/1/1800"},
+                          {"BirthDate", "yesterday"},
+                          {"HeightFeet", "-1"},
+                          {"HeightInches", "tall"}}) {
+    SCOPED_TRACE(row.typed);
+    const std::string before = Person(row.column, 1);
+    Open(SetupTab::Profiles);
+    TypeCell(row.column, QString::fromLatin1(row.typed));
+    Press("cmdOK");
+    EXPECT_TRUE(window->isVisible());
+    auto &grid = The<BoundGrid>(QStringLiteral("grdPeople"));
+    const int column = grid.Model().ColumnByName(QString::fromLatin1(row.column));
+    const QModelIndex cell = grid.Model().index(grid.currentIndex().row(), column);
+    EXPECT_EQ(cell.data().toString().toStdString(), row.typed);
+    EXPECT_FALSE(cell.data(GridModel::SentenceRole).toString().isEmpty());
+    Press("cmdCancel");
+    EXPECT_EQ(Person(row.column, 1), before);
+  }
+}
+
+TEST_F(SetupWindow, AnInvalidGoalIsAskedAboutBeforeTheWindowIsLeft) {
+  const QString title = QStringLiteral("Invalid Goal");
+  const QString text = QStringLiteral("The goal that you entered is invalid.  Are you sure that you want to continue?");
+  for (const char *goal : {"0", "-3", "abc"}) {
+    SCOPED_TRACE(goal);
+    session.Data().Execute(QStringLiteral("UPDATE people SET Goal=\"150\" WHERE PersonID=1;"));
+    Open(SetupTab::Profiles);
+    TypeCell("Goal", QString::fromLatin1(goal));
+    window->ShowTab(SetupTab::Journal);
+    session.boxes.Expect(title, text, BoxButton::No);
+    Press("cmdOK");
+    EXPECT_TRUE(window->isVisible());
+    EXPECT_EQ(The<QTabWidget>(QStringLiteral("SSTab1")).currentIndex(), 0) << "the field comes into view";
+    session.boxes.Expect(title, text, BoxButton::Yes);
+    Press("cmdOK");
+    EXPECT_FALSE(window->isVisible());
+  }
+}
+
+TEST_F(SetupWindow, DeletingAsksInItsOwnWordsAndStandsOnWhatIsLeft) {
+  session.AddProfile(2, QStringLiteral("Ann"));
+  session.AddProfile(3, QStringLiteral("Bob"));
+  session.AddProfile(4, QStringLiteral("Cid"));
+  session.Data().Execute(
+      QStringLiteral("INSERT INTO weight_loss ( PersonID, ThisDate, ThisWeight ) VALUES ( 1, #2/1/2026#, 180 );"));
+  const QString title = QStringLiteral("Warning: Delete Profile?");
+  const QString one = QStringLiteral(
+      "When you delete this profile from the list, all data and journal entries for this profile will also be deleted. "
+      " "
+      "Are you sure you want to continue?");
+  const QString several = QStringLiteral(
+      "When you delete these profiles from the list, all data and journal entries for these profiles will also be "
+      "deleted.  Are you sure you want to continue?");
+  Open(SetupTab::Profiles);
+  auto &grid = The<BoundGrid>(QStringLiteral("grdPeople"));
+  session.boxes.Expect(title, one, BoxButton::No);
+  Press("cmdDeleteProfile");
+  EXPECT_EQ(Person("PersonName", 1), "Test Person");
+
+  session.boxes.Expect(title, one, BoxButton::Yes);
+  refused = {QStringLiteral("2")};  // Ann has a password and nobody gives it
+  Press("cmdDeleteProfile");
+  EXPECT_EQ(Person("PersonName", 1), "");
+  EXPECT_EQ(session.ValueOf(QStringLiteral("ThisWeight"), QStringLiteral("weight_loss"), QStringLiteral("PersonID=1"))
+                .toStdString(),
+            "");
+  EXPECT_EQ(loaded.join(u' ').toStdString(), "2 -2");
+  EXPECT_EQ(session->CurrentPersonID.toStdString(), "-2");
+
+  loaded.clear();
+  grid.MarkRows({3, 4});
+  session.boxes.Expect(title, several, BoxButton::Yes);
+  Press("cmdDeleteProfile");
+  EXPECT_EQ(Person("PersonName", 3) + Person("PersonName", 4), "");
+  EXPECT_EQ(Person("PersonName", 2), "Ann");
+  EXPECT_TRUE(loaded.isEmpty()) << "a sample is loaded and still there";
+  session.boxes.Expect(title, one, BoxButton::Yes);
+  grid.GoToKey(2);
+  Press("cmdDeleteProfile");
+  EXPECT_FALSE(The<QPushButton>(QStringLiteral("cmdDeleteProfile")).isEnabled());
+  EXPECT_FALSE(The<QPushButton>(QStringLiteral("cmdPassword")).isEnabled());
+  Press("cmdOK");  // no profile, no goal to ask about
+  EXPECT_FALSE(window->isVisible());
+}
+
+TEST_F(SetupWindow, NewProfileIsThereOnlyWithItsDoor) {
+  Open(SetupTab::Profiles);
+  EXPECT_FALSE(The<QPushButton>(QStringLiteral("cmdNewProfile")).isEnabled());
+  navigator.AddProfile = [this](QWidget *) {
+    session.AddProfile(8, QStringLiteral("Zoe"));
+    return true;
+  };
+  Open(SetupTab::Profiles);
+  Press("cmdNewProfile");
+  EXPECT_EQ(The<BoundGrid>(QStringLiteral("grdPeople")).Model().RecordCount(), 2);
+  EXPECT_EQ(The<BoundGrid>(QStringLiteral("grdPeopleColors")).Model().RecordCount(), 2);
+}
+
+TEST_F(SetupWindow, AColourIsStoredForTheProfileOfTheRow) {
+  session.AddProfile(2, QStringLiteral("Ann"));
+  Open(SetupTab::Colors);
+  auto &list = The<ColourCombo>(QStringLiteral("cboBackColor"));
+  EXPECT_EQ(list.Colour(), 0xFFE0C0u);
+  The<BoundGrid>(QStringLiteral("grdPeopleColors")).GoToKey(2);
+  session.boxes.Expect(QStringLiteral("Color Scheme Changed."), QStringLiteral("the next time you log on."));
+  QTest::keyClick(&list, Qt::Key_Down);
+  EXPECT_EQ(Person("BackColor", 2), std::to_string(0xE0FFFF));
+  EXPECT_EQ(Person("BackColor", 1), "");
+  EXPECT_EQ(The<BoundGrid>(QStringLiteral("grdPeopleColors")).CurrentKey(), 2);
+  session.machine.colors = 256;
+  session.boxes.Expect(QStringLiteral("Color Scheme Changed."), QStringLiteral("the next time you log on."));
+  Press("cmdResetBackColor");
+  EXPECT_EQ(Person("BackColor", 2), std::to_string(0xC0FFFF));
+  EXPECT_EQ(list.Colour(), 0xC0FFFFu);
+}
+
+TEST_F(SetupWindow, TheSignOfLossesIsStoredAtOnce) {
+  Open(SetupTab::Colors);
+  EXPECT_TRUE(The<QRadioButton>(QStringLiteral("optShowPositive")).isChecked());
+  Click(QStringLiteral("optShowNegative"));
+  EXPECT_EQ(Stored(QStringLiteral("LossFactor")), "-1");
+  Press("cmdCancel");
+  EXPECT_EQ(session->settings.LossFactor, -1);
+  Open(SetupTab::Colors);
+  EXPECT_TRUE(The<QRadioButton>(QStringLiteral("optShowNegative")).isChecked());
+  EXPECT_EQ(The<QLabel>(QStringLiteral("lblLossFactorNote")).text().toStdString(),
+            "This setting affects the calendar, weekly loss, monthly loss, and charts.");
+  Click(QStringLiteral("optShowPositive"));
+  Press("cmdOK");
+  EXPECT_EQ(Stored(QStringLiteral("LossFactor")), "1") << "OK keeps what the option stored";
+}
+
+TEST_F(SetupWindow, WindowsGoBackToTheirPlace) {
+  Open(SetupTab::Other);
+  Press("cmdResetMain");
+  EXPECT_EQ(framesReset, 1);
+  Press("cmdResetQJ");
+  EXPECT_EQ(Stored(QStringLiteral("QDWidth")), "8235");
+  EXPECT_EQ(Stored(QStringLiteral("QDHeight")), "2760");
+}
+
+}  // namespace
+}  // namespace trimlog

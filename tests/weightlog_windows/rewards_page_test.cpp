@@ -1,0 +1,142 @@
+#include "weightlog/windows/rewards_page.h"
+
+#include <gtest/gtest.h>
+
+#include <QGroupBox>
+#include <QLabel>
+#include <QPushButton>
+#include <QRadioButton>
+#include <QTest>
+
+#include "core/windows/choice_combo.h"
+#include "core/windows/frmSetup.h"
+#include "platform/windows/number_field.h"
+#include "support/test_session.h"
+#include "support/windows/controls.h"
+#include "weightlog/rewards.h"
+
+namespace trimlog {
+namespace {
+
+class RewardsTabTest : public ::testing::Test {
+ protected:
+  RewardsTabTest() { LoadRewardSettings(*session); }
+  void Open() {
+    window = std::make_unique<frmSetup>(*session, navigator, QList<SetupPageMaker>{RewardsTab()}, nullptr);
+    window->ShowTab(SetupTab::Rewards);
+    window->show();
+  }
+  template <typename Control>
+  Control &The(const char *name) {
+    return Find<Control>(*window, QString::fromLatin1(name));
+  }
+  void Choose(const char *option) { The<QRadioButton>(option).click(); }
+  void Press(const char *name) { QTest::mouseClick(&The<QPushButton>(name), Qt::LeftButton); }
+  std::string Text(const char *field) { return The<QLineEdit>(field).text().toStdString(); }
+  std::string Reward(const char *field) {
+    return session.ValueOf(QString::fromLatin1(field), QStringLiteral("rewards"), QStringLiteral("PersonID=1"))
+        .toStdString();
+  }
+
+  TestSession session;
+  Navigator navigator;
+  std::unique_ptr<frmSetup> window;
+};
+
+TEST_F(RewardsTabTest, NamesTheProfileWhoseRuleItIs) {
+  session.Data().Execute(QStringLiteral("UPDATE people SET PersonName=\"Tom & Ann\" WHERE PersonID=1;"));
+  Open();
+  EXPECT_EQ(The<QGroupBox>("fraRewards").title().toStdString(), "Reward Settings for: Tom && Ann");
+  EXPECT_EQ(The<QLabel>("pnlRewardNote").text().toStdString(),
+            "Note: This setting only affects rewards for Tom & Ann.  To change rewards for someone else, load their "
+            "profile from the Profiles menu and return to this window.");
+}
+
+TEST_F(RewardsTabTest, ChosenTypesStartFromDefaultsAndFollowTheUnits) {
+  Open();
+  EXPECT_TRUE(The<QRadioButton>("optRewardWeekly").isChecked());
+  EXPECT_EQ(Text("txtRewardWeekly"), "2.0");
+  Choose("optRewardDaily");
+  EXPECT_EQ(Text("txtRewardDaily"), "0.5");
+  Choose("optRewardWeight");
+  EXPECT_EQ(Text("txtRewardWeight"), "150");
+  EXPECT_EQ(The<QLabel>("lblRewardWeight").text().toStdString(), "lbs.");
+  The<ChoiceCombo>("cboUomID").SetValue(2);
+  EXPECT_EQ(Text("txtRewardWeekly"), "0.9");
+  EXPECT_EQ(Text("txtRewardDaily"), "0.25");
+  EXPECT_EQ(Text("txtRewardWeight"), "150");
+  EXPECT_EQ(The<QLabel>("lblRewardDaily").text().toStdString(), "kg.");
+  The<ChoiceCombo>("cboUomID").SetValue(1);
+  EXPECT_EQ(Text("txtRewardWeekly"), "2.0");
+}
+
+TEST_F(RewardsTabTest, ARuleWrittenInPoundsIsNotRewrittenByOpeningInKilograms) {
+  session->settings.UomID = 2;
+  Open();
+  EXPECT_EQ(Text("txtRewardWeekly"), "2.0");
+}
+
+TEST_F(RewardsTabTest, OkStoresTheRuleAndCancelDoesNot) {
+  Open();
+  Choose("optRewardDaily");
+  The<QLineEdit>("txtRewardMessage").setText(QStringLiteral("Say \"hurray\""));
+  Press("cmdCancel");
+  EXPECT_EQ(Reward("RewardType"), "3");
+
+  Open();
+  Choose("optRewardDaily");
+  The<QLineEdit>("txtRewardDaily").clear();
+  QTest::keyClicks(&The<QLineEdit>("txtRewardDaily"), QStringLiteral("1.25"));
+  The<QLineEdit>("txtRewardMessage").setText(QStringLiteral("Say \"hurray\""));
+  Press("cmdOK");
+  EXPECT_EQ(Reward("RewardType"), "2");
+  EXPECT_EQ(Reward("RewardWeight"), "1.25");
+  EXPECT_EQ(Reward("RewardMessage"), "Say ''hurray''");
+  EXPECT_EQ(session->rewards.type, RewardType::Daily);
+}
+
+TEST_F(RewardsTabTest, ABadAmountKeepsTheWindowAndStoresNothing) {
+  Open();
+  The<QLineEdit>("txtRewardWeekly").setText(QStringLiteral("lots"));
+  Find<QAbstractButton>(*window, QStringLiteral("chkShowLoss")).setChecked(true);
+  session.boxes.Expect(QStringLiteral("Invalid Reward Amount"), QStringLiteral("positive number"));
+  Press("cmdOK");
+  EXPECT_TRUE(window->isVisible());
+  EXPECT_FALSE(session->settings.ShowLoss);
+  EXPECT_EQ(Reward("RewardWeight"), "2");
+  Choose("optRewardNone");
+  Press("cmdOK");
+  EXPECT_FALSE(window->isVisible());
+  EXPECT_EQ(Reward("RewardType"), "0");
+}
+
+TEST_F(RewardsTabTest, BrowseTakesAFileAndCancelledBrowsingKeepsTheOldOne) {
+  Open();
+  const std::string before = Text("txtRewardSound");
+  session.boxes.ExpectInput(QStringLiteral("Select a Sound File"), std::nullopt);
+  Press("cmdBrowse");
+  EXPECT_EQ(Text("txtRewardSound"), before);
+  session.boxes.ExpectInput(QStringLiteral("Select a Sound File"), QStringLiteral("/sounds/bell.wav"));
+  Press("cmdBrowse");
+  EXPECT_EQ(Text("txtRewardSound"), "/sounds/bell.wav");
+}
+
+TEST_F(RewardsTabTest, TestShowsWhatIsTypedAndStoresNothing) {
+  Open();
+  The<QLineEdit>("txtRewardMessage").setText(QStringLiteral("Just trying"));
+  The<QLineEdit>("txtRewardSound").setText(QStringLiteral("/sounds/bell.wav"));
+  WhenModal([](QWidget &reward) {
+    EXPECT_EQ(reward.objectName().toStdString(), "frmReward");
+    EXPECT_EQ(reward.windowTitle().toStdString(), "Weekly Reward");
+    EXPECT_EQ(Find<QLabel>(reward, QStringLiteral("lblRewardMessage")).text().toStdString(), "Just trying");
+    QTest::mouseClick(&Find<QPushButton>(reward, QStringLiteral("cmdOK")), Qt::LeftButton);
+  });
+  Press("cmdTest");
+  EXPECT_EQ(session.machine.played.join(u' ').toStdString(), "/sounds/bell.wav");
+  EXPECT_NE(session->rewards.message.toStdString(), "Just trying");
+  Choose("optRewardNone");
+  EXPECT_FALSE(The<QPushButton>("cmdTest").isEnabled());
+}
+
+}  // namespace
+}  // namespace trimlog
