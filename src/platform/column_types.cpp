@@ -39,14 +39,14 @@ QString ColumnDeclaration(const QString &name, ColumnType type, int length) {
 
 std::optional<DeclaredColumn> ParseDeclaredType(QByteArrayView declared) {
   static const QHash<QByteArray, ColumnType> names = {
-      {"BOOLEAN", ColumnType::Boolean},  {"YESNO", ColumnType::Boolean},   {"BIT", ColumnType::Boolean},
-      {"BYTE", ColumnType::Byte},        {"SMALLINT", ColumnType::Integer}, {"SHORT", ColumnType::Integer},
-      {"INTEGER", ColumnType::Long},     {"LONG", ColumnType::Long},       {"INT", ColumnType::Long},
-      {"COUNTER", ColumnType::Long},     {"REAL", ColumnType::Single},     {"SINGLE", ColumnType::Single},
-      {"DOUBLE", ColumnType::Double},    {"FLOAT", ColumnType::Double},    {"NUMBER", ColumnType::Double},
-      {"DECIMAL2", ColumnType::Decimal2}, {"DATE", ColumnType::Date},      {"DATETIME", ColumnType::Date},
-      {"TEXT", ColumnType::Text},        {"VARCHAR", ColumnType::Text},    {"CHAR", ColumnType::Text},
-      {"LONGTEXT", ColumnType::Memo},    {"MEMO", ColumnType::Memo},       {"NOTE", ColumnType::Memo},
+      {"BOOLEAN", ColumnType::Boolean},   {"YESNO", ColumnType::Boolean},    {"BIT", ColumnType::Boolean},
+      {"BYTE", ColumnType::Byte},         {"SMALLINT", ColumnType::Integer}, {"SHORT", ColumnType::Integer},
+      {"INTEGER", ColumnType::Long},      {"LONG", ColumnType::Long},        {"INT", ColumnType::Long},
+      {"COUNTER", ColumnType::Long},      {"REAL", ColumnType::Single},      {"SINGLE", ColumnType::Single},
+      {"DOUBLE", ColumnType::Double},     {"FLOAT", ColumnType::Double},     {"NUMBER", ColumnType::Double},
+      {"DECIMAL2", ColumnType::Decimal2}, {"DATE", ColumnType::Date},        {"DATETIME", ColumnType::Date},
+      {"TEXT", ColumnType::Text},         {"VARCHAR", ColumnType::Text},     {"CHAR", ColumnType::Text},
+      {"LONGTEXT", ColumnType::Memo},     {"MEMO", ColumnType::Memo},        {"NOTE", ColumnType::Memo},
   };
   const qsizetype paren = declared.indexOf('(');
   const QByteArray name = declared.first(paren < 0 ? declared.size() : paren).toByteArray().trimmed().toUpper();

@@ -21,9 +21,10 @@ enum class ColumnType {
   Memo,      ///< LONGTEXT COLLATE NOCASE: text without limit; Value QString
 };
 
-/// A column as CREATE TABLE and ALTER TABLE ADD COLUMN take it, e.g. "[Goal] TEXT(20) COLLATE NOCASE". The one place where
-/// the declared types are written. `length` counts for Text only. Add constraints such as " NOT NULL" or " PRIMARY KEY"
-/// behind it. Whole-number columns round halves to even and refuse what does not fit; nothing needs a CHECK.
+/// A column as CREATE TABLE and ALTER TABLE ADD COLUMN take it, e.g. "[Goal] TEXT(20) COLLATE NOCASE". The one place
+/// where the declared types are written. `length` counts for Text only. Add constraints such as " NOT NULL" or "
+/// PRIMARY KEY" behind it. Whole-number columns round halves to even and refuse what does not fit; nothing needs a
+/// CHECK.
 ///
 /// Tables keep SQLite's rowid (never WITHOUT ROWID). Text columns stand in no index and no key: this program compares
 /// them without case for all letters, other tools for A to Z only.

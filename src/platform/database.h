@@ -16,9 +16,9 @@ class Recordset;
 
 /// How much work the store did, so that a test can prove that a keystroke reads no more than it shows.
 struct StoreCounts {
-  qint64 statements = 0;   ///< statements run (reading and writing)
-  qint64 rowsRead = 0;     ///< rows handed out by SELECTs
-  qint64 commits = 0;      ///< write transactions committed
+  qint64 statements = 0;  ///< statements run (reading and writing)
+  qint64 rowsRead = 0;    ///< rows handed out by SELECTs
+  qint64 commits = 0;     ///< write transactions committed
 };
 
 enum class RecordsetKind {
@@ -50,8 +50,7 @@ class Database {
   /// Runs a statement that changes data or structure; returns the number of rows changed.
   qint64 Execute(const QString &sql, const Params &params = {});
   /// Opens the rows of a SELECT. Dynaset editing needs a single table with a key.
-  Recordset OpenRecordset(const QString &sql, const Params &params = {},
-                          RecordsetKind kind = RecordsetKind::Snapshot);
+  Recordset OpenRecordset(const QString &sql, const Params &params = {}, RecordsetKind kind = RecordsetKind::Snapshot);
 
   bool HasTable(const QString &table) const;
   QStringList ColumnNames(const QString &table) const;

@@ -12,9 +12,12 @@ inline constexpr int overflow = 6;
 inline constexpr int outOfBounds = 9;
 inline constexpr int divisionByZero = 11;
 inline constexpr int typeMismatch = 13;
+inline constexpr int notEditing = 3020;
 inline constexpr int noCurrentRecord = 3021;
 inline constexpr int duplicateKey = 3022;
+inline constexpr int tableExists = 3010;
 inline constexpr int fileMissing = 3024;
+inline constexpr int fileExists = 3204;
 inline constexpr int invalidSql = 3075;
 inline constexpr int unknownTable = 3078;
 inline constexpr int unknownColumn = 3061;
@@ -22,7 +25,11 @@ inline constexpr int fileLocked = 3050;
 inline constexpr int cannotOpen = 3051;
 inline constexpr int readOnly = 3027;
 inline constexpr int fileDamaged = 3343;
+inline constexpr int diskFull = 3026;
 inline constexpr int relation = 3200;
+inline constexpr int textTooLong = 3163;
+inline constexpr int recordDeleted = 3167;
+inline constexpr int requiredValue = 3314;
 inline constexpr int other = 3146;
 }  // namespace error_number
 

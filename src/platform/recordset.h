@@ -49,9 +49,9 @@ class Recordset {
   void AddNew();
   void Edit();
   void SetField(const QString &name, const Value &value);
-  void Update();        ///< writes the row begun by AddNew or Edit, in one transaction
+  void Update();  ///< writes the row begun by AddNew or Edit, in one transaction
   void CancelUpdate();
-  void Delete();        ///< deletes the current row; the cursor stands between its neighbours until it moves
+  void Delete();  ///< deletes the current row; the cursor stands between its neighbours until it moves
 
  private:
   std::unique_ptr<Impl> impl_;

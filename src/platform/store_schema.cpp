@@ -1,0 +1,38 @@
+#include "platform/store_schema.h"
+
+#include "platform/prepared_statement.h"
+#include "platform/sql_functions.h"
+
+namespace trimlog {
+
+const StoredTable *StoreSchema::Find(const QString &schema, const QString &table) {
+  const QString key = schema + QLatin1Char('.') + table.toLower();
+  const auto found = tables_.find(key);
+  if (found != tables_.end()) return found->second.get();
+  std::unique_ptr<StoredTable> read = Read(schema, table);
+  if (read == nullptr) return nullptr;
+  return tables_.emplace(key, std::move(read)).first->second.get();
+}
+
+std::unique_ptr<StoredTable> StoreSchema::Read(const QString &schema, const QString &table) const {
+  FunctionFailure none;
+  const QString place = schema.isEmpty() ? QStringLiteral("main") : schema;
+  auto read = std::make_unique<StoredTable>();
+  PreparedStatement master(connection_,
+                           QStringLiteral("SELECT name, type FROM [%1].sqlite_schema WHERE type IN ('table', 'view') "
+                                          "AND name = ?1 COLLATE NOCASE")
+                               .arg(place));
+  master.Bind(1, table);
+  if (!master.Step(none)) return nullptr;
+  read->name = master.Stored(0).toString();
+  read->isView = master.Stored(1).toString() == QLatin1StringView("view");
+  PreparedStatement columns(connection_, QStringLiteral("SELECT name, type FROM pragma_table_info(?1, ?2)"));
+  columns.Bind(1, read->name);
+  columns.Bind(2, place);
+  while (columns.Step(none)) {
+    read->columns.push_back({columns.Stored(0).toString(), ParseDeclaredType(columns.Stored(1).toString().toUtf8())});
+  }
+  return read;
+}
+
+}  // namespace trimlog
