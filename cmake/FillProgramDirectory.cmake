@@ -7,5 +7,5 @@ endforeach()
 if(NOT EXISTS "${PROGRAM_DIR}/tlg.dat" AND NOT IS_SYMLINK "${PROGRAM_DIR}/tlg.dat")
   # Under another name first, so that an interrupted copy is never taken for a data file.
   file(COPY_FILE "${SHIPPED_DIR}/tlg.dat" "${PROGRAM_DIR}/tlg.dat.new")
-  file(RENAME "${PROGRAM_DIR}/tlg.dat.new" "${PROGRAM_DIR}/tlg.dat" NO_REPLACE)
+  file(RENAME "${PROGRAM_DIR}/tlg.dat.new" "${PROGRAM_DIR}/tlg.dat")
 endif()

@@ -83,13 +83,17 @@ void WriteUnitsAndMealTypes(Database &database) {
 }  // namespace
 
 FoodFacts::FoodFacts(const QString &directory) : rows_(directory + QStringLiteral("/foods.tsv")) {
-  const TsvTable glycemic(directory + QStringLiteral("/gi_values.tsv"));
-  for (qsizetype row = 0; row < glycemic.RowCount(); ++row) {
-    glycemic_.insert(glycemic.Text(row, QStringLiteral("USDANum")), glycemic.Text(row, QStringLiteral("GIValue")));
-  }
+  QSet<QString> keys;
   byDescription_.reserve(rows_.RowCount());
   for (qsizetype row = 0; row < rows_.RowCount(); ++row) {
     byDescription_.insert(rows_.Text(row, QStringLiteral("MealDesc")), row);
+    keys.insert(rows_.Text(row, QStringLiteral("USDANum")));
+  }
+  const TsvTable glycemic(directory + QStringLiteral("/gi_values.tsv"));
+  for (qsizetype row = 0; row < glycemic.RowCount(); ++row) {
+    const QString key = glycemic.Text(row, QStringLiteral("USDANum"));
+    if (!keys.contains(key)) throw Error(error_number::other, QStringLiteral("gi_values.tsv: no food ") + key);
+    glycemic_.insert(key, glycemic.Text(row, QStringLiteral("GIValue")));
   }
 }
 

@@ -259,7 +259,8 @@ QList<SchemaTable> WorkTables() {
 
 /// One row a person and day, with the day's sum over its eaten or burned entries. Written as the day's first entry plus
 /// a sum, not as GROUP BY: a grouped query inside a join is computed for all people and years first, this one only for
-/// the days asked for.
+/// the days asked for. The "+ 0" keeps SQLite from looking for the day's first entry along the record numbers, from the
+/// person's first day on, in place of the index by date.
 SchemaView CalorieSum(const QString &name, const QString &table, const QString &sum) {
   return {name,
           {QStringLiteral("PersonID"), QStringLiteral("ThisDate"), sum},
@@ -267,7 +268,7 @@ SchemaView CalorieSum(const QString &name, const QString &table, const QString &
                          "(SELECT Sum(entry.Calories) FROM %1 AS entry WHERE entry.PersonID = opening.PersonID "
                          "AND entry.IsPlanned = 0 AND entry.ThisDate = opening.ThisDate) AS %2 "
                          "FROM %1 AS opening WHERE opening.IsPlanned = 0 AND opening.RecordID = "
-                         "(SELECT Min(entry.RecordID) FROM %1 AS entry WHERE entry.PersonID = opening.PersonID "
+                         "(SELECT Min(entry.RecordID + 0) FROM %1 AS entry WHERE entry.PersonID = opening.PersonID "
                          "AND entry.IsPlanned = 0 AND entry.ThisDate = opening.ThisDate)")
               .arg(table, sum)};
 }
