@@ -1,13 +1,11 @@
 #include "platform/windows/qt_machine.h"
 
-#include <QAudioDevice>
 #include <QDesktopServices>
 #include <QFileInfo>
 #include <QGuiApplication>
-#include <QMediaDevices>
+#include <QLibrary>
 #include <QProcess>
 #include <QScreen>
-#include <QSoundEffect>
 #include <QWindow>
 
 #ifdef Q_OS_WIN
@@ -19,22 +17,6 @@
 
 namespace trimlog {
 
-/// Plays one wave file at a time, beside the event loop.
-class WavePlayer {
- public:
-  void Play(const QString &path) {
-    effect_.stop();
-    effect_.setSource(QUrl::fromLocalFile(path));
-    effect_.play();
-  }
-
- private:
-  QSoundEffect effect_;
-};
-
-QtMachine::QtMachine() = default;
-QtMachine::~QtMachine() = default;
-
 bool QtMachine::OpenInBrowser(const QString &url) { return QDesktopServices::openUrl(QUrl(url)); }
 
 bool QtMachine::Start(const QString &program, const QStringList &arguments) {
@@ -42,9 +24,11 @@ bool QtMachine::Start(const QString &program, const QStringList &arguments) {
 }
 
 void QtMachine::PlaySound(const QString &path) {
-  if (!QFileInfo(path).isFile() || QMediaDevices::defaultAudioOutput().isNull()) return;
-  if (!player_) player_ = std::make_unique<WavePlayer>();
-  player_->Play(QFileInfo(path).absoluteFilePath());
+  if (!QFileInfo(path).isFile()) return;
+  QLibrary audio(QCoreApplication::applicationDirPath() + QStringLiteral("/trimlog_sound"));
+  using Player = void (*)(const QString &);
+  const auto PlayWave = reinterpret_cast<Player>(audio.resolve("PlayWave"));
+  if (PlayWave) PlayWave(QFileInfo(path).absoluteFilePath());
 }
 
 double QtMachine::GetNumColors() const {
