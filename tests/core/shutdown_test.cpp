@@ -1,0 +1,203 @@
+#include <gtest/gtest.h>
+
+#include "core/conflict_checks.h"
+#include "core/data_access.h"
+#include "core/product.h"
+#include "core/start_bench.h"
+
+namespace trimlog {
+namespace {
+
+class Stop : public ::testing::Test {
+ protected:
+  Stop() {
+    bench.Prepare(QStringLiteral("INSERT INTO people ( PersonID, PersonName ) SELECT 4 AS Expr1, \"P\" AS Expr2;"));
+    EXPECT_EQ(bench.application.Main(), Application::Outcome::Running);
+    bench.calls.clear();
+    bench.session.settings.LastRecordTypeMeals = 2;
+    bench.session.Data().Execute(
+        QStringLiteral("DELETE weight_loss.* FROM weight_loss WHERE (weight_loss.PersonID) < 0;"));
+  }
+  int SampleWeights() const {
+    return GetDataValue(bench.session.Data(), QStringLiteral("Count(*) AS Rows"), QStringLiteral("weight_loss"),
+                        QStringLiteral("(weight_loss.PersonID) < 0"), QStringLiteral("Rows"))
+        .toInt();
+  }
+
+  StartBench bench;
+};
+
+TEST_F(Stop, StoresTheSessionAndRestoresTheSamples) {
+  EXPECT_TRUE(bench.application.QueryUnload());
+  EXPECT_EQ(bench.Setting(QStringLiteral("PersonID")), QStringLiteral("4"));
+  EXPECT_EQ(bench.Setting(QStringLiteral("LastRecordTypeMeals")), QStringLiteral("2"));
+  EXPECT_EQ(bench.Setting(QStringLiteral("Left")), QStringLiteral("100"));
+  EXPECT_EQ(bench.Setting(QStringLiteral("Width")), QStringLiteral("9600"));
+  EXPECT_EQ(bench.Setting(QStringLiteral("QDWidth")), QStringLiteral("none")) << "the Quick Journal is not open";
+  EXPECT_GT(SampleWeights(), 30);
+  const QStringList expected = {QStringLiteral("tools closed"), QStringLiteral("edit saved")};
+  EXPECT_EQ(bench.calls, expected);
+}
+
+TEST_F(Stop, TheQuickJournalsSizeIsKeptWhileItIsOpen) {
+  bench.session.QuickJournalOpen = true;
+  bench.session.quickJournalPlace = {1, 2, 8400, 2900};
+  EXPECT_TRUE(bench.application.QueryUnload());
+  EXPECT_EQ(bench.Setting(QStringLiteral("QDWidth")), QStringLiteral("8400"));
+  EXPECT_EQ(bench.Setting(QStringLiteral("QDHeight")), QStringLiteral("2900"));
+}
+
+TEST_F(Stop, ASampleIsNeverTheProfileOfTheNextRun) {
+  for (const char *person : {"", "-1", "-2", "-3", "-4"}) {
+    bench.session.LastRealPersonID = QLatin1String(person);
+    bench.Put(QStringLiteral("PersonID"), QStringLiteral("9"));
+    EXPECT_TRUE(bench.application.QueryUnload());
+    EXPECT_EQ(bench.Setting(QStringLiteral("PersonID")), QStringLiteral("9")) << person;
+  }
+  bench.session.CurrentPersonID = QStringLiteral("-2");
+  bench.session.LastRealPersonID = QStringLiteral("4");
+  EXPECT_TRUE(bench.application.QueryUnload());
+  EXPECT_EQ(bench.Setting(QStringLiteral("PersonID")), QStringLiteral("4"));
+}
+
+TEST_F(Stop, AfterARestoreNothingIsStoredAndNothingReset) {
+  bench.store->SaveSettingString(settingsRoot + QStringLiteral("\\PPC"), QStringLiteral("DaysHistory"),
+                                 QStringLiteral("7"));
+  bench.Put(QStringLiteral("PersonID"), QStringLiteral("9"));
+  bench.session.ReloadInProgress = true;
+  EXPECT_TRUE(bench.application.QueryUnload());
+  bench.session.database.reset();
+  bench.calls.clear();
+
+  EXPECT_EQ(bench.application.Main(), Application::Outcome::Running) << "the same process starts again";
+  EXPECT_TRUE(bench.session.ReloadInProgress);
+  bench.calls.clear();
+  EXPECT_TRUE(bench.application.QueryUnload());
+  EXPECT_EQ(bench.Setting(QStringLiteral("PersonID")), QStringLiteral("9"));
+  EXPECT_EQ(bench.Setting(QStringLiteral("Left")), QStringLiteral("none"));
+  EXPECT_EQ(bench.Setting(QStringLiteral("LastRecordTypeMeals")), QStringLiteral("-1"));
+  EXPECT_EQ(SampleWeights(), 0);
+  EXPECT_EQ(bench.calls, QStringList{QStringLiteral("tools closed")});
+}
+
+TEST_F(Stop, ARefusedEditKeepsTheProgramOpen) {
+  bench.editSaves = false;
+  EXPECT_FALSE(bench.application.QueryUnload());
+  EXPECT_EQ(bench.Setting(QStringLiteral("Left")), QStringLiteral("none"));
+  EXPECT_EQ(SampleWeights(), 0);
+}
+
+TEST_F(Stop, TheHandheldComesLast) {
+  bench.session.HandheldSupport = true;
+  EXPECT_TRUE(bench.application.QueryUnload());
+  EXPECT_EQ(bench.calls.last(), QStringLiteral("handheld 1"));
+  bench.store->SaveSettingString(settingsRoot + QStringLiteral("\\PPC"), QStringLiteral("ActiveSyncOnExit"),
+                                 QStringLiteral("0"));
+  EXPECT_TRUE(bench.application.QueryUnload());
+  EXPECT_EQ(bench.calls.last(), QStringLiteral("handheld 0"));
+}
+
+class Conflicts : public ::testing::Test {
+ protected:
+  void HaveDriver(const char *device, const char *provider, const char *version, const char *date) {
+    const QString key = QStringLiteral("System\\CurrentControlSet\\Services\\Class\\Display\\") + QLatin1String(device);
+    bench.system.values = {{key + QStringLiteral("|ProviderName"), QLatin1String(provider)},
+                           {key + QStringLiteral("|Ver"), QLatin1String(version)},
+                           {key + QStringLiteral("|DriverDate"), QLatin1String(date)}};
+  }
+  bool GoesOn() { return CheckForConflicts(bench.session, bench.system); }
+  QString Marker(int check) const { return bench.Setting(QStringLiteral("CheckForConflicts%1").arg(check)); }
+
+  StartBench bench;
+  const QString driverTitle = QStringLiteral("Possible Video Driver Problem");
+  const QString dogTitle = QStringLiteral("Internet Guard Dog Conflict");
+};
+
+TEST_F(Conflicts, WithoutAProblemBothAreSettledForGood) {
+  EXPECT_TRUE(GoesOn());
+  EXPECT_EQ(Marker(1), QStringLiteral("0"));
+  EXPECT_EQ(Marker(2), QStringLiteral("0"));
+  bench.machine.windows = {QStringLiteral("Internet Guard Dog")};
+  EXPECT_TRUE(GoesOn()) << "settled is settled";
+}
+
+TEST_F(Conflicts, OnlyTheDriverInQuestionCounts) {
+  struct Case {
+    int system;
+    const char *device;
+    const char *provider;
+    const char *version;
+    const char *date;
+    bool problem;
+  };
+  const Case cases[] = {
+      {4, "0000", "NVIDIA", "4.0", "4-29-1999", true},  {3, "0002", "nVidia", "4.0", "1-1-1999", true},
+      {5, "0001", "nvidia", "4.0", "5/31/1999", true},  {4, "0003", "NVIDIA", "4.0", "4-29-1999", false},
+      {4, "0000", "NVIDIA", "4.1", "4-29-1999", false}, {4, "0000", "ATI", "4.0", "4-29-1999", false},
+      {4, "0000", "NVIDIA", "4.0", "6-1-1999", false},  {4, "0000", "NVIDIA", "4.0", "12-31-1998", false},
+      {4, "0000", "NVIDIA", "4.0", "spring", false},    {34, "0000", "NVIDIA", "4.0", "4-29-1999", false},
+  };
+  for (const Case &c : cases) {
+    bench.store->DeleteKey(settingsRoot);
+    bench.system.version.code = c.system;
+    HaveDriver(c.device, c.provider, c.version, c.date);
+    if (c.problem) bench.boxes.Expect(driverTitle, QString(), BoxButton::Yes);
+    EXPECT_EQ(GoesOn(), !c.problem) << c.device << ' ' << c.provider << ' ' << c.date;
+  }
+}
+
+TEST_F(Conflicts, NoTellsTheAddressAndNeverAsksAgain) {
+  bench.system.version.code = 4;
+  HaveDriver("0000", "NVIDIA", "4.0", "4-29-1999");
+  bench.boxes.Expect(driverTitle,
+                     QStringLiteral("It appears that you have an \"nVidia TNT\" compatible video card in your computer "
+                                    "with older drivers.  This is a "
+                                    "specific scenerio, which we have found to cause problems with Trimlog Pro.\n\nTo "
+                                    "resolve this problem just go to the "
+                                    "\"Support\" area of our web site where we have provided a way for you to update "
+                                    "your video drivers.  We have made "
+                                    "every attempt to make this as quick and easy as possible.\n\nWould you like to go "
+                                    "to there now to learn more and "
+                                    "update your drivers?"),
+                     BoxButton::No);
+  bench.boxes.Expect(
+      driverTitle,
+      QStringLiteral(
+          "Please write down the following address to our web site, where you can go if you happen to experience a "
+          "problem:\n\n%1\n\nYou will not receive this message again.  Thank you and remember -- if you have any "
+          "questions or "
+          "problems, feel free to contact us at %2 and we will be happy to help.")
+          .arg(product::videoDriverPage, product::supportMail));
+  EXPECT_TRUE(GoesOn());
+  EXPECT_EQ(bench.boxes.Shown()[0].icon, BoxIcon::Warning);
+  EXPECT_EQ(bench.boxes.Shown()[1].icon, BoxIcon::Information);
+  EXPECT_EQ(Marker(1), QStringLiteral("0"));
+  EXPECT_TRUE(GoesOn());
+}
+
+TEST_F(Conflicts, YesOpensThePageEndsAndAsksAgain) {
+  bench.machine.windows = {QStringLiteral("Internet Guard Dog 2"), QStringLiteral("Internet Guard Dog")};
+  const QString question = QStringLiteral(
+      "It appears that McAfee Internet Guard Dog is currently running.  This specific application has been known "
+      "interfere "
+      "with Trimlog Pro, causing problems when trying to close the program.\n\nWe suggest that you go to the Trimlog "
+      "Pro web "
+      "site now to learn more about this known problem.  Would you like to do this now?");
+  bench.boxes.Expect(dogTitle, question, BoxButton::Yes);
+  EXPECT_EQ(bench.application.Main(), Application::Outcome::Ended);
+  EXPECT_EQ(bench.machine.opened, QStringList{product::guardDogPage});
+  EXPECT_EQ(Marker(2), QStringLiteral("none"));
+  EXPECT_FALSE(bench.session.database);
+
+  bench.machine.browserWorks = false;
+  bench.boxes.Expect(dogTitle, question, BoxButton::Yes);
+  bench.boxes.Expect(QStringLiteral("Problem Opening Web Browser"),
+                     QStringLiteral("There was a problem opening your default web browser.  Please open your web "
+                                    "browser and go to the following web site "
+                                    "now, where you can learn more about the Internet Guard Dog conflict:\n\n") +
+                         product::guardDogPage);
+  EXPECT_EQ(bench.application.Main(), Application::Outcome::Ended);
+}
+
+}  // namespace
+}  // namespace trimlog

@@ -1,0 +1,361 @@
+#include "core/startup.h"
+
+#include <SQLiteCpp/Database.h>
+#include <gtest/gtest.h>
+#include <signal.h>
+#include <sys/wait.h>
+#include <unistd.h>
+
+#include "core/data_access.h"
+#include "core/start_bench.h"
+#include "platform/error.h"
+
+namespace trimlog {
+namespace {
+
+using Outcome = Application::Outcome;
+
+/// A process of its own that holds the data file as a running program does.
+class OtherProgram {
+ public:
+  explicit OtherProgram(const QString &path) {
+    int ready[2];
+    if (pipe(ready) != 0) return;
+    child_ = fork();
+    if (child_ == 0) {
+      const auto database = Database::Open(path);
+      if (write(ready[1], "y", 1) == 1) pause();
+      _exit(0);
+    }
+    char answer = 0;
+    EXPECT_EQ(read(ready[0], &answer, 1), 1);
+    close(ready[0]);
+    close(ready[1]);
+  }
+  ~OtherProgram() {
+    kill(child_, SIGKILL);
+    waitpid(child_, nullptr, 0);
+  }
+
+ private:
+  pid_t child_ = -1;
+};
+
+class Start : public ::testing::Test {
+ protected:
+  QByteArray Bytes() const {
+    QFile file(bench.DataPath());
+    return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray();
+  }
+  void Write(const QByteArray &bytes) const {
+    QFile file(bench.DataPath());
+    ASSERT_TRUE(file.open(QIODevice::WriteOnly | QIODevice::Truncate));
+    file.write(bytes);
+  }
+  QString Quoted() const { return u'"' + bench.DataPath() + u'"'; }
+
+  /// Starts on a file that cannot be used, and looks at everything that must follow.
+  void ExpectRefusal(int number, const QString &title, const QString &text) {
+    const QByteArray before = Bytes();
+    const QStringList filesBefore = QDir(bench.directory.path()).entryList(QDir::AllEntries | QDir::NoDotAndDotDot);
+    bench.boxes.Expect(title, text);
+    EXPECT_EQ(bench.application.Main(), Outcome::Ended);
+
+    ASSERT_EQ(bench.boxes.Shown().size(), 1U);
+    const Box &box = bench.boxes.Shown().front();
+    EXPECT_EQ(box.icon, BoxIcon::Critical);
+    EXPECT_EQ(box.buttons, QList<BoxButton>{BoxButton::Ok});
+    EXPECT_EQ(bench.calls, QStringList{QStringLiteral("splash closed")});
+    EXPECT_TRUE(bench.Log().startsWith(
+        QStringLiteral("2026-03-01 12:00:00 - basMain, Main, Error opening database.  ErrNum=%1 ErrDesc=").arg(number)))
+        << bench.Log().toStdString();
+    EXPECT_EQ(Bytes(), before);
+    QStringList files = QDir(bench.directory.path()).entryList(QDir::AllEntries | QDir::NoDotAndDotDot);
+    files.removeAll(QStringLiteral("errorlog.txt"));
+    EXPECT_EQ(files, filesBefore) << "no journal, no new file is left behind";
+  }
+  void ExpectMissing() {
+    ExpectRefusal(
+        3024, QStringLiteral("Database File Missing"),
+        QStringLiteral("The database (%1) could not be opened because it was not found in the program "
+                       "directory.\n\nOne possible solution would be to re-install Trimlog Pro.  If that does "
+                       "not work, please contact Corvane Software to resolve the problem.")
+            .arg(Quoted()));
+  }
+  void ExpectCorrupt() {
+    ExpectRefusal(
+        3343, QStringLiteral("Database File Corrupt"),
+        QStringLiteral("The database (%1) could not be opened because it is corrupt.\n\nThis can happen if your "
+                       "computer crashes while the program is open, and most of the time the file can be "
+                       "repaired completely.  Please contact Corvane Software to resolve the problem.")
+            .arg(Quoted()));
+  }
+  void ExpectOther(int number) {
+    ExpectRefusal(
+        number, QStringLiteral("Could Not Open Database"),
+        QStringLiteral("There was an error opening the database.  Please contact Corvane Software at "
+                       "support@corvane.example and give them the following details:\n\nError Number: %1\nError "
+                       "Description: ")
+            .arg(number));
+    const Box &box = bench.boxes.Shown().front();
+    EXPECT_FALSE(box.text.section(QStringLiteral("Description: "), 1).isEmpty());
+  }
+
+  StartBench bench;
+};
+
+TEST_F(Start, MissingFile) {
+  QFile::remove(bench.DataPath());
+  ExpectMissing();
+}
+
+TEST_F(Start, DirectoryInstead) {
+  QFile::remove(bench.DataPath());
+  QDir().mkdir(bench.DataPath());
+  ExpectOther(error_number::cannotOpen);
+}
+
+TEST_F(Start, ZeroLengthFile) {
+  Write({});
+  ExpectCorrupt();
+}
+
+TEST_F(Start, FileOfAnotherKind) {
+  Write(QByteArray("This is a letter to my aunt.\n").repeated(500));
+  ExpectCorrupt();
+}
+
+TEST_F(Start, DamagedHeader) {
+  QByteArray bytes = Bytes();
+  bytes.replace(0, 16, QByteArray(16, '\x5a'));
+  Write(bytes);
+  ExpectCorrupt();
+}
+
+TEST_F(Start, TruncatedFile) {
+  for (const qsizetype kept : {qsizetype{60}, qsizetype{5000}, Bytes().size() / 2, Bytes().size() - 1}) {
+    SCOPED_TRACE(kept);
+    StartBench fresh;
+    QFile::remove(bench.DataPath());
+    QFile::remove(bench.directory.filePath(QStringLiteral("errorlog.txt")));
+    QFile::copy(fresh.DataPath(), bench.DataPath());
+    ASSERT_TRUE(QFile::resize(bench.DataPath(), kept));
+    const QByteArray before = Bytes();
+    bench.boxes.Expect(QStringLiteral("Database File Corrupt"), QStringLiteral("because it is corrupt."));
+    EXPECT_EQ(bench.application.Main(), Outcome::Ended);
+    EXPECT_EQ(Bytes(), before);
+  }
+}
+
+TEST_F(Start, SqliteFileOfAnotherProgram) {
+  // What `CREATE TABLE t(a)` makes in any other program: a sound file without this program's mark.
+  QFile::remove(bench.DataPath());
+  {
+    SQLite::Database foreign(bench.DataPath().toStdString(), SQLite::OPEN_READWRITE | SQLite::OPEN_CREATE);
+    foreign.exec("CREATE TABLE people (PersonID INTEGER); INSERT INTO people VALUES (1);");
+  }
+  ExpectCorrupt();
+}
+
+TEST_F(Start, ReadOnlyFile) {
+  const QFile::Permissions all =
+      QFile::ReadOwner | QFile::WriteOwner | QFile::ExeOwner | QFile::ReadOther | QFile::WriteOther | QFile::ExeOther;
+  ASSERT_TRUE(QFile::setPermissions(bench.directory.path(), all));
+  ASSERT_TRUE(QFile::setPermissions(bench.DataPath(), QFile::ReadOwner | QFile::ReadOther));
+  // Permissions do not stop the superuser; an ordinary account, in a process of its own, meets them.
+  const pid_t child = fork();
+  if (child == 0) {
+    constexpr uid_t nobody = 65534;
+    if (geteuid() == 0) EXPECT_TRUE(setgid(nobody) == 0 && setuid(nobody) == 0);
+    ExpectOther(error_number::readOnly);
+    _exit(HasFailure() ? 1 : 0);
+  }
+  int status = -1;
+  EXPECT_EQ(waitpid(child, &status, 0), child);
+  EXPECT_EQ(status, 0);
+}
+
+TEST_F(Start, FileHeldByAnotherProgram) {
+  const OtherProgram other(bench.DataPath());
+  ExpectOther(error_number::fileLocked);
+}
+
+TEST_F(Start, TheStepsComeInOrder) {
+  bench.Put(QStringLiteral("Serava"), QStringLiteral("1"));
+  bench.Put(QStringLiteral("WindowState"), QStringLiteral("2"));
+  bench.store->SaveSettingString(settingsRoot + QStringLiteral("\\PPC"), QStringLiteral("DaysHistory"),
+                                 QStringLiteral("7"));
+  bench.session.AboutMode = true;
+  EXPECT_EQ(bench.application.Main(), Outcome::Running);
+  const QStringList expected = {QStringLiteral("handheld 0"), QStringLiteral("upgrade"), QStringLiteral("serava"),
+                                QStringLiteral("rewards"),    QStringLiteral("frame"),   QStringLiteral("events"),
+                                QStringLiteral("maximised")};
+  EXPECT_EQ(bench.calls, expected);
+  EXPECT_FALSE(bench.session.AboutMode);
+  EXPECT_EQ(bench.session.UomDisplay, QStringLiteral("Lbs"));
+  EXPECT_FALSE(bench.session.nutrients.NutrientDefs[0].fieldName.isEmpty());
+  EXPECT_EQ(bench.Setting(QStringLiteral("ShowSplash")), QStringLiteral("-1")) << "the first start writes the defaults";
+  EXPECT_EQ(bench.Log(), QString());
+}
+
+TEST_F(Start, ACopyThatRunsAlreadyIsRaisedAndNothingElseHappens) {
+  const QByteArray before = Bytes();
+  bench.doors.ActivatePrevInstance = [] { return true; };
+  EXPECT_EQ(bench.application.Main(), Outcome::Ended);
+  EXPECT_FALSE(bench.session.database);
+  EXPECT_EQ(bench.Setting(QStringLiteral("CheckForConflicts1")), QStringLiteral("none"));
+  EXPECT_EQ(Bytes(), before);
+  EXPECT_TRUE(bench.calls.isEmpty());
+}
+
+TEST_F(Start, ProfileThatIsChosen) {
+  struct Case {
+    const char *saved;
+    const char *people;  // PersonIDs above 0
+    const char *chosen;
+  };
+  const Case cases[] = {{"3", "2,3,11", "3"}, {"7", "3,2,11", "2"}, {"-1", "2,3", "2"}, {"0", "4", "4"},
+                        {"", "", "1"},        {"5", "", "1"},       {"-2", "", "1"},    {"03", "2,3", "2"}};
+  for (const Case &c : cases) {
+    SCOPED_TRACE(c.saved);
+    StartBench fresh;
+    for (const QString &person : QString::fromLatin1(c.people).split(u',', Qt::SkipEmptyParts)) {
+      fresh.Prepare(QStringLiteral("INSERT INTO people ( PersonID, PersonName ) SELECT %1 AS Expr1, \"P\" AS Expr2;")
+                        .arg(person));
+    }
+    fresh.Put(QStringLiteral("PersonID"), QLatin1String(c.saved));
+    EXPECT_EQ(fresh.application.Main(), Outcome::Running);
+    EXPECT_EQ(fresh.session.CurrentPersonID.toStdString(), c.chosen);
+    EXPECT_EQ(fresh.session.LastRealPersonID.toStdString(), c.chosen);
+  }
+}
+
+TEST_F(Start, ColourAndTargetsOfTheProfile) {
+  struct Case {
+    const char *backColor;
+    const char *target;
+    double screenColours;
+    quint32 expectedColour;
+    int expectedTarget;
+  };
+  for (const Case &c : {Case{"Null", "Null", 16777216, 0xFFE0C0, 30}, Case{"Null", "0", 256, 0xC0FFFF, 0},
+                        Case{"Null", "101", 257, 0xFFE0C0, 101}, Case{"65280", "30", 256, 65280, 30}}) {
+    StartBench fresh;
+    fresh.machine.colors = c.screenColours;
+    fresh.Prepare(QStringLiteral("INSERT INTO people ( PersonID, PersonName ) SELECT 1 AS Expr1, \"P\" AS Expr2;"));
+    fresh.Prepare(
+        QStringLiteral("UPDATE people SET people.BackColor = %1, people.NutTargetID = %2 WHERE people.PersonID=1;")
+            .arg(QLatin1String(c.backColor), QLatin1String(c.target)));
+    EXPECT_EQ(fresh.application.Main(), Outcome::Running);
+    EXPECT_EQ(fresh.session.BackColor, c.expectedColour);
+    EXPECT_EQ(fresh.session.NutTargetID, c.expectedTarget);
+  }
+}
+
+TEST_F(Start, TheDateTableHoldsTodayAlone) {
+  bench.Prepare(QStringLiteral("DROP TABLE temp_alldates;"));
+  for (int start = 0; start < 2; ++start) {
+    EXPECT_EQ(bench.application.Main(), Outcome::Running);
+    const auto value = [this](const char *field) {
+      return GetDataValue(bench.session.Data(), QLatin1String(field), QStringLiteral("temp_alldates")).toStdString();
+    };
+    EXPECT_EQ(value("ThisDate"), "2026-03-01");
+    EXPECT_EQ(value("PersonID"), "1");
+    EXPECT_EQ(value("ThisIndex"), "1");
+    EXPECT_EQ(GetDataValue(bench.session.Data(), QStringLiteral("Count(*) AS Rows"), QStringLiteral("temp_alldates"),
+                           {}, QStringLiteral("Rows")),
+              QStringLiteral("1"));
+    bench.session.Data().Execute(QStringLiteral("UPDATE temp_alldates SET temp_alldates.ThisDate = #1/1/1999#;"));
+  }
+}
+
+TEST_F(Start, TheDecimalSignOfTheLocale) {
+  for (const auto &[locale, comma] : {std::pair{QLocale(QLocale::German, QLocale::Germany), true},
+                                      {QLocale(QLocale::German, QLocale::Switzerland), false},
+                                      {QLocale(QLocale::French, QLocale::France), true}}) {
+    bench.session.locale = locale;
+    EXPECT_EQ(bench.application.Main(), Outcome::Running);
+    EXPECT_EQ(bench.session.DecimalComma, comma) << locale.name().toStdString();
+  }
+}
+
+TEST_F(Start, AFailureAfterTheOpenIsLoggedWithoutABox) {
+  bench.Prepare(QStringLiteral("DROP TABLE selected_nutrients;"));
+  EXPECT_EQ(bench.application.Main(), Outcome::Ended) << "there is no window";
+  EXPECT_EQ(bench.calls, QStringList{QStringLiteral("upgrade")}) << "what stands behind the failing step is left out";
+  EXPECT_TRUE(bench.Log().startsWith(QLatin1String("2026-03-01 12:00:00 - basMain, Main, Error 3078 in basMain.Main")))
+      << bench.Log().toStdString();
+}
+
+TEST_F(Start, AFailureBehindTheFrameLeavesItStanding) {
+  bench.doors.LetEventsRun = [] { throw Error(error_number::other, QStringLiteral("a late fault")); };
+  EXPECT_EQ(bench.application.Main(), Outcome::Running);
+  EXPECT_TRUE(bench.Log().contains(QLatin1String("a late fault")));
+}
+
+TEST_F(Start, AFrameThatCannotRunEndsTheProgram) {
+  bench.frameLoads = false;
+  EXPECT_EQ(bench.application.Main(), Outcome::Ended);
+  EXPECT_FALSE(bench.calls.contains(QStringLiteral("events")));
+}
+
+const QString genderTitle = QStringLiteral("Gender and Birth Date Required");
+const QString genderText = QStringLiteral(
+    "Some of the new features require that you have entered your Gender and Birth Date into your Profile setup.  Would "
+    "you "
+    "like to do this now?");
+const QString mealTypesTitle = QStringLiteral("New Meal Types Added");
+const QString backupTitle = QStringLiteral("Important Notice About Backup and Restore");
+
+TEST_F(Start, NoticesAfterAnUpgrade) {
+  for (const char *version : {"", "2.7", "2.75", "3"}) {
+    bench.oldVersion = QLatin1String(version);
+    EXPECT_EQ(bench.application.Main(), Outcome::Running);
+  }
+  EXPECT_TRUE(bench.boxes.Shown().empty());
+
+  bench.oldVersion = QStringLiteral("2.5");
+  bench.boxes.Expect(mealTypesTitle, QStringLiteral("This latest version of Trimlog Pro has added new Meal Types for "
+                                                    "your Journal.  You now have the following Meal "
+                                                    "Types:\n\nBreakfast, Morning Snack, Lunch, Afternoon Snack, "
+                                                    "Dinner, Dessert, Late Snack, Drink, Supplement\n\nSince "
+                                                    "the Meal Type of 'Snack' no longer exists, the program has "
+                                                    "updated your old 'Snack' meal entries to 'Afternoon "
+                                                    "Snack'.  If you need to, you can easily change your old meal "
+                                                    "entries to something more appropriate, such as Morning "
+                                                    "Snack, Dessert, or Late Snack."));
+  bench.boxes.Expect(
+      backupTitle,
+      QStringLiteral(
+          "The Backup and Restore features have been completely revamped in this update.  Your backups will now be "
+          "compressed "
+          "so that they take less space and can fit onto a single floppy diskette.  This is a dramatic change to the "
+          "backup "
+          "process, however, and your previous backups are no longer compatible with this version of the "
+          "program.\n\nIf you "
+          "have any old backups, it is highly recommended that you discard them and do another backup soon."));
+  EXPECT_EQ(bench.application.Main(), Outcome::Running);
+}
+
+TEST_F(Start, AnOldFileAsksForGenderAndBirthDate) {
+  bench.oldVersion = QStringLiteral("2.4");
+  bench.boxes.Expect(genderTitle, genderText, BoxButton::Yes);
+  bench.boxes.Expect(mealTypesTitle, QString());
+  bench.boxes.Expect(backupTitle, QString());
+  EXPECT_EQ(bench.application.Main(), Outcome::Running);
+  EXPECT_EQ(bench.calls.last(), QStringLiteral("setup"));
+  bench.calls.clear();
+
+  bench.boxes.Expect(genderTitle, genderText, BoxButton::No);
+  bench.boxes.Expect(
+      QStringLiteral("Entering Your Gender and Birth Date"),
+      QStringLiteral("When you're ready to enter your Birth Date and Gender, just click the <Setup> button "
+                     "and edit the profiles list."));
+  bench.boxes.Expect(mealTypesTitle, QString());
+  bench.boxes.Expect(backupTitle, QString());
+  EXPECT_EQ(bench.application.Main(), Outcome::Running);
+  EXPECT_FALSE(bench.calls.contains(QStringLiteral("setup")));
+}
+
+}  // namespace
+}  // namespace trimlog
