@@ -69,7 +69,7 @@ GridColumns ProfileColumns(const Session &session) {
       {.name = QStringLiteral("PersonName"),
        .caption = QStringLiteral("Name"),
        .field = QStringLiteral("PersonName"),
-       .width = 22,
+       .width = 34,
        .editable = true,
        .maxLength = longestName,
        .validate = RefusedName},
@@ -103,7 +103,7 @@ GridColumns ProfileColourColumns() {
   return {{.name = QStringLiteral("PersonName"),
            .caption = QStringLiteral("Name"),
            .field = QStringLiteral("PersonName"),
-           .width = 30},
+           .width = 40},
           {.name = QStringLiteral("BackColor"), .field = QStringLiteral("BackColor"), .visible = false}};
 }
 

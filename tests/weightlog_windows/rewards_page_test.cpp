@@ -110,6 +110,27 @@ TEST_F(RewardsTabTest, ABadAmountKeepsTheWindowAndStoresNothing) {
   EXPECT_EQ(Reward("RewardType"), "0");
 }
 
+TEST_F(RewardsTabTest, DeletingTheLoadedProfileShowsTheNextOnesRule) {
+  session.AddProfile(2, QStringLiteral("Ann"));
+  session.Data().Execute(
+      QStringLiteral("INSERT INTO rewards ( PersonID, RewardType, RewardWeight, RewardMessage, RewardSound ) VALUES ( "
+                     "2, 1, 140, \"Well done, Ann\", \"\" );"));
+  navigator.LoadData = [this](const QString &personID) {
+    session->CurrentPersonID = personID;
+    LoadRewardSettings(*session);
+  };
+  Open();
+  window->ShowTab(SetupTab::Profiles);
+  session.boxes.Expect(QStringLiteral("Warning: Delete Profile?"), QStringLiteral("this profile"), BoxButton::Yes);
+  Press("cmdDeleteProfile");
+  EXPECT_EQ(Text("txtRewardMessage"), "Well done, Ann");
+  EXPECT_EQ(The<QGroupBox>("fraRewards").title().toStdString(), "Reward Settings for: Ann");
+  Press("cmdOK");
+  EXPECT_EQ(session.ValueOf(QStringLiteral("RewardWeight"), QStringLiteral("rewards"), QStringLiteral("PersonID=2"))
+                .toStdString(),
+            "140");
+}
+
 TEST_F(RewardsTabTest, BrowseTakesAFileAndCancelledBrowsingKeepsTheOldOne) {
   Open();
   const std::string before = Text("txtRewardSound");

@@ -52,6 +52,7 @@ QLineEdit *frmEditPassword::AddField(QFormLayout *fields, const QString &name, c
   field->setAccessibleName(spoken);
   field->setEchoMode(QLineEdit::Password);
   field->setMaxLength(passwordLength);
+  field->setMinimumWidth(field->fontMetrics().averageCharWidth() * (passwordLength + 2));
   fields->addRow(label, field);
   return field;
 }

@@ -18,32 +18,21 @@
 
 namespace trimlog {
 
-namespace {
-
-QGroupBox *NamedGroup(QString title, QWidget *parent) {
-  return new QGroupBox(title.replace(QLatin1Char('&'), QStringLiteral("&&")), parent);
-}
-
-}  // namespace
-
 RewardsPage::RewardsPage(Session &session, QWidget *parent) : SetupPage(parent), session_(session) {
-  const QString personName = RewardProfileName(session);
   auto *layout = new QVBoxLayout(this);
-  layout->addWidget(MakeRuleGroup(personName));
+  layout->addWidget(MakeRuleGroup());
   layout->addWidget(MakeNoticeGroup());
-  AddNote(layout, QStringLiteral("pnlRewardNote"),
-          QStringLiteral("Note: This setting only affects rewards for ") + personName +
-              QStringLiteral(".  To change rewards for someone else, load their profile from the Profiles menu and "
-                             "return to this window."));
+  pnlRewardNote = AddNote(layout, QStringLiteral("pnlRewardNote"), {});
   layout->addStretch();
+  connect(&session.changes, &DataChanges::ProfilesChanged, this, &RewardsPage::OnProfiles);
 }
 
-QWidget *RewardsPage::MakeRuleGroup(const QString &personName) {
-  QGroupBox *group = NamedGroup(QStringLiteral("Reward Settings for: ") + personName, this);
-  group->setObjectName(QStringLiteral("fraRewards"));
-  auto *grid = new QGridLayout(group);
+QWidget *RewardsPage::MakeRuleGroup() {
+  fraRewards = new QGroupBox(this);
+  fraRewards->setObjectName(QStringLiteral("fraRewards"));
+  auto *grid = new QGridLayout(fraRewards);
   options_ = new QButtonGroup(this);
-  auto *never = new QRadioButton(QStringLiteral("Ne&ver"), group);
+  auto *never = new QRadioButton(QStringLiteral("Ne&ver"), fraRewards);
   never->setObjectName(QStringLiteral("optRewardNone"));
   options_->addButton(never, static_cast<int>(RewardType::Never));
   grid->addWidget(never, 0, 0);
@@ -55,7 +44,7 @@ QWidget *RewardsPage::MakeRuleGroup(const QString &personName) {
                       QStringLiteral("When I Reach the &Following Weight:"), QStringLiteral("Weight to reach"));
   grid->setColumnStretch(3, 1);
   connect(options_, &QButtonGroup::idClicked, this, [this](int type) { OnChosen(static_cast<RewardType>(type)); });
-  return group;
+  return fraRewards;
 }
 
 RewardsPage::AmountRow RewardsPage::AddAmount(QGridLayout *grid, RewardType type, const QString &kind,
@@ -130,7 +119,29 @@ void RewardsPage::Show(const RewardForm &form) {
   UpdateFields();
 }
 
-void RewardsPage::Load(const Settings &) { Show(ReadRewardForm(session_)); }
+void RewardsPage::Load(const Settings &) {
+  personID_ = session_.CurrentPersonID;
+  ShowProfile();
+  Show(ReadRewardForm(session_));
+}
+
+void RewardsPage::ShowProfile() {
+  const QString personName = RewardProfileName(session_);
+  QString title = QStringLiteral("Reward Settings for: ") + personName;
+  fraRewards->setTitle(title.replace(QLatin1Char('&'), QStringLiteral("&&")));
+  pnlRewardNote->setText(QStringLiteral("Note: This setting only affects rewards for ") + personName +
+                         QStringLiteral(".  To change rewards for someone else, load their profile from the Profiles "
+                                        "menu and return to this window."));
+}
+
+// Deleting the loaded profile loads another one under the open window: its rule must not take over what stands here.
+void RewardsPage::OnProfiles() {
+  if (session_.CurrentPersonID == personID_) {
+    ShowProfile();
+  } else {
+    Load(session_.settings);
+  }
+}
 
 void RewardsPage::UpdateFields() {
   for (RewardType type : {RewardType::Daily, RewardType::Weekly, RewardType::PersonalWeight}) {

@@ -29,7 +29,7 @@ class RewardsPage : public SetupPage {
     NumberField *field = nullptr;
     QLabel *unit = nullptr;
   };
-  QWidget *MakeRuleGroup(const QString &personName);
+  QWidget *MakeRuleGroup();
   QWidget *MakeNoticeGroup();
   AmountRow AddAmount(QGridLayout *grid, RewardType type, const QString &kind, const QString &caption,
                       const QString &spoken);
@@ -37,13 +37,18 @@ class RewardsPage : public SetupPage {
   RewardType ChosenType() const;
   RewardForm Form() const;
   void Show(const RewardForm &form);
+  void ShowProfile();
+  void OnProfiles();
   void OnChosen(RewardType type);
   void OnBrowse();
   void OnTest();
   void UpdateFields();
 
   Session &session_;
-  int uomID_ = 0;  ///< the unit system shown; 0 before the first
+  QString personID_;  ///< whose rule is shown
+  int uomID_ = 0;     ///< the unit system shown; 0 before the first
+  QGroupBox *fraRewards = nullptr;
+  QLabel *pnlRewardNote = nullptr;
   QButtonGroup *options_ = nullptr;
   AmountRow daily_;
   AmountRow weekly_;
