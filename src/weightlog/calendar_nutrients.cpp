@@ -83,7 +83,7 @@ std::map<QDate, QString> NetCaloriesTexts(const Session &session, const QDate &f
   for (const NetCaloriesDay &day : ReadNetCalories(session, first, last)) {
     if (day.net) {
       texts[day.date] =
-          Format(RoundHalfAway(*day.net, 6), QStringLiteral("General Number"), session.locale) + QStringLiteral(" Cal");
+          Format(RoundHalfAway(*day.net, 2), QStringLiteral("General Number"), session.locale) + QStringLiteral(" Cal");
     }
   }
   return texts;

@@ -9,7 +9,7 @@ namespace trimlog {
 
 namespace {
 
-constexpr int pad = 3;
+constexpr int pad = 5;
 constexpr double smallShare = 0.85;
 constexpr double weightShare = 1.1;
 constexpr double largestGrowth = 1.7;

@@ -64,7 +64,7 @@ QToolButton *frmData::MakeButton(const char *name, const char *picture, const QS
 }
 
 QWidget *frmData::MakeHeader() {
-  lblMonth = new QLabel(this);
+  lblMonth = new QWidget(this);
   lblMonth->setObjectName(QStringLiteral("lblMonth"));
   cmdPrevMonth =
       MakeButton("cmdPrevMonth", "previous", {}, tr("Previous month (Page Up)"), &frmData::GotoPreviousMonth);

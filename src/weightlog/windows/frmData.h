@@ -66,7 +66,7 @@ class frmData : public ContentWindow {
   Session &session_;
   const Navigator &navigator_;
   CalendarModel model_;
-  QLabel *lblMonth = nullptr;
+  QWidget *lblMonth = nullptr;
   FitLabel *txtMonth = nullptr;
   QToolButton *cmdPrevMonth = nullptr;
   QToolButton *cmdToday = nullptr;

@@ -66,6 +66,7 @@ bool WeightEntry::TryLeave() {
     Refuse(field);
     return false;
   }
+  field->setText(model_.EntryText());
   Q_EMIT Saved();
   return true;
 }
@@ -74,12 +75,11 @@ void WeightEntry::Refuse(QLineEdit *field) {
   refused_ = true;
   field->setFocus(Qt::OtherFocusReason);
   field->selectAll();
-  // A click elsewhere gives its widget the focus after this: take it back once the click is through.
+  // A click elsewhere takes the focus and the selection away after this: get them back once the click is through.
   QMetaObject::invokeMethod(
       this,
       [this, field] {
         refused_ = false;
-        if (field->hasFocus()) return;
         field->setFocus(Qt::OtherFocusReason);
         field->selectAll();
       },

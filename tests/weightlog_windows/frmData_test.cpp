@@ -1,0 +1,363 @@
+#include "weightlog/windows/frmData.h"
+
+#include <gtest/gtest.h>
+
+#include <QCheckBox>
+#include <QComboBox>
+#include <QLabel>
+#include <QLineEdit>
+#include <QTest>
+#include <QToolButton>
+
+#include "platform/recordset.h"
+#include "platform/text_format.h"
+#include "support/test_session.h"
+#include "weightlog/weight_log.h"
+#include "weightlog/windows/frmReward.h"
+
+namespace trimlog {
+namespace {
+
+/// The calendar in a window of its own, in March 2026: the 1st is cell 1, and today.
+class Calendar {
+ public:
+  explicit Calendar(const QLocale &locale = QLocale(QLocale::English, QLocale::UnitedStates)) : session(locale) {
+    session->rewards.type = RewardType::Never;
+    session->DecimalComma = locale.decimalPoint() == QStringLiteral(",");
+    FillNutrientDefinitions(session->nutrients, session.Data());
+  }
+
+  void Open() {
+    form = std::make_unique<frmData>(*session, navigator);
+    form->resize(560, 400);
+    form->show();
+    form->activateWindow();
+    ASSERT_TRUE(QTest::qWaitForWindowActive(form.get()));
+    form->Activated();
+  }
+  template <class Control>
+  Control *Find(const char *name) {
+    auto *control = form->findChild<Control *>(QString::fromLatin1(name));
+    EXPECT_NE(control, nullptr) << name;
+    return control;
+  }
+  QLineEdit *Field(int i) { return Find<QLineEdit>(qPrintable(QStringLiteral("txtData(%1)").arg(i))); }
+  std::string Text(const char *name) { return Find<QLabel>(name)->text().toStdString(); }
+  QWidget *Focus() { return QApplication::focusWidget(); }
+  void Type(const char *text) { QTest::keyClicks(Focus(), QString::fromUtf8(text)); }
+  void Press(Qt::Key key, Qt::KeyboardModifiers modifiers = Qt::NoModifier) {
+    QTest::keyClick(Focus(), key, modifiers);
+    QApplication::processEvents();
+  }
+  void Click(QWidget *widget) {
+    QTest::mouseClick(widget, Qt::LeftButton);
+    QApplication::processEvents();
+  }
+  std::string Weight(const QDate &date) {
+    return session
+        .ValueOf(QStringLiteral("ThisWeight"), QStringLiteral("weight_loss"),
+                 QStringLiteral("(PersonID=1) AND (ThisDate=%1)").arg(SQLDate(date)))
+        .toStdString();
+  }
+
+  TestSession session;
+  Navigator navigator;
+  std::unique_ptr<frmData> form;
+};
+
+const char *const notNumeric = "The weight that you entered is invalid.  Please enter a numeric value for your weight.";
+
+TEST(FrmData, AWeekIsTypedCorrectedAndMovedThroughWithoutTheMouse) {
+  Calendar c;
+  c.Open();
+  ASSERT_EQ(c.Focus(), c.Field(1));
+  c.Type("200");
+  c.Press(Qt::Key_Tab);
+  ASSERT_EQ(c.Focus(), c.Field(2));
+  c.Type("199");
+  c.Press(Qt::Key_Return);
+  ASSERT_EQ(c.Focus(), c.Field(3));
+  c.Type("198.5");
+  c.Press(Qt::Key_Right);
+  ASSERT_EQ(c.Focus(), c.Field(4));
+  c.Press(Qt::Key_Up);  // nothing above
+  ASSERT_EQ(c.Focus(), c.Field(4));
+  c.Type("197");
+  c.Press(Qt::Key_Down);
+  ASSERT_EQ(c.Focus(), c.Field(11));
+  c.Press(Qt::Key_Up);
+  c.Press(Qt::Key_Left);
+  ASSERT_EQ(c.Focus(), c.Field(3));
+  EXPECT_EQ(c.Field(3)->selectedText(), QStringLiteral("198.5"));  // typing corrects the whole weight
+  c.Type("198");
+  c.Press(Qt::Key_Backtab, Qt::ShiftModifier);
+  ASSERT_EQ(c.Focus(), c.Field(2));
+  EXPECT_EQ(c.Weight(QDate(2026, 3, 3)), "198");
+  EXPECT_EQ(c.Text("txtLoss(4)"), "1.0");
+  EXPECT_EQ(c.Text("txtTotal(1)"), "3.0");
+  EXPECT_EQ(c.Text("txtTotalMonth"), "3.0");
+  EXPECT_EQ(c.Text("txtCurrentIndex"), "2");
+  EXPECT_EQ(c.session->statistics.LbsLost, QStringLiteral("3"));
+}
+
+TEST(FrmData, ShiftArrowsSelectAndEscapeRestores) {
+  Calendar c;
+  c.Open();
+  c.Type("200");
+  c.Press(Qt::Key_Left, Qt::ShiftModifier);
+  EXPECT_EQ(c.Field(1)->selectedText(), QStringLiteral("0"));
+  c.Press(Qt::Key_Tab);
+  c.Press(Qt::Key_Left);
+  c.Type("7");
+  EXPECT_EQ(c.Field(1)->text(), QStringLiteral("7"));
+  c.Press(Qt::Key_Escape);
+  EXPECT_EQ(c.Field(1)->text(), QStringLiteral("200"));
+  const qint64 before = c.session.Data().Counts().commits;
+  c.Press(Qt::Key_Tab);
+  EXPECT_EQ(c.session.Data().Counts().commits, before);
+}
+
+TEST(FrmData, AnInvalidWeightHoldsEveryWayOut) {
+  Calendar c;
+  QString opened;
+  c.navigator.OpenQuickJournal = [&](QWidget *) { opened = QStringLiteral("journal"); };
+  c.Open();
+  QLineEdit other;
+  const std::vector<std::pair<const char *, std::function<void()>>> waysOut{
+      {"Tab", [&] { c.Press(Qt::Key_Tab); }},
+      {"Enter", [&] { c.Press(Qt::Key_Return); }},
+      {"arrow", [&] { c.Press(Qt::Key_Down); }},
+      {"Page Down", [&] { c.Press(Qt::Key_PageDown); }},
+      {"click on another day", [&] { c.Click(c.Field(9)); }},
+      {"next month", [&] { c.Click(c.Find<QToolButton>("cmdNextMonth")); }},
+      {"today", [&] { c.Click(c.Find<QToolButton>("cmdToday")); }},
+      {"Quick Journal", [&] { c.Click(c.Find<QToolButton>("cmdDiary")); }},
+      {"focus taken elsewhere",
+       [&] {
+         c.Find<QCheckBox>("chkShowLoss")->setFocus(Qt::MouseFocusReason);
+         QApplication::processEvents();
+       }},
+      {"another window or the program's end",
+       [&] {
+         EXPECT_FALSE(c.form->SaveOpenEdit());
+         QApplication::processEvents();
+       }},
+      {"another form", [&] {
+         EXPECT_FALSE(c.form->ValidateFields());
+         QApplication::processEvents();
+       }}};
+  for (const auto &[name, leave] : waysOut) {
+    SCOPED_TRACE(name);
+    c.Type("12.3.4");
+    c.session.boxes.Expect(QStringLiteral("Invalid Weight"), QLatin1String(notNumeric));
+    leave();
+    ASSERT_EQ(c.Focus(), c.Field(1));
+    EXPECT_EQ(c.Field(1)->selectedText(), QStringLiteral("12.3.4"));
+    EXPECT_EQ(c.Text("txtMonth"), "March, 2026");
+  }
+  EXPECT_TRUE(opened.isEmpty());
+  EXPECT_EQ(c.Weight(QDate(2026, 3, 1)), "");
+  c.Type("190");
+  EXPECT_TRUE(c.form->SaveOpenEdit());
+  EXPECT_EQ(c.Weight(QDate(2026, 3, 1)), "190");
+}
+
+TEST(FrmData, TheFocusMaySeeAMenuOrAnotherProgramWithoutSaving) {
+  Calendar c;
+  c.Open();
+  c.Type("abc");
+  for (const auto reason : {Qt::PopupFocusReason, Qt::MenuBarFocusReason, Qt::ActiveWindowFocusReason}) {
+    QFocusEvent out(QEvent::FocusOut, reason);
+    QApplication::sendEvent(c.Field(1), &out);
+    QFocusEvent in(QEvent::FocusIn, reason);
+    QApplication::sendEvent(c.Field(1), &in);
+  }
+  EXPECT_EQ(c.Field(1)->text(), QStringLiteral("abc"));
+  c.Press(Qt::Key_Escape);
+  EXPECT_EQ(c.Field(1)->text(), QString());
+}
+
+TEST(FrmData, SwitchesMonthsAndLeavesNeighboursDaysAlone) {
+  Calendar c;
+  WeightLog(*c.session).Insert({QDate(2026, 2, 28), 201, 0});
+  c.Open();
+  c.Type("200");
+  c.Click(c.Find<QToolButton>("cmdPrevMonth"));
+  EXPECT_EQ(c.Weight(QDate(2026, 3, 1)), "200");
+  EXPECT_EQ(c.Text("txtMonth"), "February, 2026");
+  ASSERT_EQ(c.Focus(), c.Field(1));
+  EXPECT_EQ(c.Text("txtCurrentDate"), ShortDate(QDate(2026, 2, 1), c.session->locale).toStdString());
+  EXPECT_EQ(c.Field(29)->text(), QStringLiteral("200"));  // the 1st of March, to be seen only
+  EXPECT_FALSE(c.Field(29)->isEnabled());
+  EXPECT_FALSE(c.Field(36)->isVisible());
+  c.Click(c.Field(28));
+  EXPECT_EQ(c.Field(28)->selectedText(), QStringLiteral("201"));
+  c.Press(Qt::Key_Right);
+  ASSERT_EQ(c.Focus(), c.Field(28));
+  c.Press(Qt::Key_PageDown);
+  c.Press(Qt::Key_PageDown);  // April begins on a Wednesday: its 28th is cell 31
+  EXPECT_EQ(c.Text("txtMonth"), "April, 2026");
+  ASSERT_EQ(c.Focus(), c.Field(31));
+  EXPECT_FALSE(c.Field(3)->isEnabled());
+  c.Click(c.Find<QToolButton>("cmdToday"));
+  ASSERT_EQ(c.Focus(), c.Field(1));
+  EXPECT_EQ(c.session->RememberedDate, QDate(2026, 3, 1));
+}
+
+TEST(FrmData, DeletesAWeightAfterAsking) {
+  Calendar c;
+  WeightLog(*c.session).Insert({QDate(2026, 3, 1), 201, 0});
+  WeightLog(*c.session).Insert({QDate(2026, 3, 2), 200, 1});
+  c.Open();
+  const QString question =
+      QStringLiteral("Delete weight recorded for %1?").arg(ShortDate(QDate(2026, 3, 1), c.session->locale));
+  c.session.boxes.Expect(QStringLiteral("Delete Weight?"), question, BoxButton::No);
+  c.form->DeleteWeight();
+  EXPECT_EQ(c.Weight(QDate(2026, 3, 1)), "201");
+  c.session.boxes.Expect(QStringLiteral("Delete Weight?"), question, BoxButton::Yes);
+  c.form->DeleteWeight();
+  EXPECT_EQ(c.Weight(QDate(2026, 3, 1)), "");
+  EXPECT_EQ(c.Field(1)->text(), QString());
+  EXPECT_EQ(c.Text("txtLoss(2)"), "0.0");
+  c.form->DeleteWeight();  // nothing there: nothing asked
+}
+
+TEST(FrmData, KeepsTheTypedTextWhenTheFileCannotBeWritten) {
+  Calendar c;
+  c.Open();
+  c.session->database.reset();
+  c.session->database = Database::OpenReadOnly(c.session->DataFilePath());
+  c.Type("195.5");
+  c.session.boxes.Expect(QStringLiteral("Error Saving Data"),
+                         QStringLiteral("An error occurred while saving your data"));
+  c.Press(Qt::Key_Tab);
+  ASSERT_EQ(c.Focus(), c.Field(1));
+  EXPECT_EQ(c.Field(1)->text(), QStringLiteral("195.5"));
+  c.session.boxes.Expect(QStringLiteral("Error Saving Data"), {});
+  EXPECT_FALSE(c.form->SaveOpenEdit());
+  QApplication::processEvents();
+  c.session->database.reset();
+  c.session->database = Database::Open(c.session->DataFilePath());
+  c.Press(Qt::Key_Tab);
+  ASSERT_EQ(c.Focus(), c.Field(2));
+  EXPECT_EQ(c.Weight(QDate(2026, 3, 1)), "195.5");
+}
+
+TEST(FrmData, TypesTheDecimalCommaFromTheKeypad) {
+  Calendar c(QLocale(QLocale::German, QLocale::Germany));
+  c.Open();
+  c.Type("93");
+  QTest::keyClick(c.Focus(), Qt::Key_Period, Qt::KeypadModifier);
+  c.Type("5");
+  EXPECT_EQ(c.Field(1)->text(), QStringLiteral("93,5"));
+  c.Press(Qt::Key_Tab);
+  EXPECT_EQ(c.Weight(QDate(2026, 3, 1)), "93.5");
+  EXPECT_EQ(c.Field(1)->text(), QStringLiteral("93,5"));
+}
+
+TEST(FrmData, PastedTextIsTakenWhenItIsANumber) {
+  Calendar c;
+  c.Open();
+  QGuiApplication::clipboard()->setText(QStringLiteral("  １８２.５\r\n"));
+  c.Field(1)->paste();
+  c.Press(Qt::Key_Tab);
+  EXPECT_EQ(c.Weight(QDate(2026, 3, 1)), "182.5");
+  EXPECT_EQ(c.Field(1)->text(), QStringLiteral("182.5"));
+}
+
+TEST(FrmData, StoresWhatIsShownAtOnce) {
+  Calendar c;
+  c.Open();
+  const auto stored = [&](const char *name) {
+    return c.session->store.GetSettingString(settingsRoot, QString::fromLatin1(name)).toStdString();
+  };
+  EXPECT_FALSE(c.Find<QLabel>("txtLoss(3)")->isVisible());
+  c.Find<QCheckBox>("chkShowLoss")->click();
+  EXPECT_TRUE(c.Find<QLabel>("txtLoss(3)")->isVisible());
+  EXPECT_EQ(stored("ShowLoss"), "-1");
+  c.Find<QCheckBox>("chkShowCalories")->click();
+  EXPECT_FALSE(c.Find<QLabel>("txtCalories(3)")->isVisible());
+  EXPECT_EQ(stored("ShowCalories"), "0");
+  auto *cboNutrientID = c.Find<QComboBox>("cboNutrientID");
+  EXPECT_EQ(cboNutrientID->currentText(), QStringLiteral("Net Calories (kcal)"));
+  cboNutrientID->setFocus();
+  QTest::keyClick(cboNutrientID, Qt::Key_Up);
+  EXPECT_EQ(stored("NutrientID"), "101");
+}
+
+TEST(FrmData, FollowsWhatOthersChangeAndKeepsWhatIsBeingTyped) {
+  Calendar c;
+  c.Open();
+  c.Type("19");
+  WeightLog(*c.session).Insert({QDate(2026, 3, 5), 190, -4});
+  c.session->settings.LossFactor = -1;
+  c.session->settings.ShowLoss = true;
+  c.session->changes.Announce({QStringLiteral("weight_loss"), QStringLiteral("1"), QDate(2026, 3, 5)});
+  c.session->changes.AnnounceSettings();
+  EXPECT_EQ(c.Field(5)->text(), QStringLiteral("190"));
+  EXPECT_EQ(c.Text("txtLoss(5)"), "4.0");
+  EXPECT_TRUE(c.Find<QCheckBox>("chkShowLoss")->isChecked());
+  EXPECT_EQ(c.Field(1)->text(), QStringLiteral("19"));
+  c.Type("5");
+  c.Press(Qt::Key_Tab);
+  EXPECT_EQ(c.Weight(QDate(2026, 3, 1)), "195");
+}
+
+TEST(FrmData, CongratulatesOnceTheWeightIsSaved) {
+  Calendar c;
+  WeightLog(*c.session).Insert({QDate(2026, 2, 28), 201, 0});
+  c.session->rewards = {RewardType::Daily, 1, QStringLiteral("Well done"), QStringLiteral("/tada.wav")};
+  c.Open();
+  c.Type("199");
+  bool seen = false;
+  QTimer::singleShot(50, c.form.get(), [&] {
+    auto *reward = qobject_cast<frmReward *>(QApplication::activeModalWidget());
+    ASSERT_NE(reward, nullptr);
+    seen = true;
+    EXPECT_EQ(reward->windowTitle(), QStringLiteral("Daily Reward"));
+    EXPECT_EQ(reward->findChild<QLabel *>(QStringLiteral("lblRewardLost"))->text(),
+              QStringLiteral("You have lost 2 pounds since you last weighed-in!"));
+    EXPECT_EQ(reward->findChild<QLabel *>(QStringLiteral("lblRewardMessage"))->text(), QStringLiteral("Well done"));
+    EXPECT_EQ(reward->findChild<QLabel *>(QStringLiteral("lblPersonName"))->text(), QStringLiteral("Test Person"));
+    EXPECT_EQ(reward->findChild<QLabel *>(QStringLiteral("lblLbsLeft"))->text(), QStringLiteral("49 pounds to go!"));
+    QTest::keyClick(reward, Qt::Key_Escape);
+  });
+  QTest::keyClick(c.Focus(), Qt::Key_Tab);
+  QTest::qWait(150);
+  EXPECT_TRUE(seen);
+  EXPECT_EQ(c.session.machine.played, QStringList(QStringLiteral("/tada.wav")));
+  c.form->activateWindow();
+  ASSERT_TRUE(QTest::qWaitForWindowActive(c.form.get()));
+  ASSERT_EQ(c.Focus(), c.Field(2));
+
+  c.Type("190");
+  c.session->SuppressReward = true;  // a navigation button was pressed
+  EXPECT_TRUE(c.form->SaveOpenEdit());
+  QTest::qWait(60);
+  EXPECT_EQ(c.session.machine.played.size(), 1);
+}
+
+TEST(FrmData, DisablesDoorsThatLeadNowhere) {
+  Calendar c;
+  c.Open();
+  EXPECT_FALSE(c.Find<QToolButton>("cmdDiary")->isEnabled());
+  EXPECT_FALSE(c.Find<QToolButton>("cmdTips")->isEnabled());
+}
+
+TEST(FrmData, ShowsEverythingUncutAtItsSmallestSize) {
+  Calendar c;
+  WeightLog(*c.session).Insert({QDate(2026, 3, 1), 1234.56, 0});
+  c.session->settings.ShowLoss = true;
+  c.Open();
+  c.form->resize(c.form->minimumSizeHint());
+  QApplication::processEvents();
+  for (const char *name : {"txtData(1)", "txtLoss(1)", "txtCalories(1)", "txtDateGrid(1)", "txtTotal(1)", "txtMonth"}) {
+    const auto *widget = c.Find<QWidget>(name);
+    EXPECT_GE(widget->height(), widget->fontMetrics().height()) << name;
+    EXPECT_TRUE(widget->parentWidget()->rect().contains(widget->geometry())) << name;
+  }
+  EXPECT_GE(c.Field(1)->width(), c.Field(1)->fontMetrics().horizontalAdvance(QStringLiteral("1234.56")));
+}
+
+}  // namespace
+}  // namespace trimlog
