@@ -1,7 +1,5 @@
 #include "core/edition.h"
 
-#include "core/product.h"
-
 namespace trimlog {
 
 namespace {
@@ -30,13 +28,6 @@ void LoadSeravaSetting(Session &session) {
 
 bool ActiveSyncOnExit(const Session &session) {
   return session.store.GetSettingString(handheldKey, QStringLiteral("ActiveSyncOnExit")) != QLatin1String("0");
-}
-
-QString ApplicationTitle(const Session &session) {
-  const QString bizTitle = Stored(session, "BizTitle");
-  if (session.BizEdLoginMode && !bizTitle.isEmpty()) return bizTitle;
-  if (session.SeravaEdition) return product::name + u' ' + product::seravaEdition + u' ' + product::version;
-  return product::name + u' ' + product::version;
 }
 
 }  // namespace trimlog

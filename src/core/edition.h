@@ -15,7 +15,4 @@ void LoadSeravaSetting(Session &session);
 /// Whether the handheld's own program follows the exchange at exit; true unless the store says no.
 bool ActiveSyncOnExit(const Session &session);
 
-/// The application's title, which is the frame's caption.
-QString ApplicationTitle(const Session &session);
-
 }  // namespace trimlog

@@ -3,6 +3,7 @@
 #include <QApplication>
 #include <QFileDialog>
 #include <QInputDialog>
+#include <QLabel>
 #include <QMessageBox>
 
 namespace trimlog {
@@ -70,6 +71,8 @@ std::optional<QString> QtBoxes::AskText(const QString &title, const QString &pro
   QInputDialog dialog(Owner());
   dialog.setWindowTitle(TitleOf(title));
   dialog.setLabelText(prompt);
+  // A prompt that says "click <OK>" is no markup.
+  for (QLabel *label : dialog.findChildren<QLabel *>()) label->setTextFormat(Qt::PlainText);
   dialog.setTextValue(initial);
   return dialog.exec() == QDialog::Accepted ? std::optional(dialog.textValue()) : std::nullopt;
 }
