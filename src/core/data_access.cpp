@@ -2,8 +2,7 @@
 
 #include <array>
 
-#include "platform/recordset.h"
-#include "platform/stored_value.h"
+#include "platform/single_value.h"
 
 namespace trimlog {
 
@@ -45,6 +44,18 @@ const KeyRule &FindKeyRule(const QString &table) {
   throw Error(error_number::unknownTable, QStringLiteral("The table '%1' has no running key.").arg(table));
 }
 
+/// Where in a criterion the number stands that it ends with, as in "((notes.PersonID)=7)"; empty when it ends
+/// otherwise.
+QStringView LastKey(QStringView where) {
+  qsizetype end = where.size();
+  while (end > 0 && (where[end - 1] == u')' || where[end - 1] == u' ')) --end;
+  qsizetype begin = end;
+  while (begin > 0 && where[begin - 1] >= u'0' && where[begin - 1] <= u'9') --begin;
+  if (begin > 0 && where[begin - 1] == u'-') --begin;
+  const bool isKey = begin > 0 && where[begin - 1] == u'=' && end - begin <= 9;
+  return isKey ? where.sliced(begin, end - begin) : QStringView();
+}
+
 /// An empty answer means an empty table.
 QString NextByRule(Database &database, const KeyRule &rule, QLatin1StringView filter, const QString &personID) {
   Params params;
@@ -57,6 +68,10 @@ QString NextByRule(Database &database, const KeyRule &rule, QLatin1StringView fi
 
 QString GetDataValue(Database &database, const QString &field, const QString &table, const QString &where,
                      const QString &alias, const Params &params) {
+  // The key goes in as a parameter, so that the store finds the same statement ready for every key.
+  const QStringView key = LastKey(where);
+  bool isNumber = false;
+  const int number = key.toInt(&isNumber);
   QString statement;
   statement.reserve(field.size() + table.size() + where.size() + 24);
   statement += "SELECT "_L1;
@@ -66,14 +81,21 @@ QString GetDataValue(Database &database, const QString &field, const QString &ta
   statement += u' ';
   if (!where.isEmpty()) {
     statement += "WHERE "_L1;
-    statement += where;
+    if (isNumber) {
+      statement += QStringView(where.cbegin(), key.cbegin());
+      statement += u'?';
+      statement += QStringView(key.cend(), where.cend());
+    } else {
+      statement += where;
+    }
   }
   statement += u';';
   // The probes of the data file's upgrade ask for tables and columns that an old file lacks: no value, not a failure.
   try {
-    const Recordset rows = database.OpenRecordset(statement, params, RecordsetKind::Forward);
-    if (rows.Eof()) return {};
-    return alias.isEmpty() ? ValueText(rows.Field(0)) : rows.Text(alias);
+    if (!isNumber) return SingleValueText(database, statement, params, alias);
+    Params withKey = params;
+    withKey.append(number);
+    return SingleValueText(database, statement, withKey, alias);
   } catch (const Error &) {
     return {};
   }

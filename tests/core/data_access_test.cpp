@@ -50,6 +50,9 @@ TEST_F(DataAccess, OneValueAsPlainText) {
        }) {
     EXPECT_EQ(Get(c.field, c.table, c.where, c.alias), c.value) << c.field << ' ' << c.table << ' ' << c.where;
   }
+  EXPECT_EQ(Get("PersonName", "people", "GenderID=? AND ((people.PersonID)=1) ", "", {2}), "Ann O'Brien");
+  EXPECT_EQ(Get("PersonName", "people", "GenderID=? AND ((people.PersonID)=-1) ", "", {2}), "");
+  EXPECT_EQ(Get("PersonName", "people", "PersonName=\"=1", "", {}), "") << "a text that is not closed";
   EXPECT_EQ(Get("PersonID", "people", "PersonName=?", "", {QStringLiteral("ann o'brien")}), "1");
   EXPECT_EQ(Get("PersonID", "people", "PersonName=?", "", {QStringLiteral("x\" OR \"\"=\"")}), "");
 }
