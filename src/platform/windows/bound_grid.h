@@ -118,6 +118,7 @@ class BoundGrid : public QTableView {
   QModelIndex NextEditable(bool forward) const;
   bool HandleEditingKey(QKeyEvent *event);
   bool ActivateRow();
+  bool IsTypingAhead() const;
   void keyboardSearch(const QString &search) override;
   void DeleteKeepingPlace(const std::vector<qint64> &keys);
 

@@ -168,6 +168,8 @@ void BoundGrid::keyPressEvent(QKeyEvent *event) {
                                     Qt::Key_Tab,    Qt::Key_Backtab, Qt::Key_Delete};
   if (ours && std::find(std::begin(handled), std::end(handled), event->key()) != std::end(handled)) {
     event->setAccepted(HandleEditingKey(event));
+  } else if (ours && IsTypingAhead() && !event->text().isEmpty() && event->text().front().isPrint()) {
+    keyboardSearch(event->text());  // a search that came to a row that can be changed goes on
   } else if (ours && event->matches(QKeySequence::Copy)) {
     MarkedRowNumbers().size() > 1 ? CopyRowsExternal() : Copy();
   } else if (ours && event->matches(QKeySequence::Paste)) {
@@ -207,10 +209,14 @@ void BoundGrid::contextMenuEvent(QContextMenuEvent *event) {
   event->accept();
 }
 
+bool BoundGrid::IsTypingAhead() const {
+  return !typedAhead_.isEmpty() &&
+         QDateTime::currentMSecsSinceEpoch() - typedAheadAt_ <= QApplication::keyboardInputInterval();
+}
+
 void BoundGrid::keyboardSearch(const QString &search) {
-  const qint64 now = QDateTime::currentMSecsSinceEpoch();
-  if (now - typedAheadAt_ > QApplication::keyboardInputInterval()) typedAhead_.clear();
-  typedAheadAt_ = now;
+  if (!IsTypingAhead()) typedAhead_.clear();
+  typedAheadAt_ = QDateTime::currentMSecsSinceEpoch();
   typedAhead_ += search;
   const QList<GridOrder> &order = model_->Source().order;
   if (order.isEmpty() || !model_->IsOpen()) return;

@@ -1,0 +1,347 @@
+#include <QClipboard>
+
+#include "grid_fixture.h"
+
+namespace trimlog {
+namespace {
+
+TEST_F(GridTest, TypedValuesAreReadShownAndStoredByType) {
+  struct Row {
+    const char *column;
+    const char *typed;
+    const char *shown;
+    const char *field;
+    const char *stored;
+  };
+  for (const Row &row : {
+           Row{"FoodDesc", "Say \"cheese\" 100%", "Say \"cheese\" 100%", "FoodDesc", "Say \"cheese\" 100%"},
+           Row{"Nut1", "2.5", "2", "Calories", "2"},
+           Row{"Nut2", " 1.005 ", "1.01", "Fat", "1.005"},
+           Row{"Nut2", "", "", "Fat", ""},
+           Row{"GroupID", "meats", "Meats", "GroupID", "2"},
+           Row{"Bought", "2/9/2026", "2/9/2026", "Bought", "2026-02-09"},
+       }) {
+    EXPECT_TRUE(grid.Model().setData(Cell(8, row.column), QLatin1String(row.typed))) << row.column;
+    EXPECT_EQ(Text(8, row.column).toStdString(), row.shown);
+    EXPECT_TRUE(grid.Model().SaveRow());
+    EXPECT_EQ(Text(8, row.column).toStdString(), row.shown);
+    EXPECT_EQ(Stored(QLatin1String(row.field), 8).toStdString(), row.stored);
+  }
+}
+
+class CommaGridTest : public GridTest {
+ protected:
+  CommaGridTest() : GridTest(10, QLocale(QLocale::German, QLocale::Germany)) {}
+};
+
+TEST_F(CommaGridTest, ACommaLocaleTypesAndSeesCommas) {
+  EXPECT_TRUE(grid.Model().setData(Cell(3, "Nut2"), QStringLiteral("93,5")));
+  EXPECT_EQ(Text(3, "Nut2").toStdString(), "93,50");
+  EXPECT_EQ(Cell(3, "Nut2").data(Qt::EditRole).toString().toStdString(), "93,5");
+  EXPECT_TRUE(grid.CommitRow());
+  EXPECT_EQ(Stored(QStringLiteral("Fat"), 3).toStdString(), "93.5");
+}
+
+TEST_F(GridTest, LeavingARowSavesItInOneCommit) {
+  GoTo(3, "Nut1");
+  Type(QStringLiteral("77"));
+  Press(Qt::Key_Tab);
+  EXPECT_EQ(grid.CurrentColumn().toStdString(), "Nut2");
+  Type(QStringLiteral("1.25"));
+  EXPECT_EQ(Stored(QStringLiteral("Calories"), 3).toStdString(), "997") << "nothing is written before the row is left";
+  const qint64 before = file->Counts().commits;
+  Press(Qt::Key_Down);
+  EXPECT_EQ(file->Counts().commits, before + 1);
+  EXPECT_EQ(grid.CurrentKey(), 4);
+  EXPECT_EQ(Stored(QStringLiteral("Calories"), 3).toStdString(), "77");
+  EXPECT_EQ(Stored(QStringLiteral("Fat"), 3).toStdString(), "1.25");
+  Press(Qt::Key_Up);
+  EXPECT_EQ(file->Counts().commits, before + 1) << "an unchanged row is not written";
+}
+
+TEST_F(GridTest, AnEditSavesUnderItsKeyAfterResorting) {
+  GoTo(7, "FoodDesc");
+  grid.Model().setData(Cell(7, "Nut2"), QStringLiteral("500"));
+  ASSERT_TRUE(grid.SortBy(QStringLiteral("Nut2"), true));
+  EXPECT_EQ(Stored(QStringLiteral("Fat"), 7).toStdString(), "500");
+  EXPECT_EQ(grid.Model().RowOfKey(7), 0);
+  EXPECT_EQ(grid.CurrentKey(), 7);
+  EXPECT_EQ(grid.MarkedKeys(), std::vector<qint64>{7});
+  grid.Model().setData(Cell(40, "Nut1"), QStringLiteral("1"));
+  ASSERT_TRUE(grid.SortBy(QStringLiteral("FoodDesc"), true));
+  EXPECT_EQ(Stored(QStringLiteral("Calories"), 40).toStdString(), "1");
+  EXPECT_EQ(grid.Model().KeyOfRow(0), 40);
+  EXPECT_EQ(grid.CurrentKey(), 7);
+}
+
+TEST_F(GridTest, ARefusedEditLeavesFileAndRowUntilItIsCorrectedOrRestored) {
+  QStringList sentences;
+  QObject::connect(&grid, &BoundGrid::RefusedRow, [&](const QString &sentence) { sentences.append(sentence); });
+  GoTo(5, "Nut1");
+  Type(QStringLiteral("9999"));
+  Press(Qt::Key_Down);
+  EXPECT_EQ(grid.CurrentKey(), 5) << "the row cannot be left";
+  EXPECT_EQ(sentences, QStringList{QStringLiteral("No food has so many calories.")});
+  EXPECT_EQ(Text(5, "Nut1").toStdString(), "9999") << "what was typed is not lost";
+  EXPECT_FALSE(Cell(5, "Nut1").data(Qt::ToolTipRole).toString().isEmpty());
+  EXPECT_FALSE(grid.SortBy(QStringLiteral("Nut1"), false));
+  EXPECT_FALSE(grid.GoToKey(9));
+  QTest::mouseClick(grid.viewport(), Qt::LeftButton, {}, grid.visualRect(Cell(9, "Nut1")).center());
+  EXPECT_EQ(grid.CurrentKey(), 5);
+  EXPECT_EQ(Stored(QStringLiteral("Calories"), 5).toStdString(), "995");
+  grid.Model().setData(Cell(5, "Nut1"), QStringLiteral("12.3.4"));
+  EXPECT_EQ(Text(5, "Nut1").toStdString(), "12.3.4");
+  Press(Qt::Key_Escape);
+  EXPECT_EQ(Text(5, "Nut1").toStdString(), "995");
+  EXPECT_TRUE(grid.CommitRow());
+  EXPECT_EQ(Stored(QStringLiteral("Calories"), 5).toStdString(), "995");
+}
+
+TEST_F(GridTest, EscRestoresTheFieldThenTheRow) {
+  GoTo(2, "Nut1");
+  Type(QStringLiteral("11"));
+  Press(Qt::Key_Tab);
+  Type(QStringLiteral("22"));
+  Press(Qt::Key_Tab);
+  Press(Qt::Key_Backtab);
+  Press(Qt::Key_F2);
+  Type(QStringLiteral("9"));
+  Press(Qt::Key_Escape);
+  EXPECT_EQ(Text(2, "Nut2").toStdString(), "22.00") << "in the editor Esc drops what was typed in it";
+  Press(Qt::Key_Escape);
+  EXPECT_EQ(Text(2, "Nut2").toStdString(), "0.25");
+  EXPECT_EQ(Text(2, "Nut1").toStdString(), "11");
+  Press(Qt::Key_Escape);
+  EXPECT_EQ(Text(2, "Nut1").toStdString(), "998");
+  EXPECT_FALSE(grid.Model().IsChanging());
+}
+
+TEST_F(GridTest, BeforeUpdateMayChangeFurtherFieldsOrRefuse) {
+  QString refusal;
+  std::vector<qint64> saved;
+  grid.Hooks().beforeUpdate = [&](GridRowEdit &row) {
+    if (row.HasChanges()) row.Set(QStringLiteral("IsModified"), true);
+    return refusal;
+  };
+  grid.Hooks().afterUpdate = [&](qint64 key) {
+    saved.push_back(key);
+    grid.Refresh();  // as a window does when the change is announced
+  };
+  refusal = QStringLiteral("Not now.");
+  grid.Model().setData(Cell(6, "Nut1"), QStringLiteral("5"));
+  EXPECT_FALSE(grid.CommitRow());
+  EXPECT_EQ(Stored(QStringLiteral("Calories"), 6).toStdString(), "994");
+  EXPECT_EQ(Cell(6, "Nut1").data(Qt::ToolTipRole).toString().toStdString(), "Not now.");
+  refusal.clear();
+  GoTo(12, "FoodDesc");
+  EXPECT_EQ(grid.CurrentKey(), 12);
+  EXPECT_EQ(saved, std::vector<qint64>{6});
+  EXPECT_EQ(Stored(QStringLiteral("IsModified"), 6).toStdString(), "-1");
+  EXPECT_EQ(Stored(QStringLiteral("Calories"), 6).toStdString(), "5");
+}
+
+TEST_F(GridTest, AFailedWriteKeepsWhatWasTypedAndARetryWorks) {
+  int failures = 0;
+  grid.Hooks().guard = [&](GridAction, const std::function<void()> &work) {
+    try {
+      work();
+      return true;
+    } catch (const Error &) {
+      ++failures;
+      return false;
+    }
+  };
+  bool failing = true;
+  grid.Hooks().beforeUpdate = [&](GridRowEdit &) -> QString {
+    if (failing) throw Error(error_number::readOnly, QStringLiteral("The file is read-only."));
+    return {};
+  };
+  GoTo(6, "Nut1");
+  Type(QStringLiteral("55"));
+  Press(Qt::Key_Down);
+  EXPECT_EQ(failures, 1);
+  EXPECT_EQ(grid.CurrentKey(), 6);
+  EXPECT_EQ(Text(6, "Nut1").toStdString(), "55");
+  failing = false;
+  Press(Qt::Key_Down);
+  EXPECT_EQ(grid.CurrentKey(), 7);
+  EXPECT_EQ(Stored(QStringLiteral("Calories"), 6).toStdString(), "55");
+}
+
+TEST_F(GridTest, ReadOnlyRowsAreSkippedByTabAndSearchedByLetters) {
+  grid.Hooks().isReadOnly = [](const auto &field) { return field(QStringLiteral("FoodID")).toInt() % 10 == 0; };
+  GoTo(9, "IsModified");
+  Press(Qt::Key_Tab);
+  EXPECT_EQ(grid.CurrentKey(), 11);
+  EXPECT_EQ(grid.CurrentColumn().toStdString(), "FoodDesc");
+  EXPECT_FALSE(grid.Model().setData(Cell(10, "Nut1"), QStringLiteral("1")));
+  GoTo(10, "FoodDesc");
+  Type(QStringLiteral("food 0003"));
+  EXPECT_EQ(grid.CurrentKey(), 30);
+}
+
+TEST_F(GridTest, TheNewRowIsInsertedUnderTheKeyOfTheHook) {
+  grid.Model().SetAllowNew(true);
+  grid.Hooks().beforeInsert = [](GridRowEdit &row) {
+    row.Set(QStringLiteral("FoodID"), 500);
+    row.Set(QStringLiteral("GroupID"), 2);
+  };
+  const int blank = grid.Model().RecordCount();
+  grid.selectionModel()->setCurrentIndex(grid.Model().index(blank, 1), QItemSelectionModel::ClearAndSelect);
+  Press(Qt::Key_F2);
+  Press(Qt::Key_Escape);
+  EXPECT_FALSE(grid.Model().IsChanging()) << "an opened and closed editor makes no record";
+  Type(QStringLiteral("Rye bread"));
+  Press(Qt::Key_Down);
+  ASSERT_TRUE(grid.CommitRow());
+  EXPECT_EQ(Count(), 41);
+  EXPECT_EQ(Stored(QStringLiteral("FoodDesc"), 500).toStdString(), "Rye bread");
+  EXPECT_EQ(grid.Model().RowOfKey(500), blank);
+  EXPECT_EQ(Text(500, "GroupID").toStdString(), "Meats");
+  EXPECT_EQ(grid.Model().rowCount(), 42);
+}
+
+TEST_F(GridTest, DeletingAsksOnceAndKeepsThePlace) {
+  std::vector<std::vector<qint64>> asked;
+  bool agree = false;
+  grid.Hooks().beforeDelete = [&](const std::vector<qint64> &keys) {
+    asked.push_back(keys);
+    return agree;
+  };
+  grid.MarkRows({4, 5, 9});
+  Press(Qt::Key_Delete);
+  EXPECT_EQ(Count(), 40);
+  agree = true;
+  const qint64 commits = file->Counts().commits;
+  Press(Qt::Key_Delete);
+  EXPECT_EQ(asked, (std::vector<std::vector<qint64>>{{4, 5, 9}, {4, 5, 9}}));
+  EXPECT_EQ(file->Counts().commits, commits + 1);
+  EXPECT_EQ(Count(), 37);
+  EXPECT_EQ(grid.CurrentKey(), 6) << "the row behind the first deleted one";
+  GoTo(40, "FoodDesc");
+  Press(Qt::Key_Delete);
+  EXPECT_EQ(grid.CurrentKey(), 39) << "at the end of the list, the last row";
+}
+
+TEST_F(GridTest, RowsCopyForTheProgramAndForASpreadsheet) {
+  file->Execute(QStringLiteral("UPDATE foods SET FoodDesc = ? WHERE FoodID = 2;"),
+                {QStringLiteral("Tab\tand\r\nline")});
+  grid.Refresh();
+  grid.ShowColumn(QStringLiteral("Bought"), false);
+  grid.MarkRows({2, 3});
+  grid.CopyRowsExternal();
+  EXPECT_EQ(QApplication::clipboard()->text().toStdString(),
+            "Food 00003\t997\t0.38\tMeats\tNo\r\nTab and line\t998\t0.25\tFruits\tNo");
+  GridClipboard rows;
+  EXPECT_TRUE(grid.CopyRows(rows));
+  EXPECT_EQ(rows.kind.toStdString(), "datFoods");
+  ASSERT_EQ(rows.rows.size(), 2);
+  EXPECT_EQ(rows.rows[0].value(QStringLiteral("Fat")).toDouble(), 0.375);
+
+  grid.Hooks().pasteRows = [&](const GridClipboard &copied) {
+    std::vector<qint64> keys;
+    for (const QVariantMap &row : copied.rows) {
+      keys.push_back(900 + static_cast<qint64>(keys.size()));
+      file->Execute(QStringLiteral("INSERT INTO foods ( FoodID, FoodDesc ) VALUES ( ?, ? );"),
+                    {keys.back(), row.value(QStringLiteral("FoodDesc"))});
+    }
+    return keys;
+  };
+  EXPECT_TRUE(grid.PasteRows(rows));
+  EXPECT_EQ(grid.CurrentKey(), 901);
+  EXPECT_EQ(Count(), 42);
+  rows.kind = QStringLiteral("datMeals");
+  EXPECT_FALSE(grid.PasteRows(rows)) << "rows of another kind";
+}
+
+TEST_F(GridTest, AColumnCanBeBoundToAnotherField) {
+  grid.RebindColumn(QStringLiteral("Nut2"), QStringLiteral("Calories"), QStringLiteral("Cal"), QStringLiteral("0.0"));
+  EXPECT_EQ(Text(3, "Nut2").toStdString(), "997.0");
+  EXPECT_EQ(Text(3, "Nut1").toStdString(), "997");
+  grid.RebindColumn(QStringLiteral("Nut2"), {}, {});
+  EXPECT_EQ(Text(3, "Nut2").toStdString(), "");
+  EXPECT_FALSE(grid.SortBy(QStringLiteral("Nut2"), false)) << "nothing to sort by";
+  EXPECT_EQ(grid.Model().headerData(3, Qt::Horizontal, Qt::UserRole).toString().toStdString(), "Nut2");
+}
+
+TEST_F(GridTest, WidthsOfThePersonComeBack) {
+  QTemporaryDir folder;
+  const auto store = OpenSettingsFile(folder.filePath(QStringLiteral("settings.ini")));
+  const QString key = settingsRoot + QStringLiteral("\\grdFoods");
+  grid.KeepWidths(*store, key);
+  grid.setColumnWidth(1, 333);
+  grid.hide();
+  BoundGrid other(QStringLiteral("grdFoods"), QStringLiteral("Foods"), QLocale::c());
+  other.SetColumns(Columns());
+  const int ordinary = other.columnWidth(2);
+  other.KeepWidths(*store, key);
+  EXPECT_EQ(other.columnWidth(1), 333);
+  EXPECT_EQ(other.columnWidth(2), ordinary);
+}
+
+class LongGridTest : public GridTest {
+ protected:
+  LongGridTest() : GridTest(9000) {}
+};
+
+TEST_F(LongGridTest, PaintingAndScrollingReadOnlyWhatIsSeen) {
+  EXPECT_EQ(grid.Model().rowCount(), 9000);
+  grid.Model().LoadAllKeys();
+  grid.Open(*file, Source());
+  const StoreCounts opened = file->Counts();
+  grid.viewport()->grab();
+  grid.grab();
+  EXPECT_EQ(file->Counts().statements, opened.statements) << "no statement runs while painting";
+  grid.Model().LoadAllKeys();
+  const StoreCounts before = file->Counts();
+  grid.scrollTo(grid.Model().index(6000, 1), QAbstractItemView::PositionAtTop);
+  EXPECT_LE(file->Counts().rowsRead - before.rowsRead, 256);
+  EXPECT_LE(file->Counts().statements - before.statements, 8);
+  const StoreCounts scrolled = file->Counts();
+  grid.grab();
+  EXPECT_EQ(file->Counts().statements, scrolled.statements);
+  EXPECT_EQ(grid.Model().index(6000, 1).data().toString().toStdString(), "Food 06001");
+}
+
+TEST_F(LongGridTest, OpeningReadsOnePageWhateverTheLength) {
+  GridModel model{QLocale::c()};
+  model.SetColumns(Columns());
+  const qint64 before = file->Counts().rowsRead;
+  model.Open(*file, Source());
+  model.Need(0, 30);
+  EXPECT_LE(file->Counts().rowsRead - before, GridKeys::firstPage + 32);
+  EXPECT_EQ(model.rowCount(), 9000);
+  EXPECT_FALSE(model.AllKeysLoaded());
+  EXPECT_EQ(model.index(8999, 1).data().toString().toStdString(), "Food 09000");
+  EXPECT_TRUE(model.AllKeysLoaded());
+}
+
+TEST_F(LongGridTest, DeletingAllMarkedRowsIsAllOrNothing) {
+  grid.selectAll();
+  ASSERT_EQ(grid.MarkedKeys().size(), 9000u);
+  file->Execute(QStringLiteral("CREATE TABLE eaten ([FoodID] INTEGER REFERENCES foods ([FoodID]));"));
+  file->Execute(QStringLiteral("INSERT INTO eaten ( FoodID ) VALUES ( 8990 );"));
+  EXPECT_FALSE(grid.DeleteSelected()) << "one row cannot go";
+  EXPECT_EQ(Count(), 9000);
+  EXPECT_EQ(grid.MarkedKeys().size(), 9000u);
+  file->Execute(QStringLiteral("DELETE FROM eaten;"));
+  grid.selectAll();
+  EXPECT_TRUE(grid.DeleteSelected());
+  EXPECT_EQ(Count(), 0);
+  EXPECT_FALSE(grid.CurrentKey());
+}
+
+TEST_F(LongGridTest, MarksAndCurrentRowStayByKeyWhenSorted) {
+  std::vector<qint64> marked;
+  for (qint64 key = 3; key <= 9000; key += 3) marked.push_back(key);
+  GoTo(4500, "Nut1");
+  grid.MarkRows(marked);
+  ASSERT_TRUE(grid.SortBy(QStringLiteral("Nut1"), false));
+  std::vector<qint64> after = grid.MarkedKeys();
+  std::sort(after.begin(), after.end());
+  EXPECT_EQ(after, marked);
+  EXPECT_EQ(grid.CurrentKey(), 4500);
+}
+
+}  // namespace
+}  // namespace trimlog

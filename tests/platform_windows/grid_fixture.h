@@ -1,0 +1,125 @@
+#pragma once
+
+#include <gtest/gtest.h>
+
+#include <QAbstractItemModelTester>
+#include <QApplication>
+#include <QLineEdit>
+#include <QTemporaryDir>
+#include <QTest>
+
+#include "platform/column_types.h"
+#include "platform/recordset.h"
+#include "platform/windows/bound_grid.h"
+
+namespace trimlog {
+
+/// A grid on a table of foods in a file of its own: food n is named "Food n" with n in five digits, Calories 1000 - n %
+/// 7, Fat n / 8. Rows divisible by ten are ready-made ones, read-only by a hook.
+class GridTest : public ::testing::Test {
+ protected:
+  explicit GridTest(int rows = 40, const QLocale &locale = QLocale(QLocale::English, QLocale::UnitedStates))
+      : grid(QStringLiteral("grdFoods"), QStringLiteral("Foods"), locale) {
+    file->Execute(QStringLiteral("CREATE TABLE foods ([FoodID] INTEGER PRIMARY KEY, %1, %2, %3, %4, %5, %6);")
+                      .arg(ColumnDeclaration(QStringLiteral("FoodDesc"), ColumnType::Text, 60),
+                           ColumnDeclaration(QStringLiteral("Calories"), ColumnType::Long),
+                           ColumnDeclaration(QStringLiteral("Fat"), ColumnType::Double),
+                           ColumnDeclaration(QStringLiteral("GroupID"), ColumnType::Long),
+                           ColumnDeclaration(QStringLiteral("Bought"), ColumnType::Date),
+                           ColumnDeclaration(QStringLiteral("IsModified"), ColumnType::Boolean)));
+    Transaction transaction(*file);
+    for (int n = 1; n <= rows; ++n) {
+      file->Execute(QStringLiteral("INSERT INTO foods ( FoodID, FoodDesc, Calories, Fat, GroupID, IsModified ) "
+                                   "VALUES ( ?, ?, ?, ?, ?, False );"),
+                    {n, QStringLiteral("Food %1").arg(n, 5, 10, QLatin1Char('0')), 1000 - n % 7, n / 8.0, 1 + n % 2});
+    }
+    transaction.Commit();
+    grid.recordSource = QStringLiteral("datFoods");
+    grid.SetColumns(Columns());
+    grid.resize(700, 400);
+    grid.Open(*file, Source());
+    grid.show();
+    QApplication::setActiveWindow(&grid);
+    grid.setFocus();
+    QApplication::processEvents();
+  }
+
+  static GridColumns Columns() {
+    const auto noMore = [](const Value &value) {
+      return value.toDouble() > 5000 ? QStringLiteral("No food has so many calories.") : QString();
+    };
+    return {
+        {.name = QStringLiteral("Qlt"), .width = 2},
+        {.name = QStringLiteral("FoodDesc"),
+         .caption = QStringLiteral("Food Description"),
+         .field = QStringLiteral("FoodDesc"),
+         .width = 30,
+         .editable = true,
+         .maxLength = 60},
+        {.name = QStringLiteral("Nut1"),
+         .caption = QStringLiteral("Calories\n(kcal)"),
+         .field = QStringLiteral("Calories"),
+         .type = GridType::WholeNumber,
+         .editable = true,
+         .validate = noMore},
+        {.name = QStringLiteral("Nut2"),
+         .caption = QStringLiteral("Fat\n(g)"),
+         .field = QStringLiteral("Fat"),
+         .type = GridType::Number,
+         .editable = true,
+         .pattern = QStringLiteral("0.00")},
+        {.name = QStringLiteral("GroupID"),
+         .caption = QStringLiteral("Group"),
+         .field = QStringLiteral("GroupID"),
+         .type = GridType::Choice,
+         .editable = true,
+         .choices = {{1, QStringLiteral("Fruits")}, {2, QStringLiteral("Meats")}}},
+        {.name = QStringLiteral("Bought"),
+         .caption = QStringLiteral("Bought"),
+         .field = QStringLiteral("Bought"),
+         .type = GridType::Date,
+         .editable = true},
+        {.name = QStringLiteral("IsModified"),
+         .caption = QStringLiteral("Modified"),
+         .field = QStringLiteral("IsModified"),
+         .type = GridType::Check,
+         .editable = true},
+    };
+  }
+
+  static GridSource Source() {
+    return {.table = QStringLiteral("foods"), .key = QStringLiteral("FoodID"), .order = {{QStringLiteral("FoodDesc")}}};
+  }
+
+  QString Stored(const QString &field, qint64 key) {
+    return file->OpenRecordset(QStringLiteral("SELECT * FROM foods WHERE FoodID = ?;"), {key}).Text(field);
+  }
+  int Count() {
+    return file->OpenRecordset(QStringLiteral("SELECT Count(*) AS N FROM foods;")).Integer(QStringLiteral("N"));
+  }
+  QModelIndex Cell(qint64 key, const char *column) {
+    return grid.Model().index(grid.Model().RowOfKey(key), grid.Model().ColumnByName(QLatin1String(column)));
+  }
+  QString Text(qint64 key, const char *column) { return Cell(key, column).data().toString(); }
+  void GoTo(qint64 key, const char *column) {
+    grid.selectionModel()->setCurrentIndex(Cell(key, column),
+                                           QItemSelectionModel::ClearAndSelect | QItemSelectionModel::Rows);
+  }
+  /// Keys to whatever has the focus: the grid or the editor in it.
+  void Press(Qt::Key key, Qt::KeyboardModifiers modifiers = Qt::NoModifier) {
+    QTest::keyClick(Focus(), key, modifiers);
+    QApplication::processEvents();
+  }
+  void Type(const QString &text) {
+    for (const QChar character : text) QTest::keyClick(Focus(), character.toLatin1());
+    QApplication::processEvents();
+  }
+  QWidget *Focus() { return QApplication::focusWidget() ? QApplication::focusWidget() : &grid; }
+
+  QTemporaryDir directory;
+  std::unique_ptr<Database> file = Database::Create(directory.filePath(QStringLiteral("test.dat")));
+  BoundGrid grid;
+  QAbstractItemModelTester tester{&grid.Model(), QAbstractItemModelTester::FailureReportingMode::Fatal};
+};
+
+}  // namespace trimlog
