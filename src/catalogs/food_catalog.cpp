@@ -94,6 +94,18 @@ int CopyFood(Session &session, int mealID) {
   return newID;
 }
 
+std::vector<qint64> PasteFoods(Session &session, const QList<QVariantMap> &rows) {
+  std::vector<qint64> keys;
+  for (QVariantMap row : rows) {
+    row[QStringLiteral("MealID")] = GetNextID(session.Data(), mealsList).toInt();
+    row[QStringLiteral("RecordTypeID")] = food_kind::myFoods;
+    const GridStatement insert = InsertStatement({.table = mealsList, .key = QStringLiteral("MealID")}, row);
+    session.Data().Execute(insert.sql, insert.params);
+    keys.push_back(row[QStringLiteral("MealID")].toLongLong());
+  }
+  return keys;
+}
+
 QString CopyFoodQuestion(const QString &mealDesc) {
   return QStringLiteral("Copy the following food: \n\n") + mealDesc +
          QStringLiteral("\n\n to your personal \"My Foods\" list?");

@@ -35,6 +35,10 @@ void SaveFood(Session &session, const FoodRecord &food);
 /// key stay behind. Returns the new key. One transaction.
 int CopyFood(Session &session, int mealID);
 
+/// Adds rows copied from a food grid to "My Foods", each under a key of its own; returns the keys. Runs in the caller's
+/// transaction.
+std::vector<qint64> PasteFoods(Session &session, const QList<QVariantMap> &rows);
+
 /// "Copy the following food: ... to your personal "My Foods" list?"
 QString CopyFoodQuestion(const QString &mealDesc);
 /// What deleting one or several foods asks.

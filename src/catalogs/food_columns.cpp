@@ -1,0 +1,162 @@
+#include "catalogs/food_columns.h"
+
+#include "catalogs/food_catalog.h"
+#include "catalogs/food_lists.h"
+#include "core/data_access.h"
+#include "journal/nutrient_columns.h"
+#include "platform/grid_row_edit.h"
+#include "platform/text_format.h"
+
+namespace trimlog {
+
+namespace {
+
+constexpr int textLength = 255;
+constexpr double highestNutrient = 1000000;
+constexpr int highestNetCarbs = 32767;
+
+QString CheckDescription(const Value &value) {
+  if (!value.toString().trimmed().isEmpty()) return {};
+  return QStringLiteral("Please enter a description for this food or meal.");
+}
+
+QString CheckNutrient(const Value &value) {
+  if (value.isNull()) return {};
+  const double number = value.toDouble();
+  if (number >= 0 && number <= highestNutrient) return {};
+  return QStringLiteral("Please enter a number from 0 to 1,000,000.");
+}
+
+QString CheckNetCarbs(const Value &value) {
+  if (value.isNull() || (value.toDouble() >= 0 && value.toDouble() <= highestNetCarbs)) return {};
+  return QStringLiteral("Please enter a number from 0 to 32,767.");
+}
+
+GridColumn GroupColumn(Session &session) {
+  GridColumn column{.name = QStringLiteral("MealGroupID"),
+                    .caption = QStringLiteral("Food Group"),
+                    .field = QStringLiteral("MealGroupID"),
+                    .type = GridType::Choice,
+                    .width = 20,
+                    .editable = true};
+  for (const FoodChoice &group : FoodGroupChoices(session)) {
+    if (group.key != allFoodGroups) column.choices.append({group.key, group.text});
+  }
+  return column;
+}
+
+GridColumn NutrientGridColumn(int position, const NutrientColumn &nutrient) {
+  return {.name = QStringLiteral("Nut%1").arg(position),
+          .caption = nutrient.caption,
+          .field = nutrient.dataField,
+          .type = GridType::Number,
+          .width = 9,
+          .editable = true,
+          .visible = !nutrient.dataField.isEmpty(),
+          .pattern = nutrient.pattern,
+          .validate = nutrient.dataField == QStringLiteral("NetCarbs") ? CheckNetCarbs : CheckNutrient};
+}
+
+GridColumn HiddenColumn(const QString &field, GridType type) {
+  return {.name = field, .field = field, .type = type, .visible = false};
+}
+
+}  // namespace
+
+GridColumns FoodColumns(Session &session) {
+  GridColumns columns = {
+      {.name = QStringLiteral("Qlt"), .width = 2},
+      {.name = QStringLiteral("MealDesc"),
+       .caption = QStringLiteral("Food Description"),
+       .field = QStringLiteral("MealDesc"),
+       .width = 44,
+       .editable = true,
+       .maxLength = textLength,
+       .validate = CheckDescription},
+      {.name = QStringLiteral("Amount"),
+       .caption = QStringLiteral("Serving Size"),
+       .field = QStringLiteral("Amount"),
+       .width = 18,
+       .editable = true,
+       .maxLength = textLength},
+      GroupColumn(session),
+      {.name = QStringLiteral("GIValue"),
+       .caption = QStringLiteral("GI\nValue"),
+       .field = QStringLiteral("GIValue"),
+       .type = GridType::Number,
+       .width = 7,
+       .editable = true,
+       .validate = CheckNutrient},
+  };
+  int position = 0;
+  for (const NutrientColumn &nutrient : SetMealFields(session.nutrients)) {
+    columns.push_back(NutrientGridColumn(++position, nutrient));
+  }
+  columns.push_back(HiddenColumn(QStringLiteral("IsModified"), GridType::Check));
+  columns.push_back({.name = QStringLiteral("Dummy"), .width = 2});
+  columns.push_back(HiddenColumn(QStringLiteral("RecordTypeID"), GridType::WholeNumber));
+  columns.push_back(HiddenColumn(QStringLiteral("MealID"), GridType::WholeNumber));
+  return columns;
+}
+
+QString PrepareEditedFood(const Nutrients &nutrients, GridRowEdit &row) {
+  if (!row.HasChanges()) return {};
+  for (const QString &field : {QStringLiteral("MealDesc"), QStringLiteral("Amount")}) {
+    if (row.IsChanged(field)) row.Set(field, WithoutDoubleQuotes(row.Get(field).toString()));
+  }
+  for (const NutrientDef &definition : nutrients.NutrientDefs) {
+    if (!row.IsChanged(definition.fieldName) || row.Get(definition.fieldName).isNull()) continue;
+    const QString shown = Format(row.Get(definition.fieldName).toDouble(), GetNutrientFormat(definition.fieldName));
+    row.Set(definition.fieldName, Val(shown));
+  }
+  row.Set(QStringLiteral("IsModified"), true);
+  return {};
+}
+
+bool IsPreLoadedFood(const std::function<Value(const QString &field)> &field) {
+  return field(QStringLiteral("RecordTypeID")).toInt() == food_kind::preLoaded;
+}
+
+bool ConfirmDeleteFoods(Session &session, const std::vector<qint64> &keys) {
+  const auto preLoaded = [&session](qint64 key) {
+    return GetDataValue(session.Data(), QStringLiteral("RecordTypeID"), QStringLiteral("meals_list"),
+                        QStringLiteral("MealID=%1").arg(key)) == QString::number(food_kind::preLoaded);
+  };
+  if (std::any_of(keys.begin(), keys.end(), preLoaded)) {
+    session.boxes.Critical(QStringLiteral("Unable to Delete Meal"),
+                           QStringLiteral("The Pre-Loaded meals cannot be deleted."));
+    return false;
+  }
+  return session.boxes.Ask(QStringLiteral("Warning: Delete Food?"), DeleteFoodsQuestion(static_cast<int>(keys.size())),
+                           BoxButton::No);
+}
+
+FailureExit FoodGridFailure(GridAction action) {
+  FailureExit exit{QStringLiteral("frmSetupFoods"), {}, {}, {}, true};
+  switch (action) {
+    case GridAction::Load:
+      exit.procedure = QStringLiteral("Form_Activate");
+      exit.title = QStringLiteral("Error Loading Setup Info");
+      exit.text = QStringLiteral("An error occurred while loading your setup information.");
+      exit.appendDescription = false;
+      break;
+    case GridAction::Save:
+      exit.procedure = QStringLiteral("grdMealsList_AfterUpdate");
+      exit.title = QStringLiteral("Error Saving Food");
+      exit.text = QStringLiteral("An error occurred while saving this food.  ");
+      break;
+    case GridAction::Delete:
+      exit.procedure = QStringLiteral("cmdDeleteMeal_Click");
+      exit.title = QStringLiteral("Error Deleting Food");
+      exit.text = QStringLiteral("An error occurred while deleting.  No food was deleted.  ");
+      break;
+    case GridAction::Paste:
+      exit.procedure = QStringLiteral("PasteGridRow");
+      exit.title = QStringLiteral("Error Pasting Foods");
+      exit.text = QStringLiteral("An error occurred while pasting.  No food was added.  ");
+      break;
+  }
+  return exit;
+}
+
+}  // namespace trimlog

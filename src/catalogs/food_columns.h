@@ -1,0 +1,30 @@
+#pragma once
+
+#include <QString>
+#include <vector>
+
+#include "core/failure_guard.h"
+#include "core/session.h"
+#include "platform/grid_columns.h"
+#include "platform/grid_hooks.h"
+
+namespace trimlog {
+
+/// The columns of both food grids, with their checks: description, serving, group, glycemic value and the ten shown
+/// nutrients. A position that shows no nutrient is hidden.
+GridColumns FoodColumns(Session &session);
+
+/// Before a changed food is stored: it counts as modified from now on, double quotes leave its texts, and its nutrients
+/// are rounded to what is shown. Returns why the row is refused, or "".
+QString PrepareEditedFood(const Nutrients &nutrients, GridRowEdit &row);
+
+/// True for a row that may not be changed in the grid: a pre-loaded food.
+bool IsPreLoadedFood(const std::function<Value(const QString &field)> &field);
+
+/// May these foods be deleted? Asks once, or says that pre-loaded foods stay.
+bool ConfirmDeleteFoods(Session &session, const std::vector<qint64> &keys);
+
+/// The failure exits of the food grids.
+FailureExit FoodGridFailure(GridAction action);
+
+}  // namespace trimlog

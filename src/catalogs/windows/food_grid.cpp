@@ -1,0 +1,32 @@
+#include "catalogs/windows/food_grid.h"
+
+#include "catalogs/food_catalog.h"
+#include "catalogs/food_columns.h"
+#include "platform/grid_clipboard.h"
+#include "platform/grid_row_edit.h"
+
+namespace trimlog {
+
+BoundGrid *MakeFoodGrid(const QString &objectName, const QString &label, Session &session, QWidget *parent) {
+  auto *grid = new BoundGrid(objectName, label, session.locale, parent);
+  grid->recordSource = QStringLiteral("datMealsList");
+  grid->SetColumns(FoodColumns(session));
+  grid->KeepWidths(session.store, settingsRoot + QStringLiteral("\\Grids\\") + objectName);
+
+  const auto announce = [&session] { session.changes.Announce({QStringLiteral("meals_list"), {}, {}}); };
+  GridHooks &hooks = grid->Hooks();
+  hooks.guard = [&session](GridAction action, const std::function<void()> &work) {
+    return Guarded(session, FoodGridFailure(action), work);
+  };
+  hooks.isReadOnly = IsPreLoadedFood;
+  hooks.beforeUpdate = [&session](GridRowEdit &row) { return PrepareEditedFood(session.nutrients, row); };
+  hooks.afterUpdate = [announce](qint64) { announce(); };
+  hooks.beforeDelete = [&session](const std::vector<qint64> &keys) { return ConfirmDeleteFoods(session, keys); };
+  hooks.afterDelete = [announce](const std::vector<qint64> &) { announce(); };
+  hooks.pasteRows = [&session](const GridClipboard &clipboard) { return PasteFoods(session, clipboard.rows); };
+  return grid;
+}
+
+void ShowSelectedNutrients(BoundGrid &grid, Session &session) { grid.SetColumns(FoodColumns(session)); }
+
+}  // namespace trimlog

@@ -1,0 +1,63 @@
+#pragma once
+
+#include <QMap>
+
+#include "catalogs/food_catalog.h"
+#include "catalogs/food_derived.h"
+#include "core/windows/add_rec_page.h"
+
+class QComboBox;
+class QFormLayout;
+class QGridLayout;
+class QVBoxLayout;
+
+namespace trimlog {
+
+class NumberField;
+class TextField;
+
+/// The page with everything about one food: for a new food of the user's own, and to see and edit all nutrients of a
+/// stored one. The nutrient fields are named by NutrientID, txtAddRec0(1) to (35).
+class FoodPage : public AddRecPage {
+  Q_OBJECT
+ public:
+  /// A new food, in a group.
+  FoodPage(Session &session, int mealGroupID, QWidget *parent);
+  /// All nutrients of a stored food.
+  FoodPage(Session &session, const FoodRecord &food, QWidget *parent);
+
+  QString Title() const override;
+  QString Header() const override;
+  bool Store() override;
+  int MealID() const { return food_.MealID; }
+
+ private:
+  bool IsNew() const { return food_.MealID == 0; }
+  void Build();
+  void AddTexts(QFormLayout *form);
+  void AddNutrients(QGridLayout *grid);
+  void AddCommands(QVBoxLayout *layout);
+  void ShowFood();
+  void ConnectDerived();
+  void OnGramsLeft(int nutrientID);
+  void ShowNetCarbs();
+  void ShowCaloriesFrom(int nutrientID);
+  void OnCalculateCalories();
+  void OnDailyValues();
+  CalorieFields ShownCalorieFields() const;
+  void ShowCalorieFields(const CalorieFields &fields);
+  QString TextOf(int nutrientID) const;
+  bool CheckNumbers();
+  FoodRecord Typed() const;
+
+  Session &session_;
+  FoodRecord food_;
+  TextField *txtMealDesc = nullptr;
+  TextField *txtAmount = nullptr;
+  NumberField *txtGIValue = nullptr;
+  QComboBox *cboMealGroups = nullptr;
+  QMap<int, NumberField *> txtAddRec0;  ///< by NutrientID
+  QMap<int, QString> textOnEntry_;
+};
+
+}  // namespace trimlog

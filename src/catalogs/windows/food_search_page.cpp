@@ -1,0 +1,73 @@
+#include "catalogs/windows/food_search_page.h"
+
+#include <QGuiApplication>
+#include <QHBoxLayout>
+#include <QLabel>
+#include <QPushButton>
+#include <QVBoxLayout>
+
+#include "catalogs/food_lists.h"
+#include "catalogs/windows/food_grid.h"
+#include "platform/windows/text_field.h"
+
+namespace trimlog {
+
+namespace {
+
+/// The wait cursor, for as long as it lives.
+class WaitCursor {
+ public:
+  WaitCursor() { QGuiApplication::setOverrideCursor(Qt::WaitCursor); }
+  ~WaitCursor() { QGuiApplication::restoreOverrideCursor(); }
+  WaitCursor(const WaitCursor &) = delete;
+  WaitCursor &operator=(const WaitCursor &) = delete;
+};
+
+}  // namespace
+
+FoodSearchPage::FoodSearchPage(Session &session, QWidget *parent) : QWidget(parent), session_(session) {
+  auto *layout = new QVBoxLayout(this);
+  auto *row = new QHBoxLayout;
+  layout->addLayout(row);
+  auto *label = new QLabel(QStringLiteral("&Words to find:"), this);
+  txtFind = new TextField(QStringLiteral("txtFind"), QStringLiteral("Words to find"), 0, this);
+  txtFind->setClearButtonEnabled(true);
+  label->setBuddy(txtFind);
+  cmdFindFirst = new QPushButton(QStringLiteral("&Search Now"), this);
+  cmdFindFirst->setObjectName(QStringLiteral("cmdFindFirst"));
+  cmdFindFirst->setAutoDefault(false);
+  row->addWidget(label);
+  row->addWidget(txtFind, 1);
+  row->addWidget(cmdFindFirst);
+  lblFoodsFound = new QLabel(FoodsFoundHeading(0), this);
+  lblFoodsFound->setObjectName(QStringLiteral("lblFoodsFound"));
+  layout->addWidget(lblFoodsFound);
+  grdMealsSearch = MakeFoodGrid(QStringLiteral("grdMealsSearch"), QStringLiteral("Foods found"), session_, this);
+  layout->addWidget(grdMealsSearch, 1);
+  setFocusProxy(txtFind);
+
+  grdMealsSearch->Open(session_.Data(), FoodSearchSource({}));
+  connect(txtFind, &TextField::returnPressed, this, &FoodSearchPage::Search);
+  connect(cmdFindFirst, &QPushButton::clicked, this, &FoodSearchPage::Search);
+}
+
+QString FoodSearchPage::PrintedTitle() const { return PrintedSearchTitle(searched_); }
+
+void FoodSearchPage::Search() {
+  const WaitCursor wait;
+  if (!grdMealsSearch->SetSource(FoodSearchSource(txtFind->text()))) return;
+  searched_ = FoodSearchText(txtFind->text());
+  grdMealsSearch->ClearMarks();
+  UpdateHeading();
+}
+
+void FoodSearchPage::UpdateHeading() {
+  lblFoodsFound->setText(FoodsFoundHeading(grdMealsSearch->Model().RecordCount()));
+}
+
+void FoodSearchPage::NutrientsChanged() {
+  ShowSelectedNutrients(*grdMealsSearch, session_);
+  grdMealsSearch->Refresh();
+}
+
+}  // namespace trimlog

@@ -1,0 +1,36 @@
+#pragma once
+
+#include <QWidget>
+
+#include "core/session.h"
+
+class QLabel;
+class QPushButton;
+
+namespace trimlog {
+
+class BoundGrid;
+class TextField;
+
+/// The tab that finds foods by words of their description, in any order.
+class FoodSearchPage : public QWidget {
+  Q_OBJECT
+ public:
+  FoodSearchPage(Session &session, QWidget *parent);
+
+  BoundGrid *Grid() const { return grdMealsSearch; }
+  QString PrintedTitle() const;
+  void Search();
+  void NutrientsChanged();
+  void UpdateHeading();
+
+ private:
+  Session &session_;
+  TextField *txtFind;
+  QPushButton *cmdFindFirst;
+  QLabel *lblFoodsFound;
+  BoundGrid *grdMealsSearch;
+  QString searched_;
+};
+
+}  // namespace trimlog

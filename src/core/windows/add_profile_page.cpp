@@ -1,0 +1,116 @@
+#include "core/windows/add_profile_page.h"
+
+#include <QButtonGroup>
+#include <QFormLayout>
+#include <QAbstractButton>
+#include <QHBoxLayout>
+#include <QRadioButton>
+
+#include "core/failure_guard.h"
+#include "core/options.h"
+#include "core/profile_list.h"
+#include "core/windows/frmCalendar.h"
+#include "platform/windows/date_field.h"
+#include "platform/windows/number_field.h"
+#include "platform/windows/text_field.h"
+
+namespace trimlog {
+
+namespace {
+
+constexpr int nameLength = 255;
+constexpr int signInLength = 25;
+
+}  // namespace
+
+AddProfilePage::AddProfilePage(Session &session, QWidget *parent) : AddRecPage(parent), session_(session) {
+  setObjectName(QStringLiteral("pnlAddRec(5)"));
+  auto *form = new QFormLayout(this);
+  AddFields(form);
+  if (session_.BizEd) AddSignInFields(form);
+  setFocusProxy(txtPersonName);
+}
+
+QString AddProfilePage::Header() const { return QStringLiteral("Enter the new profile's information and click <OK>."); }
+
+void AddProfilePage::AddFields(QFormLayout *form) {
+  const QLocale &locale = session_.locale;
+  const UnitLabels units = LabelsOf(session_.settings.UomID);
+  txtPersonName = new TextField(QStringLiteral("txtPersonName"), QStringLiteral("Name"), nameLength, this);
+  form->addRow(QStringLiteral("&Name:"), txtPersonName);
+  txtGoal = new NumberField(QStringLiteral("txtGoal"), units.Goal, locale, this);
+  form->addRow(QStringLiteral("&") + units.Goal + QLatin1Char(':'), txtGoal);
+  txtHeight1 = new NumberField(QStringLiteral("txtHeight1"), units.HeightFeet, locale, this);
+  form->addRow(QStringLiteral("&") + units.HeightFeet + QLatin1Char(':'), txtHeight1);
+  txtHeight2 = new NumberField(QStringLiteral("txtHeight2"), units.HeightInches, locale, this);
+  form->addRow(units.HeightInches + QLatin1Char(':'), txtHeight2);
+
+  txtBirthDate = new DateField(QStringLiteral("txtBirthDate"), QStringLiteral("Birth date"), locale, this);
+  auto *birth = new QHBoxLayout;
+  birth->addWidget(txtBirthDate, 1);
+  birth->addWidget(AttachCalendar(session_, *txtBirthDate, QStringLiteral("cmdBirthDate")));
+  form->addRow(QStringLiteral("&Birth date:"), birth);
+
+  optGenderFemale = new QRadioButton(QStringLiteral("&Female"), this);
+  optGenderFemale->setObjectName(QStringLiteral("optGenderFemale"));
+  optGenderFemale->setChecked(true);
+  optGenderMale = new QRadioButton(QStringLiteral("&Male"), this);
+  optGenderMale->setObjectName(QStringLiteral("optGenderMale"));
+  auto *gender = new QHBoxLayout;
+  gender->addWidget(optGenderFemale);
+  gender->addWidget(optGenderMale);
+  gender->addStretch();
+  form->addRow(QStringLiteral("Gender:"), gender);
+}
+
+void AddProfilePage::AddSignInFields(QFormLayout *form) {
+  txtUserID = new TextField(QStringLiteral("txtUserID"), QStringLiteral("Profile ID"), 0, this);
+  form->addRow(QStringLiteral("&Profile ID:"), txtUserID);
+  txtPassword = new TextField(QStringLiteral("txtPassword"), QStringLiteral("Password"), 0, this);
+  txtPassword->setEchoMode(QLineEdit::Password);
+  txtPassword->setToolTip(QStringLiteral("At most %1 characters; capitals do not matter.").arg(signInLength));
+  form->addRow(QStringLiteral("Pass&word:"), txtPassword);
+}
+
+NewProfile AddProfilePage::Typed() const {
+  NewProfile profile;
+  profile.PersonName = txtPersonName->text();
+  profile.goal = txtGoal->text();
+  profile.HeightFeet = txtHeight1->ValueOrZero();
+  profile.HeightInches = txtHeight2->ValueOrZero();
+  profile.GenderID = optGenderMale->isChecked() ? 1 : 2;
+  profile.BirthDate = txtBirthDate->Date();
+  if (txtUserID) profile.UserID = txtUserID->text();
+  if (txtPassword) profile.Password = txtPassword->text();
+  return profile;
+}
+
+bool AddProfilePage::GoalAccepted() {
+  if (ConfirmGoal(session_, txtGoal->text())) return true;
+  txtGoal->setFocus();
+  txtGoal->selectAll();
+  return false;
+}
+
+void AddProfilePage::ShowComplaint(const NewProfileComplaint &complaint) {
+  session_.boxes.Critical(complaint.title, complaint.text);
+  QLineEdit *field = txtPersonName;
+  if (complaint.field == NewProfileField::UserID) field = txtUserID;
+  if (complaint.field == NewProfileField::Password) field = txtPassword;
+  field->setFocus();
+  field->selectAll();
+}
+
+bool AddProfilePage::Store() {
+  const NewProfile profile = Typed();
+  if (const auto complaint = CheckNewProfile(session_, profile)) {
+    ShowComplaint(*complaint);
+    return false;
+  }
+  if (!GoalAccepted()) return false;
+  const FailureExit failure{QStringLiteral("basMain"), QStringLiteral("AddRec"), QStringLiteral("Error Adding Profile"),
+                            QStringLiteral("An error occurred while adding this profile.  "), true};
+  return Guarded(session_, failure, [&] { personID_ = AddNewProfile(session_, profile); });
+}
+
+}  // namespace trimlog
