@@ -4,7 +4,9 @@
 #include <QDir>
 #include <QFileInfo>
 #include <QLocalSocket>
-#include <QStandardPaths>
+#ifdef Q_OS_UNIX
+#include <unistd.h>
+#endif
 
 namespace trimlog {
 
@@ -12,38 +14,28 @@ namespace {
 
 constexpr int firstMayBeStarting = 3000;  ///< milliseconds until its listener must be there
 
+/// Who runs the program. Not from the environment: two sessions of one person are one user.
+QString UserMark() {
+#ifdef Q_OS_UNIX
+  return QString::number(getuid());
+#else
+  return QDir::homePath();
+#endif
+}
+
 /// A name of its own for each user and program directory.
 QString NameFor(const QString &programDirectory) {
   const QString canonical = QFileInfo(programDirectory).canonicalFilePath();
-  const QString place = (canonical.isEmpty() ? programDirectory : canonical) + u'\n' + QDir::homePath();
+  const QString place = (canonical.isEmpty() ? programDirectory : canonical) + u'\n' + UserMark();
   const QByteArray hash = QCryptographicHash::hash(place.toUtf8(), QCryptographicHash::Sha256).toHex().left(16);
   return QStringLiteral("trimlog-") + QString::fromLatin1(hash);
 }
 
-/// The user's own folder for running programs; a socket's path is limited to about a hundred characters.
-QString RuntimeFolder() {
-  constexpr int longestFolder = 70;
-  const QString folder = QStandardPaths::writableLocation(QStandardPaths::RuntimeLocation);
-  return folder.isEmpty() || folder.toLocal8Bit().size() > longestFolder ? QDir::tempPath() : folder;
-}
-
-/// Windows names a pipe, other systems a socket file.
-QString ServerName(const QString &folder, const QString &name) {
-#ifdef Q_OS_WIN
-  Q_UNUSED(folder);
-  return name;
-#else
-  return QDir(folder).filePath(name);
-#endif
-}
-
 }  // namespace
 
-SingleInstance::SingleInstance(const QString &programDirectory) {
-  const QString folder = RuntimeFolder();
-  const QString name = NameFor(programDirectory);
-  serverName_ = ServerName(folder, name);
-  lock_ = std::make_unique<QLockFile>(QDir(folder).filePath(name + QStringLiteral(".lock")));
+SingleInstance::SingleInstance(const QString &programDirectory)
+    : name_(NameFor(programDirectory)),
+      lock_(std::make_unique<QLockFile>(QDir(programDirectory).filePath(u'.' + name_ + QStringLiteral(".lock")))) {
   lock_->setStaleLockTime(0);  // only a process that is gone gives its lock up, not one that runs for long
   connect(&server_, &QLocalServer::newConnection, this, [this] {
     while (QLocalSocket *caller = server_.nextPendingConnection()) caller->deleteLater();
@@ -59,30 +51,32 @@ bool SingleInstance::ActivatePrevInstance() {
     Listen();
     return false;
   }
-  // Where no lock can be written at all nobody else can hold one.
-  if (lock_->error() != QLockFile::LockFailedError) return false;
-  AskToRaise();
-  return true;
+  // Where no lock can be written nobody else holds one; and where nobody answers, this copy goes on, to say that the
+  // data file is in use rather than to end without a word.
+  return lock_->error() == QLockFile::LockFailedError && AskToRaise();
 }
 
 void SingleInstance::Listen() {
-  server_.setSocketOptions(QLocalServer::UserAccessOption);
-  if (server_.listen(serverName_)) return;
+  // An abstract name on Linux: it needs no file and is gone with its process. Elsewhere the option means nothing.
+  server_.setSocketOptions(QLocalServer::AbstractNamespaceOption);
+  if (server_.listen(name_)) return;
   // The socket of a copy that was killed: the lock says that nobody listens there.
-  QLocalServer::removeServer(serverName_);
-  server_.listen(serverName_);
+  QLocalServer::removeServer(name_);
+  server_.listen(name_);
 }
 
-void SingleInstance::AskToRaise() const {
+bool SingleInstance::AskToRaise() const {
   QElapsedTimer waited;
   waited.start();
   do {
     QLocalSocket socket;
-    socket.connectToServer(serverName_);
-    if (socket.waitForConnected(firstMayBeStarting)) return;
+    socket.setSocketOptions(QLocalSocket::AbstractNamespaceOption);
+    socket.connectToServer(name_);
+    if (socket.waitForConnected(firstMayBeStarting)) return true;
     constexpr unsigned long pause = 50;
     QThread::msleep(pause);
   } while (waited.elapsed() < firstMayBeStarting);
+  return false;
 }
 
 }  // namespace trimlog

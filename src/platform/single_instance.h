@@ -26,9 +26,9 @@ class SingleInstance : public QObject {
 
  private:
   void Listen();
-  void AskToRaise() const;
+  bool AskToRaise() const;
 
-  QString serverName_;
+  QString name_;
   std::unique_ptr<QLockFile> lock_;
   QLocalServer server_;
 };

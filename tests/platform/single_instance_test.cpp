@@ -90,5 +90,10 @@ TEST_F(OneCopy, AKilledCopyLeavesNoLock) {
   EXPECT_EQ(raised, 1) << "the socket left behind does not keep the next copy from listening";
 }
 
+TEST_F(OneCopy, AProgramFolderThatCannotBeWrittenDoesNotStopTheStart) {
+  SingleInstance copy(folder_.filePath(QStringLiteral("none")));
+  EXPECT_FALSE(copy.ActivatePrevInstance());
+}
+
 }  // namespace
 }  // namespace trimlog
