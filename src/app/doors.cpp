@@ -22,6 +22,10 @@ void Program::FillHooks() {
 #ifdef HAS_DATA
   hooks_.LoadRewardSettings = [this] { LoadRewardSettings(session_); };
   hooks_.UpdateStats = [this] { UpdateStats(session_); };
+  // A goal changed in the options changes what is left and when it is reached.
+  QObject::connect(&session_.changes, &DataChanges::Changed, &instance_, [this](const DataChange &change) {
+    if (change.table == QStringLiteral("people") && change.personID == session_.CurrentPersonID) UpdateStats(session_);
+  });
 #endif
   const QString tutorial = session_.programDirectory + QStringLiteral("/tutorsel.exe");
   if (QFile::exists(tutorial))

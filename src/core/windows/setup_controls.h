@@ -27,7 +27,9 @@ inline QRadioButton *AddOption(QLayout *layout, const QString &name, const QStri
   return AddButton<QRadioButton>(layout, name, caption, tip);
 }
 inline QPushButton *AddCommand(QLayout *layout, const QString &name, const QString &caption, const QString &tip = {}) {
-  return AddButton<QPushButton>(layout, name, caption, tip);
+  auto *button = AddButton<QPushButton>(layout, name, caption, tip);
+  button->setAutoDefault(false);  // Enter belongs to OK, wherever the focus is
+  return button;
 }
 
 /// A line of explanation that breaks where it must.

@@ -109,13 +109,12 @@ void SetupProfilesPage::Saved(const QString &personID) {
 
 void SetupProfilesPage::Deleted() {
   const QString next = ProfileToStandOn(session_);
-  session_.changes.AnnounceProfiles();
   if (next != session_.CurrentPersonID && navigator_.LoadData) {
     navigator_.LoadData(next);
     // The next profile may ask for a password and be refused; a sample never does.
     if (session_.CurrentPersonID != next) navigator_.LoadData(sampleProfile1);
-    session_.changes.AnnounceProfiles();
   }
+  session_.changes.AnnounceProfiles();
   UpdateButtons();
 }
 
