@@ -50,7 +50,7 @@ bool ReadHeader(sqlite3 *connection, Header &header) {
 
 // A file marked read-only stays as it is even for an account that could write it all the same.
 bool MayWrite(const QFileInfo &info) {
-  constexpr QFile::Permissions any = QFile::WriteOwner | QFile::WriteUser | QFile::WriteGroup | QFile::WriteOther;
+  constexpr QFile::Permissions any = QFile::WriteOwner | QFile::WriteGroup | QFile::WriteOther;
   return info.isWritable() && (info.permissions() & any) != 0;
 }
 

@@ -150,7 +150,9 @@ qint64 Database::Impl::SelectInto(const KnownStatement &known, const Params &par
 }
 
 Recordset Database::OpenRecordset(const QString &sql, const Params &params, RecordsetKind kind) {
-  return OpenRows(*impl_, sql, params, kind);
+  Recordset rows = OpenRows(*impl_, sql, params, kind);
+  impl_->CloseSideFiles();
+  return rows;
 }
 
 bool Database::HasTable(const QString &table) const {

@@ -50,6 +50,7 @@ struct Database::Impl final : public TranslationContext {
   const StoredTable *FindTable(const QString &schema, const QString &table) override {
     return structure.Find(schema, table);
   }
+  bool IsBooleanColumn(QStringView name) override { return structure.IsBooleanColumn(name); }
   QString OpenSideFile(const QString &path, bool forWriting) override;
   void CloseSideFiles();
   qint64 SelectInto(const KnownStatement &known, const Params &params);

@@ -26,6 +26,8 @@ class TranslationContext {
   virtual ~TranslationContext() = default;
   /// A table or saved query of the main file, or of a side file (its schema name); nullptr when there is none.
   virtual const StoredTable *FindTable(const QString &schema, const QString &table) = 0;
+  /// Is there a table in the main file with a BOOLEAN column of this name?
+  virtual bool IsBooleanColumn(QStringView name) = 0;
   /// Makes a side file's tables reachable and returns the schema name that they stand under.
   virtual QString OpenSideFile(const QString &path, bool forWriting) = 0;
 };

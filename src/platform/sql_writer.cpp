@@ -115,12 +115,28 @@ bool SqlWriter::IsBoundary(size_t i) const {
   return StructureWords().contains(token.text.toString().toUpper());
 }
 
+// "IsPlanned = -1": true is any number but 0, and it stands in the file as 1.
+bool SqlWriter::ComparesTruth(size_t i) const {
+  if (!(Is(i, "=") || Is(i, "<>")) || i == 0 || !Is(i + 1, "-")) return false;
+  if (i + 2 >= Size() || At(i + 2).kind != TokenKind::Number) return false;
+  size_t name = i - 1;
+  while (name > 0 && Is(name, ")")) --name;
+  return IsName(name) && context_.IsBooleanColumn(At(name).text);
+}
+
+size_t SqlWriter::WriteTruth(size_t i) {
+  Put(u"( -");
+  WriteLiteral(i + 1);
+  Put(u"<> 0 )");
+  return i + 2;
+}
+
 void SqlWriter::Write(TokenRange range) {
   size_t i = range.begin;
   while (i < range.end) {
     if (IsBoundary(i)) {
       Put(At(i).text);
-      ++i;
+      i = ComparesTruth(i) ? WriteTruth(i + 1) : i + 1;
       continue;
     }
     size_t end = i;

@@ -49,6 +49,8 @@ class SqlWriter {
   std::function<void(TokenRange)> writeSelect;
 
  private:
+  bool ComparesTruth(size_t i) const;
+  size_t WriteTruth(size_t i);
   void WriteSegment(TokenRange segment);
   void WriteOperands(TokenRange segment);
   size_t WriteOperand(size_t i, size_t end);

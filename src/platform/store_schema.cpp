@@ -14,6 +14,27 @@ const StoredTable *StoreSchema::Find(const QString &schema, const QString &table
   return tables_.emplace(key, std::move(read)).first->second.get();
 }
 
+bool StoreSchema::IsBooleanColumn(QStringView name) {
+  if (!booleans_) {
+    FunctionFailure none;
+    booleans_.emplace();
+    PreparedStatement columns(
+        connection_,
+        QStringLiteral("SELECT c.name, c.type FROM main.sqlite_schema AS t, pragma_table_info(t.name) AS c "
+                       "WHERE t.type = 'table' AND c.type LIKE 'B*'"));
+    while (columns.Step(none)) {
+      const auto declared = ParseDeclaredType(columns.Stored(1).toString().toUtf8());
+      if (declared && declared->type == ColumnType::Boolean) booleans_->insert(columns.Stored(0).toString().toLower());
+    }
+  }
+  return booleans_->contains(name.toString().toLower());
+}
+
+void StoreSchema::Forget() {
+  tables_.clear();
+  booleans_.reset();
+}
+
 std::unique_ptr<StoredTable> StoreSchema::Read(const QString &schema, const QString &table) const {
   FunctionFailure none;
   const QString place = schema.isEmpty() ? QStringLiteral("main") : schema;

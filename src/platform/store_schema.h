@@ -1,6 +1,8 @@
 #pragma once
 
+#include <QSet>
 #include <memory>
+#include <optional>
 #include <unordered_map>
 
 #include "platform/sql_translator.h"
@@ -15,13 +17,15 @@ class StoreSchema {
   explicit StoreSchema(sqlite3 *connection) : connection_(connection) {}
   /// `schema` is the name of a side file, or empty for the main file. nullptr when there is no such table.
   const StoredTable *Find(const QString &schema, const QString &table);
-  void Forget() { tables_.clear(); }
+  bool IsBooleanColumn(QStringView name);
+  void Forget();
 
  private:
   std::unique_ptr<StoredTable> Read(const QString &schema, const QString &table) const;
 
   sqlite3 *connection_;
   std::unordered_map<QString, std::unique_ptr<StoredTable>> tables_;
+  std::optional<QSet<QString>> booleans_;  ///< lower-case names, of all tables
 };
 
 }  // namespace trimlog

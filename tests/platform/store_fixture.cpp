@@ -14,20 +14,21 @@ StoreTest::StoreTest() {
   const auto table = [&](const char *name, const QStringList &columns) {
     data->Execute(QStringLiteral("CREATE TABLE %1 (%2)").arg(QString::fromLatin1(name), columns.join(u',')));
   };
-  table("people", {column("PersonID", ColumnType::Long) + QStringLiteral(" PRIMARY KEY"), column("PersonName", ColumnType::Text, 50),
-                   column("Goal", ColumnType::Text, 20), column("NutTargetID", ColumnType::Byte)});
+  table("people", {column("PersonID", ColumnType::Long) + QStringLiteral(" PRIMARY KEY"),
+                   column("PersonName", ColumnType::Text, 50), column("Goal", ColumnType::Text, 20),
+                   column("NutTargetID", ColumnType::Byte)});
   table("weight_loss",
         {column("PersonID", ColumnType::Long), column("ThisDate", ColumnType::Date),
          column("ThisWeight", ColumnType::Decimal2), column("ThisLoss", ColumnType::Decimal2),
          QStringLiteral("PRIMARY KEY (PersonID, ThisDate)"),
          QStringLiteral("FOREIGN KEY (PersonID) REFERENCES people (PersonID) ON UPDATE CASCADE ON DELETE CASCADE")});
-  table("foods", {column("MealID", ColumnType::Long) + QStringLiteral(" PRIMARY KEY"), column("MealDesc", ColumnType::Text),
-                  column("Calories", ColumnType::Integer), column("Water", ColumnType::Single),
-                  column("TransFat", ColumnType::Double), column("IsModified", ColumnType::Boolean),
-                  column("Notes", ColumnType::Memo)});
-  table("meals", {column("PersonID", ColumnType::Long), column("RecordID", ColumnType::Long), column("ThisDate", ColumnType::Date),
-                  column("MealID", ColumnType::Long), column("Calories", ColumnType::Integer),
-                  column("IsPlanned", ColumnType::Boolean)});
+  table("foods", {column("MealID", ColumnType::Long) + QStringLiteral(" PRIMARY KEY"),
+                  column("MealDesc", ColumnType::Text), column("Calories", ColumnType::Integer),
+                  column("Water", ColumnType::Single), column("TransFat", ColumnType::Double),
+                  column("IsModified", ColumnType::Boolean), column("Notes", ColumnType::Memo)});
+  table("meals", {column("PersonID", ColumnType::Long), column("RecordID", ColumnType::Long),
+                  column("ThisDate", ColumnType::Date), column("MealID", ColumnType::Long),
+                  column("Calories", ColumnType::Integer), column("IsPlanned", ColumnType::Boolean)});
   data->Execute(QStringLiteral("INSERT INTO people (PersonID, PersonName, Goal) SELECT 1, \"Ann\", \"120\";"));
   data->Execute(QStringLiteral("INSERT INTO people (PersonID, PersonName, Goal) SELECT 2, \"Bob\", \"180.5\"; "));
 }
