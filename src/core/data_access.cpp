@@ -103,7 +103,7 @@ QString GetDataValue(Database &database, const QString &field, const QString &ta
 
 QString GetNextID(Database &database, const QString &table, const QString &personID) {
   const KeyRule &rule = FindKeyRule(table);
-  const QString next = NextByRule(database, rule, rule.filter, personID);
+  QString next = NextByRule(database, rule, rule.filter, personID);
   if (rule.expression != nextTarget) return next;
   // The user's numbers are used up, or none is taken yet: go on behind the built-in sets.
   const int number = next.toInt();
