@@ -1,4 +1,5 @@
 # Installs the program for one user, twice. cmake -DBUILD=... -DWORK=... -P install_test.cmake
+cmake_minimum_required(VERSION 3.25)
 set(folder "${WORK}/a user's folder")
 file(REMOVE_RECURSE "${WORK}")
 

@@ -1,5 +1,6 @@
 # Makes the shipped files anew and fills program directories with them.
 # cmake -DMAKER=... -DFACTS=... -DSHIPPED=... -DFILL=... -DWORK=... -DSECONDS=... -P shipped_files_test.cmake
+cmake_minimum_required(VERSION 3.25)
 file(REMOVE_RECURSE "${WORK}")
 file(MAKE_DIRECTORY "${WORK}")
 
