@@ -57,8 +57,7 @@ TEST(EditCommands, ReachTheFieldInsideOtherControls) {
   QPlainTextEdit notes(QStringLiteral("walked"));
   for (QWidget *control : QWidgetList{&combo, &spin, &notes}) {
     SetClipboard("");
-    QMetaObject::invokeMethod(control, "selectAll");
-    if (control == &combo) combo.lineEdit()->selectAll();
+    QMetaObject::invokeMethod(control == &combo ? combo.lineEdit() : control, "selectAll");
     RunEditCommand(EditCommand::Copy, control);
     EXPECT_FALSE(Clipboard().isEmpty()) << control->metaObject()->className();
   }

@@ -51,6 +51,7 @@ class TestForm : public ContentWindow {
 class FrameTest : public ::testing::Test {
  protected:
   FrameTest() {
+    FillNutrientDefinitions(session->nutrients, session.Data());
     session->settings.ShowSplash = false;
     session->settings.ShowTutorial = false;
     session->framePlace = {1500, 1500, 9525, 7095};

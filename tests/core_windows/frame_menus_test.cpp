@@ -125,6 +125,7 @@ TEST_F(FrameCommandsTest, EditActsOnTheFieldThatLastHadTheFocus) {
   second->setFocus();
   second->selectAll();
   QApplication::clipboard()->setText(QStringLiteral("180"));
+  QMetaObject::invokeMethod(Action("mnuEdit")->menu(), "aboutToShow");
   Choose("mnuEditPaste");
   EXPECT_EQ(second->text(), QStringLiteral("180"));
   EXPECT_EQ(first->text(), QStringLiteral("182"));
