@@ -41,6 +41,7 @@ struct GridColumn {
   QString pattern = {};  ///< display pattern of numbers, e.g. "0.00"; empty: the shortest form
   int maxLength = 0;     ///< of a text; 0 for any
   QList<GridChoice> choices = {};
+  QString dropDown = {};  ///< control name of a Choice column's list, e.g. "ddnGenders"
   /// A sentence that says why the value is refused; empty when it is accepted. Sees the value as it would be stored.
   std::function<QString(const Value &)> validate = {};
   std::optional<Qt::Alignment> alignment = {};  ///< default: numbers to the right, everything else to the left

@@ -3,7 +3,6 @@
 #include <gtest/gtest.h>
 
 #include "core/colour_scheme.h"
-#include "core/nutrients.h"
 #include "core/profile_list.h"
 #include "support/test_session.h"
 
@@ -50,7 +49,6 @@ TEST(ApplyProfile, TakesColourTargetsAndStanding) {
   for (const Case &row : cases) {
     SCOPED_TRACE(row.name);
     TestSession session;
-    FillNutrientDefinitions(session->nutrients, session.Data());
     session.AddProfile(7, QStringLiteral("Ann"));
     session.Data().Execute(QStringLiteral("UPDATE people SET NutTargetID=Null WHERE PersonID < 0;"));
     if (*row.stored) session.Data().Execute(QString::fromLatin1(row.stored));
@@ -70,7 +68,6 @@ TEST(ApplyProfile, TakesColourTargetsAndStanding) {
 
 TEST(ApplyProfile, ReadsTargetsBeforeRewardsAndStatisticsLast) {
   TestSession session;
-  FillNutrientDefinitions(session->nutrients, session.Data());
   session.AddProfile(7, QStringLiteral("Ann"));
   session.Data().Execute(QStringLiteral("UPDATE people SET NutTargetID=10 WHERE PersonID=7;"));
   const QString expected =

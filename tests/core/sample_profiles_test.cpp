@@ -4,7 +4,6 @@
 
 #include <QFile>
 
-#include "core/nutrients.h"
 #include "platform/recordset.h"
 #include "support/test_session.h"
 
@@ -37,8 +36,6 @@ QStringList AllRowsOf(TestSession &session, int personID, const QString &suffix 
 
 class SampleReset : public ::testing::Test {
  protected:
-  SampleReset() { FillNutrientDefinitions(session->nutrients, session.Data()); }
-
   // What a curious person leaves behind in a sample.
   void Scribble(int personID) {
     session.Data().Execute(

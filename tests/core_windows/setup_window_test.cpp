@@ -8,7 +8,6 @@
 #include <QTabWidget>
 #include <QTest>
 
-#include "core/nutrients.h"
 #include "core/profiles.h"
 #include "core/windows/choice_combo.h"
 #include "core/windows/colour_combo.h"
@@ -23,7 +22,6 @@ namespace {
 class SetupWindow : public ::testing::Test {
  protected:
   SetupWindow() {
-    FillNutrientDefinitions(session->nutrients, session.Data());
     navigator.LoadData = [this](const QString &personID) {
       loaded.append(personID);
       if (!refused.contains(personID)) ApplyProfile(*session, {}, personID);
@@ -246,6 +244,17 @@ TEST_F(SetupWindow, AProfileIsChangedInPlaceAndCancelKeepsIt) {
   EXPECT_EQ(Person("Goal", 1), "142.5");
   EXPECT_EQ(Person("PersonName", 2), "Ann");
   EXPECT_EQ(announced, 1);
+}
+
+TEST_F(SetupWindow, TheGenderIsChosenFromItsList) {
+  Open(SetupTab::Profiles);
+  auto &grid = The<BoundGrid>(QStringLiteral("grdPeople"));
+  grid.setCurrentIndex(grid.Model().index(0, grid.Model().ColumnByName(QStringLiteral("Gender"))));
+  EXPECT_EQ(grid.currentIndex().data().toString().toStdString(), "Female");
+  QTest::keyClick(&grid, Qt::Key_F2);
+  QTest::keyClick(&The<QComboBox>(QStringLiteral("ddnGenders")), Qt::Key_Up);
+  EXPECT_TRUE(grid.CommitRow());
+  EXPECT_EQ(Person("GenderID", 1), "1");
 }
 
 TEST_F(SetupWindow, RefusedValuesStayInViewAndKeepTheWindowOpen) {

@@ -44,6 +44,7 @@ TestSession::TestSession(const QLocale &locale) {
   session = std::make_unique<Session>(SessionPlaces{directory.path(), *store, clock, machine, boxes, locale});
   session->database = Database::Open(session->DataFilePath());
   LoadControlValues(session->settings, *store, true);
+  FillNutrientDefinitions(session->nutrients, Data());
   AddProfile(1, QStringLiteral("Test Person"));
   session->CurrentPersonID = QStringLiteral("1");
   session->LastRealPersonID = QStringLiteral("1");

@@ -44,8 +44,8 @@ class RecordingMachine final : public Machine {
 std::unique_ptr<SettingsStore> MemorySettings();
 
 /// A session on a program directory of its own, with the shipped tlg.dat copied in and opened, profile 1 "Test Person"
-/// made, the settings at their defaults. It is the 1st of March 2026, 12:00, and the locale is US English unless told
-/// otherwise.
+/// made, the settings at their defaults, the nutrients' definitions read. It is the 1st of March 2026, 12:00, and the
+/// locale is US English unless told otherwise.
 class TestSession {
  public:
   explicit TestSession(const QLocale &locale = QLocale(QLocale::English, QLocale::UnitedStates));

@@ -58,7 +58,7 @@ QWidget *GridDelegate::createEditor(QWidget *parent, const QStyleOptionViewItem 
   const QLocale &locale = grid_->Model().Locale();
   if (column.type == GridType::Choice) {
     QComboBox *const list = MakeList(column, parent);
-    list->setObjectName(name);
+    list->setObjectName(column.dropDown.isEmpty() ? name : column.dropDown);
     list->setAccessibleName(label);
     auto *self = const_cast<GridDelegate *>(this);
     connect(list, &QComboBox::activated, self, [self, list] { Q_EMIT self->commitData(list); });
