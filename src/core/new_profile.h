@@ -10,14 +10,14 @@ namespace trimlog {
 
 /// A further profile as the add dialog asks for it. Numbers are in the unit system in force.
 struct NewProfile {
-  QString PersonName;
-  QString goal;             ///< as typed, in the locale's form
+  QString PersonName = {};
+  QString goal = {};        ///< as typed, in the locale's form
   double HeightFeet = 0;    ///< feet or metres
   double HeightInches = 0;  ///< inches or centimetres
   int GenderID = 2;         ///< 1 male, 2 female
-  QDate BirthDate;          ///< invalid: not told
-  QString UserID;           ///< the Profile ID; only with the Profile Administrator
-  QString Password;         ///< likewise
+  QDate BirthDate = {};     ///< invalid: not told
+  QString UserID = {};      ///< the Profile ID; only with the Profile Administrator
+  QString Password = {};    ///< likewise
 };
 
 /// What keeps a new profile from being added, in the order of the fields.

@@ -9,7 +9,7 @@
 #include "core/failure_guard.h"
 #include "core/options.h"
 #include "core/profile_list.h"
-#include "core/windows/frmCalendar.h"
+#include "core/windows/show_calendar.h"
 #include "platform/windows/date_field.h"
 #include "platform/windows/number_field.h"
 #include "platform/windows/text_field.h"

@@ -2,6 +2,7 @@
 
 #include <QString>
 #include <QWidget>
+#include <functional>
 
 namespace trimlog {
 
@@ -16,5 +17,9 @@ class AddRecPage : public QWidget {
   /// Checks and stores the record. False keeps the dialog open: a box was shown and the faulty field has the focus.
   virtual bool Store() = 0;
 };
+
+/// Opens the add dialog, frmAddRec, on a page made for it. True when a record was stored; `stored` then sees the page.
+bool AddRec(QWidget *owner, const std::function<AddRecPage *(QWidget *parent)> &makePage,
+            const std::function<void(AddRecPage &page)> &stored = {});
 
 }  // namespace trimlog

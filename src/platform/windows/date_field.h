@@ -7,7 +7,7 @@
 namespace trimlog {
 
 /// A field for a date in the person's short form. F4 and Alt+Down ask for the calendar; AttachCalendar
-/// (core/windows/frmCalendar.h) answers, and makes the button beside the field.
+/// (core/windows/show_calendar.h) answers, and makes the button beside the field.
 class DateField : public QLineEdit {
   Q_OBJECT
  public:

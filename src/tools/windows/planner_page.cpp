@@ -1,15 +1,15 @@
 #include "tools/windows/planner_page.h"
 
+#include <QAbstractButton>
 #include <QApplication>
 #include <QFrame>
 #include <QLabel>
 #include <QPushButton>
-#include <QToolButton>
 #include <QVBoxLayout>
 
 #include "core/failure_guard.h"
-#include "core/windows/art.h"
 #include "core/windows/setup_controls.h"
+#include "core/windows/show_calendar.h"
 #include "core/windows/theme.h"
 #include "platform/windows/date_field.h"
 #include "platform/windows/number_field.h"
@@ -29,8 +29,9 @@ PlannerPage::PlannerPage(Session &session, const ToolsProfile &profile, QWidget 
           QStringLiteral(
               "Here you can experiment with different scenarios and see what you need to do to achieve success."));
   AddGoalStep(layout);
-  AddMethodStep(layout);
-  AddStartStep(layout);
+  QHBoxLayout *beside = AddRow(layout);
+  AddMethodStep(beside);
+  AddStartStep(beside);
   AddResultStep(layout);
   AddNote(
       layout, QStringLiteral("Label5"),
@@ -88,7 +89,8 @@ void PlannerPage::AddMethodStep(QLayout *layout) {
   txtGoalMethodDate->setMaximumWidth(FieldWidth(txtGoalMethodDate, 14));
   dateRow->addWidget(txtGoalMethodDate);
   lblGoalMethodDate->setBuddy(txtGoalMethodDate);
-  AddCalendarButton(dateRow);
+  cmdCalendar = AttachCalendar(session_, *txtGoalMethodDate, QStringLiteral("cmdCalendar"));
+  dateRow->addWidget(cmdCalendar);
   dateRow->addStretch();
   checks_[2] = new LeaveCheck(txtGoalMethodDate, session_.boxes,
                               [this](const QString &text) { return CheckGoalMethodDate(text, session_.locale); });
@@ -104,6 +106,7 @@ void PlannerPage::AddStartStep(QLayout *layout) {
       AddOption(panel->layout(), QStringLiteral("optInitialWeight"), QStringLiteral("Use My Initial Weight"));
   optCurrentWeight =
       AddOption(panel->layout(), QStringLiteral("optCurrentWeight"), QStringLiteral("Use My Current Weight"));
+  qobject_cast<QBoxLayout *>(panel->layout())->addStretch();
   GroupOptions(panel, {optInitialWeight, optCurrentWeight});
   optCurrentWeight->setChecked(true);
   ShowWeights();
@@ -119,17 +122,6 @@ void PlannerPage::AddResultStep(QLayout *layout) {
   connect(cmdCalculate, &QPushButton::clicked, this, &PlannerPage::Calculate);
 }
 
-void PlannerPage::AddCalendarButton(QLayout *layout) {
-  auto *button = new QToolButton(this);
-  button->setObjectName(QStringLiteral("cmdCalendar"));
-  button->setIcon(ArtIcon(QStringLiteral("calendar")));
-  button->setToolTip(QStringLiteral("Choose a date"));
-  button->setAccessibleName(button->toolTip());
-  button->setFocusPolicy(Qt::StrongFocus);
-  layout->addWidget(button);
-  cmdCalendar = button;
-}
-
 void PlannerPage::ConnectPrompts() {
   for (QLineEdit *field : {static_cast<QLineEdit *>(txtGoal), static_cast<QLineEdit *>(txtGoalMethodLbsWeek),
                            static_cast<QLineEdit *>(txtGoalMethodDate)}) {
@@ -141,6 +133,10 @@ void PlannerPage::ConnectPrompts() {
   for (const QRadioButton *option : {optGoalLbs, optGoalDate}) {
     connect(option, &QRadioButton::toggled, this, &PlannerPage::SetToolFields);
   }
+  // A date from the calendar is calculated at once, and so is one that Enter ends; leaving the field is not.
+  connect(txtGoalMethodDate, &QLineEdit::editingFinished, this, [this] {
+    if (window()->focusWidget() == txtGoalMethodDate && txtGoalMethodDate->Date().isValid()) UpdateGoalText();
+  });
   SetToolFields();
 }
 
