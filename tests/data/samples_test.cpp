@@ -121,10 +121,10 @@ TEST(SampleProfiles, ExerciseCaloriesFollowTheDaysWeightAndTheMinutes) {
   EXPECT_EQ(
       file.Text(QStringLiteral("Calories"), QStringLiteral("activities WHERE PersonID=-2 AND ThisDate=#10/1/2026#")),
       "162");
-  // No weight on the 4th: moderate walking burns the listed 125, for 45 minutes.
+  // No weight on the 4th: moderate walking burns the listed 125, twice in an hour.
   EXPECT_EQ(
       file.Text(QStringLiteral("Calories"), QStringLiteral("activities WHERE PersonID=-2 AND ThisDate=#10/4/2026#")),
-      "187.5");
+      "250");
 }
 
 TEST(SampleProfiles, TheSecondIsSevenMonthsOfWeightsOnly) {
