@@ -5,6 +5,7 @@
 #include <QInputDialog>
 #include <QLabel>
 #include <QMessageBox>
+#include <QPushButton>
 
 namespace trimlog {
 
@@ -58,6 +59,11 @@ BoxButton QtBoxes::Show(const Box &box) {
   for (const BoxButton button : box.buttons) message.addButton(StandardButtonOf(button));
   const BoxButton preset = box.buttons.contains(box.defaultButton) ? box.defaultButton : box.buttons.first();
   message.setDefaultButton(StandardButtonOf(preset));
+  if (box.help) {
+    QPushButton *helpButton = message.addButton(QMessageBox::Help);
+    helpButton->disconnect();  // of the box itself, which would close
+    QObject::connect(helpButton, &QPushButton::clicked, &message, box.help);
+  }
 
   const auto pressed = static_cast<QMessageBox::StandardButton>(message.exec());
   for (const BoxButton button : box.buttons) {
