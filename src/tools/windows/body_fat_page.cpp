@@ -37,31 +37,27 @@ void BodyFatPage::AddInputs(QLayout *layout) {
   pnlBodyFatGender = AddLabel(person, QStringLiteral("pnlBodyFatGender"), {});
   person->addStretch();
 
-  QHBoxLayout *weight = AddRow(layout);
   optBodyFatCurrentWeight =
-      AddOption(weight, QStringLiteral("optBodyFatCurrentWeight"), QStringLiteral("Use My Current Weight"));
-  weight->addSpacing(24);
+      AddOption(layout, QStringLiteral("optBodyFatCurrentWeight"), QStringLiteral("Use My Current Weight"));
+  QHBoxLayout *weight = AddRow(layout);
   optBodyFatGoalWeight =
       AddOption(weight, QStringLiteral("optBodyFatGoalWeight"), QStringLiteral("Use My Goal Weight:"));
   txtBodyFatGoal = AddNumber(weight, QStringLiteral("txtBodyFatGoal"), QStringLiteral("Goal Weight"), session_.locale);
   lblBodyFatUOM = AddLabel(weight, QStringLiteral("lblBodyFatUOM"), session_.UomDisplay);
   weight->addStretch();
 
-  QHBoxLayout *waist = AddRow(layout);
   optBodyFatCurrentWaist =
-      AddOption(waist, QStringLiteral("optBodyFatCurrentWaist"), QStringLiteral("Use My Most Recent Measurement"));
-  waist->addSpacing(24);
+      AddOption(layout, QStringLiteral("optBodyFatCurrentWaist"), QStringLiteral("Use My Most Recent Measurement"));
+  QHBoxLayout *waist = AddRow(layout);
   optBodyFatOtherWaist =
       AddOption(waist, QStringLiteral("optBodyFatOtherWaist"), QStringLiteral("Use Another Measurement:"));
   txtBodyFatWaist = AddNumber(waist, QStringLiteral("txtBodyFatWaist"), QStringLiteral("Waist"), session_.locale);
   lblBodyFatUOMInches = AddLabel(waist, QStringLiteral("lblBodyFatUOMInches"), LengthUnitText(session_.settings.UomID));
   waist->addStretch();
-
-  QHBoxLayout *command = AddRow(layout);
-  command->addStretch();
-  cmdBodyFatCalculate = AddCommand(command, QStringLiteral("cmdBodyFatCalculate"), QStringLiteral("Calculate Now"));
+  cmdBodyFatCalculate = AddCommand(waist, QStringLiteral("cmdBodyFatCalculate"), QStringLiteral("Calculate Now"));
   connect(cmdBodyFatCalculate, &QPushButton::clicked, this, &BodyFatPage::Calculate);
 
+  AlignOptions({optBodyFatGoalWeight, optBodyFatOtherWaist});
   GroupOptions(this, {optBodyFatCurrentWeight, optBodyFatGoalWeight});
   GroupOptions(this, {optBodyFatCurrentWaist, optBodyFatOtherWaist});
   optBodyFatCurrentWeight->setChecked(true);

@@ -53,7 +53,7 @@ void CaloricNeedsPage::AddInputs(QLayout *layout) {
   QHBoxLayout *weight = AddRow(layout);
   optBMRCurrentWeight =
       AddOption(weight, QStringLiteral("optBMRCurrentWeight"), QStringLiteral("Use My Current Weight"));
-  weight->addSpacing(24);
+  weight->addSpacing(8);
   optBMRGoalWeight = AddOption(weight, QStringLiteral("optBMRGoalWeight"), QStringLiteral("Use My Goal Weight:"));
   txtBMRGoal = AddNumber(weight, QStringLiteral("txtBMRGoal"), QStringLiteral("Goal Weight"), session_.locale);
   pnlBMRUOM = AddLabel(weight, QStringLiteral("pnlBMRUOM"), session_.UomDisplay);
@@ -61,7 +61,7 @@ void CaloricNeedsPage::AddInputs(QLayout *layout) {
 
   QHBoxLayout *age = AddRow(layout);
   optBMRCurrentAge = AddOption(age, QStringLiteral("optBMRCurrentAge"), QStringLiteral("Use My Current Age"));
-  age->addSpacing(24);
+  age->addSpacing(8);
   optBMROtherAge = AddOption(age, QStringLiteral("optBMROtherAge"), QStringLiteral("Use Another Age:"));
   txtBMRAge = AddNumber(age, QStringLiteral("txtBMRAge"), QStringLiteral("Age"), session_.locale);
   age->addStretch();
@@ -80,16 +80,15 @@ void CaloricNeedsPage::AddInputs(QLayout *layout) {
 }
 
 void CaloricNeedsPage::AddResults(QLayout *layout) {
+  pnlBMRResults1 = AddLabel(layout, QStringLiteral("pnlBMRResults1"), {});
   QHBoxLayout *basal = AddRow(layout);
-  pnlBMRResults1 = AddLabel(basal, QStringLiteral("pnlBMRResults1"), {});
-  pnlBMRResults1->setWordWrap(true);
   pnlBMRValue = AddLabel(basal, QStringLiteral("pnlBMRValue"), {});
   QFont bold = pnlBMRValue->font();
   bold.setBold(true);
   pnlBMRValue->setFont(bold);
   pnlBMRResults2 =
       KeepPlaceWhenHidden(AddLabel(basal, QStringLiteral("pnlBMRResults2"), QStringLiteral("This is your BMR.")));
-  basal->setStretch(0, 1);
+  basal->addStretch();
   pnlBMRResults3 =
       KeepPlaceWhenHidden(AddLabel(layout, QStringLiteral("pnlBMRResults3"),
                                    QStringLiteral("Now click on your activity level in the chart below.")));
@@ -107,6 +106,8 @@ void CaloricNeedsPage::ShowBMRTool() {
   pnlBMRGender->setText(GenderText(profile_.body.GenderID));
   pnlBMRHeight->setText(WholeHeightText(profile_.body, session_.settings.UomID, session_.locale));
   optBMRCurrentWeight->setText(CurrentWeightCaption(profile_, session_.UomDisplay, session_.locale));
+  AlignOptions({optBMRCurrentWeight, optBMRCurrentAge});
+  AlignOptions({optBMRGoalWeight, optBMROtherAge});
 }
 
 void CaloricNeedsPage::ClearBMRResults() {

@@ -28,11 +28,12 @@ namespace {
 struct Tool {
   const char *caption;
   const char *helpTopic;
+  const char *command;  ///< the button that Enter presses
 };
 constexpr std::array<Tool, 3> tools = {{
-    {"Plan for My Weight Loss Goal", "35"},
-    {"Calculate My Daily Caloric Needs", "63"},
-    {"Check My Body Fat Percentage", "65"},
+    {"Plan for My Weight Loss Goal", "35", "cmdCalculate"},
+    {"Calculate My Daily Caloric Needs", "63", "cmdBMRCalculate"},
+    {"Check My Body Fat Percentage", "65", "cmdBodyFatCalculate"},
 }};
 const QString startingWeightTopic = QStringLiteral("12");
 
@@ -91,7 +92,7 @@ void frmTools::AddChoice(QLayout *layout) {
 
 void frmTools::AddPages(QLayout *layout) {
   // Scrolls only where the screen is smaller than the largest panel.
-  auto *scroll = new QScrollArea(this);
+  auto *scroll = scroll_ = new QScrollArea(this);
   scroll->setWidgetResizable(true);
   scroll->setFrameShape(QFrame::NoFrame);
   scroll->setFocusPolicy(Qt::NoFocus);
@@ -104,8 +105,6 @@ void frmTools::AddPages(QLayout *layout) {
   panels_->addWidget(pnlBodyFat);
   scroll->setWidget(panels_);
   layout->addWidget(scroll);
-  const QSize room = screen()->availableSize() * 0.8;
-  scroll->setMinimumSize(panels_->minimumSizeHint().boundedTo(room));
 }
 
 void frmTools::AddButtons(QLayout *layout) {
@@ -115,7 +114,6 @@ void frmTools::AddButtons(QLayout *layout) {
   cmdHelp = AddCommand(panel->layout(), QStringLiteral("cmdHelp"), QStringLiteral("&Help"));
   cmdClose = AddCommand(panel->layout(), QStringLiteral("cmdClose"), QStringLiteral("&Close"));
   cmdHelp->setEnabled(static_cast<bool>(navigator_.ShowHelp));
-  for (QPushButton *button : findChildren<QPushButton *>()) button->setAutoDefault(false);
   connect(cmdPrint, &QPushButton::clicked, this, &frmTools::PrintResults);
   connect(cmdHelp, &QPushButton::clicked, this,
           [this] { navigator_.ShowHelp(QString::fromLatin1(tools[cboTools->currentIndex()].helpTopic)); });
@@ -124,7 +122,24 @@ void frmTools::AddButtons(QLayout *layout) {
   });
 }
 
+void frmTools::FitToPanels() {
+  // Captions may just have grown: their rows must know before they are asked.
+  for (QWidget *page :
+       {static_cast<QWidget *>(pnlPlanner), static_cast<QWidget *>(pnlBMR), static_cast<QWidget *>(pnlBodyFat)}) {
+    page->layout()->activate();
+  }
+  // Room for the frame and title bar that the desktop puts around the window.
+  const QSize room = screen()->availableSize() - QSize(16, 48);
+  const int others = layout()->sizeHint().height() - scroll_->sizeHint().height();
+  const QSize needed = panels_->sizeHint().expandedTo(panels_->minimumSizeHint());
+  // A bar at the right must not make one at the bottom necessary.
+  const bool scrolls = needed.height() + others > room.height();
+  const int bar = scrolls ? style()->pixelMetric(QStyle::PM_ScrollBarExtent, nullptr, this) : 0;
+  resize(QSize(needed.width() + bar, needed.height() + others).expandedTo(size()).boundedTo(room));
+}
+
 void frmTools::showEvent(QShowEvent *event) {
+  if (!activated_) FitToPanels();
   QDialog::showEvent(event);
   if (activated_) return;
   activated_ = true;
@@ -141,6 +156,7 @@ void frmTools::Activate() {
     pnlBMR->FillFields();
     pnlBodyFat->FillFields();
     FillTool();
+    FitToPanels();
   });
 }
 
@@ -178,6 +194,7 @@ void frmTools::Lock() {
     control->setEnabled(false);
   }
   findChild<QLabel *>(QStringLiteral("lblTools"))->setEnabled(false);
+  cmdClose->setDefault(true);
   cmdClose->setFocus();
 }
 
@@ -189,9 +206,13 @@ void frmTools::LeaveFor(const std::function<void()> &door) {
 void frmTools::SelectTool(int index) {
   panels_->setCurrentIndex(index);
   FillTool();
+  FitToPanels();
 }
 
 void frmTools::FillTool() {
+  if (panels_->isEnabled()) {
+    findChild<QPushButton *>(QString::fromLatin1(tools[cboTools->currentIndex()].command))->setDefault(true);
+  }
   switch (static_cast<ToolsPanel>(cboTools->currentIndex())) {
     case ToolsPanel::GoalPlanner:
       pnlPlanner->FocusGoal();

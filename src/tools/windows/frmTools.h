@@ -8,6 +8,7 @@
 
 class QComboBox;
 class QPushButton;
+class QScrollArea;
 class QStackedWidget;
 
 namespace trimlog {
@@ -42,6 +43,8 @@ class frmTools : public QDialog {
   void LeaveFor(const std::function<void()> &door);
   void SelectTool(int index);
   void FillTool();
+  /// Grows the window until no panel is cut, as far as the screen allows.
+  void FitToPanels();
   void FollowChange(const DataChange &change);
   void PrintResults();
 
@@ -51,6 +54,7 @@ class frmTools : public QDialog {
   bool activated_ = false;
   bool planShown_ = false;  ///< the fields hold the profile's plan and may be stored
   QComboBox *cboTools = nullptr;
+  QScrollArea *scroll_ = nullptr;
   QStackedWidget *panels_ = nullptr;
   PlannerPage *pnlPlanner = nullptr;
   CaloricNeedsPage *pnlBMR = nullptr;

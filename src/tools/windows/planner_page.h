@@ -42,7 +42,6 @@ class PlannerPage : public QWidget {
   void AddMethodStep(QLayout *layout);
   void AddStartStep(QLayout *layout);
   void AddResultStep(QLayout *layout);
-  void AddCalendarButton(QLayout *layout);
   QFrame *AddStep(QLayout *layout, const QString &name, const QString &caption);
   void ConnectPrompts();
 

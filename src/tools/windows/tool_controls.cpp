@@ -46,6 +46,7 @@ QLabel *AddResultText(QLayout *layout, const QString &name, const QString &spoke
   text->setWordWrap(true);
   text->setFrameShape(QFrame::StyledPanel);
   text->setMargin(4);
+  text->setAlignment(Qt::AlignLeft | Qt::AlignTop);
   text->setMinimumHeight(text->fontMetrics().lineSpacing() * lines + 12);
   text->setSizePolicy(QSizePolicy::Expanding, QSizePolicy::MinimumExpanding);
   text->setTextInteractionFlags(Qt::TextSelectableByMouse | Qt::TextSelectableByKeyboard);
