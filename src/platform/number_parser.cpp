@@ -1,3 +1,5 @@
+#include <QRegularExpression>
+#include <algorithm>
 #include <charconv>
 #include <cmath>
 

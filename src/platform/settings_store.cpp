@@ -1,14 +1,29 @@
 #include "platform/settings_store.h"
 
-#include <QDir>
+#include <QFile>
+#include <QFileInfo>
 #include <QSettings>
 #include <QStandardPaths>
+#ifdef Q_OS_UNIX
+#include <fcntl.h>
+#include <unistd.h>
+#endif
 
 namespace trimlog {
 
 namespace {
 
 QString UpToNul(const QString &text) { return text.section(QChar(0), 0, 0); }
+
+/// A renamed file is safe from a power cut once its folder is on the disk too.
+void FlushFolder([[maybe_unused]] const QString &folder) {
+#ifdef Q_OS_UNIX
+  const int descriptor = open(QFile::encodeName(folder).constData(), O_RDONLY | O_CLOEXEC);
+  if (descriptor < 0) return;
+  fsync(descriptor);
+  close(descriptor);
+#endif
+}
 
 /// One group per key path in an INI file: "[Software%5CCorvane%20Software%5C...]". QSettings writes through a temporary
 /// file that it flushes to the disk and renames, so that a crash leaves the old values or the new ones.
@@ -58,6 +73,7 @@ class IniStore final : public SettingsStore {
   bool Written() {
     if (batches_ > 0) return true;
     ini_.sync();
+    FlushFolder(QFileInfo(ini_.fileName()).absolutePath());
     return ini_.status() == QSettings::NoError;
   }
 

@@ -1,3 +1,5 @@
+#include <QRegularExpression>
+
 #include "platform/error.h"
 #include "platform/text_format.h"
 

@@ -6,6 +6,7 @@
 #include <QLibrary>
 #include <QProcess>
 #include <QScreen>
+#include <QUrl>
 #include <QWindow>
 
 #ifdef Q_OS_WIN
