@@ -13,6 +13,7 @@
 #include "platform/text_format.h"
 #include "support/test_session.h"
 #include "weightlog/weight_log.h"
+#include "weightlog/windows/fit_label.h"
 #include "weightlog/windows/frmReward.h"
 
 namespace trimlog {
@@ -346,17 +347,20 @@ TEST(FrmData, DisablesDoorsThatLeadNowhere) {
 
 TEST(FrmData, ShowsEverythingUncutAtItsSmallestSize) {
   Calendar c;
-  WeightLog(*c.session).Insert({QDate(2026, 3, 1), 1234.56, 0});
+  WeightLog(*c.session).Insert({QDate(2026, 3, 1), 188.88, 0});
   c.session->settings.ShowLoss = true;
   c.Open();
   c.form->resize(c.form->minimumSizeHint());
   QApplication::processEvents();
-  for (const char *name : {"txtData(1)", "txtLoss(1)", "txtCalories(1)", "txtDateGrid(1)", "txtTotal(1)", "txtMonth"}) {
-    const auto *widget = c.Find<QWidget>(name);
-    EXPECT_GE(widget->height(), widget->fontMetrics().height()) << name;
-    EXPECT_TRUE(widget->parentWidget()->rect().contains(widget->geometry())) << name;
+  for (const char *name : {"txtLoss(1)", "txtCalories(1)", "txtDateGrid(1)", "txtTotal(1)", "txtMonth"}) {
+    const auto *label = c.Find<FitLabel>(name);
+    EXPECT_GE(label->height(), QFontMetrics(label->DrawnFont()).height()) << name;
+    EXPECT_TRUE(label->parentWidget()->rect().contains(label->geometry())) << name;
+    EXPECT_FALSE(label->geometry().intersects(c.Field(1)->geometry()) && label->parent() == c.Field(1)->parent())
+        << name;
   }
-  EXPECT_GE(c.Field(1)->width(), c.Field(1)->fontMetrics().horizontalAdvance(QStringLiteral("1234.56")));
+  EXPECT_GE(c.Field(1)->height(), c.Field(1)->fontMetrics().height());
+  EXPECT_GE(c.Field(1)->width(), c.Field(1)->fontMetrics().horizontalAdvance(QStringLiteral("188.88")));
 }
 
 }  // namespace

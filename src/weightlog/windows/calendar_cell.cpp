@@ -95,9 +95,10 @@ void CalendarCellView::Show(const CalendarCell &cell, const CalendarLook &look, 
   if (!keepText && txtData->text() != cell.data) txtData->setText(cell.data);
   txtData->setEnabled(cell.enabled);
   txtLoss->ShowText(cell.loss);
-  txtLoss->ShowColor(cell.lossColor == calendar_colour::even
-                         ? wanted.color(QPalette::WindowText)
-                         : MeaningColor(ColorFromBgr(cell.lossColor), wanted.color(QPalette::Window)));
+  if (!cell.loss.isEmpty())
+    txtLoss->ShowColor(cell.lossColor == calendar_colour::even
+                           ? wanted.color(QPalette::WindowText)
+                           : MeaningColor(ColorFromBgr(cell.lossColor), wanted.color(QPalette::Window)));
   txtLoss->setVisible(cell.lossVisible);
   txtCalories->ShowText(cell.calories);
   txtCalories->setVisible(cell.caloriesVisible);
@@ -110,7 +111,7 @@ void CalendarCellView::Show(const CalendarCell &cell, const CalendarLook &look, 
     today_ = today;
     line_ = look.line;
     accent_ = look.accent;
-    txtDateGrid->setFont(DayFont());
+    txtDateGrid->UseFont(DayFont());
     update();
   }
   setVisible(cell.visible);
@@ -125,9 +126,9 @@ QFont CalendarCellView::DayFont() const {
 void CalendarCellView::SetFonts(const CalendarFonts &fonts) {
   small_ = fonts.small;
   txtData->setFont(fonts.weight);
-  txtLoss->setFont(fonts.small);
-  txtCalories->setFont(fonts.small);
-  txtDateGrid->setFont(DayFont());
+  txtLoss->UseFont(fonts.small);
+  txtCalories->UseFont(fonts.small);
+  txtDateGrid->UseFont(DayFont());
   Arrange();
 }
 

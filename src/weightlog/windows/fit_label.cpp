@@ -29,12 +29,19 @@ void FitLabel::ShowColor(const QColor &color) {
   setPalette(own);
 }
 
+void FitLabel::UseFont(const QFont &font) {
+  if (ownFont_ && drawn_ == font) return;
+  drawn_ = font;
+  ownFont_ = true;
+  update();
+}
+
 QFont FitLabel::FittingFont() const {
-  QFont fitting = font();
-  const int wanted = fontMetrics().horizontalAdvance(text());
+  QFont fitting = DrawnFont();
+  const int wanted = QFontMetrics(fitting).horizontalAdvance(text());
   if (wanted > width() && wanted > 0) {
     const double share = std::max(smallestShare, static_cast<double>(width()) / wanted);
-    fitting.setPointSizeF(QFontInfo(font()).pointSizeF() * share);
+    fitting.setPointSizeF(QFontInfo(fitting).pointSizeF() * share);
   }
   return fitting;
 }

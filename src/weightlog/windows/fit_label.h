@@ -12,6 +12,9 @@ class FitLabel : public QLabel {
   FitLabel(const QString &name, Qt::Alignment alignment, QWidget *parent);
   void ShowText(const QString &text);
   void ShowColor(const QColor &color);
+  /// Draws in this font. Cheaper than the widget's own, which a layout would hear of.
+  void UseFont(const QFont &font);
+  QFont DrawnFont() const { return ownFont_ ? drawn_ : font(); }
 
  protected:
   void paintEvent(QPaintEvent *event) override;
@@ -19,6 +22,9 @@ class FitLabel : public QLabel {
 
  private:
   QFont FittingFont() const;
+
+  QFont drawn_;
+  bool ownFont_ = false;
 };
 
 }  // namespace trimlog

@@ -20,6 +20,25 @@
 
 namespace trimlog {
 
+namespace {
+
+/// A button that stands on a coloured panel: its own colours are the panel's.
+QPalette ButtonPalette(const QColor &panel) {
+  const QColor text = ContrastText(panel);
+  QColor faint = text;
+  faint.setAlphaF(0.5F);
+  QPalette palette;
+  palette.setColor(QPalette::Button, panel);
+  palette.setColor(QPalette::Window, panel);
+  palette.setColor(QPalette::ButtonText, text);
+  palette.setColor(QPalette::WindowText, text);
+  palette.setColor(QPalette::Disabled, QPalette::ButtonText, faint);
+  palette.setColor(QPalette::Disabled, QPalette::WindowText, faint);
+  return palette;
+}
+
+}  // namespace
+
 frmData::frmData(Session &session, const Navigator &navigator, QWidget *parent)
     : ContentWindow(parent), session_(session), navigator_(navigator), model_(session) {
   setObjectName(QStringLiteral("frmData"));
@@ -264,6 +283,8 @@ void frmData::ShowSettings() {
   const quint32 panel = printing_ ? calendar_colour::white : session_.BackColor;
   PaintPanel(lblMonth, panel);
   PaintPanel(lblTotal2, panel);
+  const QPalette buttons = ButtonPalette(ColorFromBgr(panel, palette()));
+  for (QToolButton *button : {cmdPrevMonth, cmdNextMonth, cmdToday, cmdDiary, cmdTips}) button->setPalette(buttons);
   chkShowLoss->setChecked(session_.settings.ShowLoss);
   chkShowCalories->setChecked(session_.settings.ShowCalories);
   cboNutrientID->setCurrentIndex(cboNutrientID->findData(session_.settings.NutrientID));
@@ -289,6 +310,8 @@ void frmData::PrintContents() {
 void frmData::PrepareForPrinting(bool printing) {
   printing_ = printing;
   grid_->SetPaper(printing);
+  setPalette(printing ? grid_->DesktopPalette() : QPalette());
+  setAutoFillBackground(printing);
   for (QWidget *control : std::initializer_list<QWidget *>{cmdPrevMonth, cmdNextMonth, cmdToday, cmdDiary, cmdTips,
                                                            chkShowLoss, chkShowCalories, cboNutrientID}) {
     control->setVisible(!printing);

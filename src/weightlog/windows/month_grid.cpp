@@ -92,8 +92,11 @@ int MonthGrid::HeaderHeight() const { return fontMetrics().height() + 6; }
 int MonthGrid::TotalsWidth() const { return width() - days * (width() * 10 / 78); }
 
 QSize MonthGrid::minimumSizeHint() const {
-  const int column = fontMetrics().horizontalAdvance(QStringLiteral("-2,888 Cal"));
-  return {(days + 1) * column, HeaderHeight() + calendarRows * CalendarFonts::LeastHeight(font())};
+  const CalendarFonts fonts(font(), 0);
+  const int figure = QFontMetrics(fonts.small).horizontalAdvance(QStringLiteral("-2888 Cal"));
+  const int weight = QFontMetrics(fonts.weight).horizontalAdvance(QStringLiteral("888.88"));
+  const int column = std::max(figure, weight) + 14;
+  return {column * 78 / 10, HeaderHeight() + calendarRows * CalendarFonts::LeastHeight(font())};
 }
 
 void MonthGrid::Arrange() {
@@ -126,7 +129,7 @@ void MonthGrid::ShowFonts() {
   for (CalendarCellView *cell : cells_) cell->SetFonts(fonts);
   QFont total = fonts.weight;
   total.setWeight(QFont::Normal);
-  for (FitLabel *label : txtTotal_) label->setFont(total);
+  for (FitLabel *label : txtTotal_) label->UseFont(total);
 }
 
 void MonthGrid::resizeEvent(QResizeEvent *) {
