@@ -40,22 +40,27 @@ void PreparedStatement::NameTypes(const QHash<QString, ColumnType> &expressionTy
 
 void PreparedStatement::Bind(int index, const QVariant &value) {
   if (index > slots_) return;
-  const QVariant bound = ToBound(value);
   int status = SQLITE_OK;
-  switch (bound.typeId()) {
-    case QMetaType::UnknownType:
-      status = sqlite3_bind_null(statement_, index);
+  switch (value.typeId()) {
+    case QMetaType::Int:
+      status = sqlite3_bind_int(statement_, index, *static_cast<const int *>(value.constData()));
       break;
     case QMetaType::LongLong:
-      status = sqlite3_bind_int64(statement_, index, bound.toLongLong());
+      status = sqlite3_bind_int64(statement_, index, *static_cast<const qint64 *>(value.constData()));
       break;
     case QMetaType::Double:
-      status = sqlite3_bind_double(statement_, index, bound.toDouble());
+      status = sqlite3_bind_double(statement_, index, *static_cast<const double *>(value.constData()));
       break;
-    default: {
-      const QByteArray text = bound.toString().toUtf8();
+    case QMetaType::QString: {
+      const QByteArray text = static_cast<const QString *>(value.constData())->toUtf8();
       status = sqlite3_bind_text64(statement_, index, text.constData(), static_cast<sqlite3_uint64>(text.size()),
                                    SQLITE_TRANSIENT, SQLITE_UTF8);
+      break;
+    }
+    default: {
+      const QVariant bound = ToBound(value);
+      if (bound.isValid()) return Bind(index, bound);
+      status = sqlite3_bind_null(statement_, index);
     }
   }
   if (status != SQLITE_OK) throw StoreError(connection_, status);
@@ -89,7 +94,12 @@ QVariant PreparedStatement::Stored(int column) const {
 }
 
 QVariant PreparedStatement::Value(int column) const {
-  return FromStored(Stored(column), columns_[static_cast<size_t>(column)].type);
+  QVariant stored = Stored(column);
+  const std::optional<ColumnType> type = columns_[static_cast<size_t>(column)].type;
+  // Most fields are texts, and a text column's text needs nothing more.
+  const bool text = type == ColumnType::Text || type == ColumnType::Memo;
+  if (text && stored.typeId() == QMetaType::QString) return stored;
+  return FromStored(stored, type);
 }
 
 bool PreparedStatement::IsReadOnly() const { return sqlite3_stmt_readonly(statement_) != 0; }
