@@ -7,21 +7,24 @@
 #include "core/failure_guard.h"
 #include "core/frame_data.h"
 #include "core/windows/theme.h"
+#include "platform/text_format.h"
 
 namespace trimlog {
 
 namespace {
 
-/// One column of the panel: a label above its read-only field.
-QLineEdit *AddField(QGridLayout *layout, const QString &name, const QString &label, const QString &tip, int stretch) {
+constexpr int fieldMargins = 14;
+
+/// One column of the panel: a label above its read-only field, wide enough for `widest`.
+QLineEdit *AddField(QGridLayout *layout, const QString &name, const QString &label, const QString &widest,
+                    const QString &tip) {
   QWidget *panel = layout->parentWidget();
   auto *field = new QLineEdit(panel);
   field->setObjectName(QStringLiteral("txt") + name);
   field->setReadOnly(true);
   field->setFocusPolicy(Qt::ClickFocus);  // to be read and copied from, not a stop on the keyboard's way
   field->setToolTip(tip);
-  field->setAlignment(stretch > 1 ? Qt::AlignLeft : Qt::AlignCenter);
-  field->setMinimumWidth(field->fontMetrics().horizontalAdvance(QStringLiteral("00/00/0000 ")));
+  field->setMinimumWidth(field->fontMetrics().horizontalAdvance(widest) + fieldMargins);
   auto *caption = new QLabel(label, panel);
   caption->setObjectName(QStringLiteral("lbl") + name);
   caption->setToolTip(tip);
@@ -30,7 +33,7 @@ QLineEdit *AddField(QGridLayout *layout, const QString &name, const QString &lab
   const int column = layout->columnCount();
   layout->addWidget(caption, 0, column);
   layout->addWidget(field, 1, column);
-  layout->setColumnStretch(column, stretch);
+  layout->setColumnStretch(column, 1);
   return field;
 }
 
@@ -43,21 +46,27 @@ frmMain1::frmMain1(Session &session, QWidget *parent) : QWidget(parent), session
   layout->setContentsMargins(8, 4, 8, 6);
   layout->setHorizontalSpacing(6);
   layout->setVerticalSpacing(1);
-  txtPersonName = AddField(layout, QStringLiteral("PersonName"), QStringLiteral("Name"), {}, 2);
-  txtGoal = AddField(layout, QStringLiteral("Goal"), {},
-                     QStringLiteral("This is your weight loss goal as defined in the Setup"), 1);
-  txtLbsLost = AddField(layout, QStringLiteral("LbsLost"), {},
-                        QStringLiteral("This is the total weight that you have lost to date."), 1);
-  txtLbsPerWeek = AddField(layout, QStringLiteral("LbsPerWeek"), {},
-                           QStringLiteral("This is your current pace (the average weight you will lose in a week)"), 1);
+  const QString weight = QStringLiteral("888.8");
+  const QString longestDate = ShortDate(QDate(2028, 12, 28), session_.locale);
+  txtPersonName =
+      AddField(layout, QStringLiteral("PersonName"), QStringLiteral("Name"), QStringLiteral("Ann Smith"), {});
+  layout->setColumnStretch(layout->columnCount() - 1, 3);
+  txtGoal = AddField(layout, QStringLiteral("Goal"), {}, weight,
+                     QStringLiteral("This is your weight loss goal as defined in the Setup"));
+  txtLbsLost = AddField(layout, QStringLiteral("LbsLost"), {}, QStringLiteral("Gained 88.8"),
+                        QStringLiteral("This is the total weight that you have lost to date."));
+  txtLbsPerWeek = AddField(layout, QStringLiteral("LbsPerWeek"), {}, weight,
+                           QStringLiteral("This is your current pace (the average weight you will lose in a week)"));
   txtLbsLeft = AddField(
-      layout, QStringLiteral("LbsLeft"), {},
-      QStringLiteral("According to the goal that you have entered, this is the weight that you need to lose."), 1);
-  txtDaysLeft =
-      AddField(layout, QStringLiteral("DaysLeft"), QStringLiteral("Days Left"),
-               QStringLiteral("This is the projected number of days that you have left to reach your goal."), 1);
-  txtProjDate = AddField(layout, QStringLiteral("ProjDate"), QStringLiteral("Proj. Date"),
-                         QStringLiteral("This is the projected date at which you will reach your goal."), 1);
+      layout, QStringLiteral("LbsLeft"), {}, weight,
+      QStringLiteral("According to the goal that you have entered, this is the weight that you need to lose."));
+  txtDaysLeft = AddField(layout, QStringLiteral("DaysLeft"), QStringLiteral("Days Left"), weight,
+                         QStringLiteral("This is the projected number of days that you have left to reach your goal."));
+  txtProjDate = AddField(layout, QStringLiteral("ProjDate"), QStringLiteral("Proj. Date"), longestDate,
+                         QStringLiteral("This is the projected date at which you will reach your goal."));
+  for (QLineEdit *figure : {txtGoal, txtLbsLost, txtLbsPerWeek, txtLbsLeft, txtDaysLeft, txtProjDate}) {
+    figure->setAlignment(Qt::AlignCenter);
+  }
 
   connect(&session_.changes, &DataChanges::StatisticsChanged, this, &frmMain1::ShowStatistics);
   connect(&session_.changes, &DataChanges::SettingsChanged, this, &frmMain1::Refresh);
