@@ -402,6 +402,72 @@ TEST_F(ToolsWindow, AHeightOfNothingIsSaidAndLogged) {
                       "frmPlan, UpdateGoalText, Values: 1:[150] 2a:[2] 2b:[6/1/2026] 3a:[0] 3b:[-1] Error:")));
 }
 
+TEST_F(ToolsWindow, EnterCalculatesInEveryPanel) {
+  FillProfile();
+  Open();
+  Type("txtGoal", "160");
+  QTest::keyClick(window->focusWidget(), Qt::Key_Return);
+  QCoreApplication::processEvents();
+  EXPECT_TRUE(TextOf("txtGoalConstraint").startsWith(QStringLiteral("If you can lose 2 lbs/week")));
+  Find<QComboBox>(*window, QStringLiteral("cboTools")).setCurrentIndex(1);
+  Choose("optBMROtherAge");
+  Type("txtBMRAge", "36");
+  QTest::keyClick(window->focusWidget(), Qt::Key_Return);
+  EXPECT_FALSE(TextOf("pnlBMRValue").isEmpty());
+}
+
+TEST_F(ToolsWindow, ADateFromTheCalendarIsCalculatedAtOnce) {
+  FillProfile();
+  Open();
+  Choose("optGoalDate");
+  WhenShown(QStringLiteral("frmCalendar"), [](QWidget &calendar) {
+    QTest::mouseClick(&Find<QPushButton>(calendar, QStringLiteral("cmdOK")), Qt::LeftButton);
+  });
+  Click("cmdCalendar");
+  EXPECT_TRUE(TextOf("txtGoalConstraint").startsWith(QStringLiteral("In order to reach your goal weight by 6/1/2026")));
+}
+
+TEST_F(ToolsWindow, TheStepInUseStandsOut) {
+  FillProfile();
+  Open();
+  const auto colour = [this](const char *panel) {
+    return Find<QWidget>(*window, QString::fromLatin1(panel)).palette().color(QPalette::Window);
+  };
+  const QColor accent(0xC0, 0xE0, 0xFF);  // the scheme FFE0C0, blue first
+  EXPECT_EQ(colour("pnlStep1"), accent) << "the focus is in the goal";
+  EXPECT_NE(colour("pnlStep3"), accent);
+  Click("cmdCalculate");
+  EXPECT_EQ(colour("pnlStep3"), accent);
+  for (const char *panel : {"pnlStep1", "pnlStep2", "Picture1"}) EXPECT_NE(colour(panel), accent) << panel;
+}
+
+TEST_F(ToolsWindow, MetricUnitsInEveryPanel) {
+  FillProfile();
+  session.Data().Execute(
+      QStringLiteral("UPDATE people SET HeightFeet=1, HeightInches=70, Goal=\"62.5\" WHERE PersonID=1;"));
+  session->settings.UomID = 2;
+  session->UomDisplay = QStringLiteral("Kg");
+  Open();
+  EXPECT_EQ(TextOf("lblGoalUOM").toStdString(), "Kg");
+  EXPECT_EQ(TextOf("lblGoalMethodLbsWeek2").toStdString(), "kg/week");
+  EXPECT_TRUE(TextOf("txtGoalConstraint").contains(QStringLiteral("BMI is 22,"))) << "62.5 / 2.89 = 21.63";
+  Find<QComboBox>(*window, QStringLiteral("cboTools")).setCurrentIndex(1);
+  EXPECT_EQ(TextOf("pnlBMRHeight").toStdString(), "170 Cm");
+  EXPECT_EQ(TextOf("pnlBMRUOM").toStdString(), "Kg");
+  Find<QComboBox>(*window, QStringLiteral("cboTools")).setCurrentIndex(2);
+  EXPECT_EQ(TextOf("optBodyFatCurrentWaist").toStdString(), "Use My Most Recent Measurement of 33 Cm");
+  EXPECT_EQ(TextOf("lblBodyFatUOMInches").toStdString(), "Cm");
+}
+
+TEST_F(ToolsWindow, TheProgramsEndClosesItAndKeepsThePlan) {
+  FillProfile();
+  Open();
+  Type("txtGoalMethodLbsWeek", "1.5");
+  CloseToolsWindow();
+  EXPECT_FALSE(window->isVisible());
+  EXPECT_EQ(Stored("GoalMethodLbsWeek").toStdString(), "1.5");
+}
+
 TEST_F(ToolsWindow, HelpFollowsTheTool) {
   FillProfile();
   Open();

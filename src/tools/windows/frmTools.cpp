@@ -254,4 +254,14 @@ void frmTools::done(int result) {
   QDialog::done(result);
 }
 
+void OpenTools(Session &session, const Navigator &navigator, ToolsPanel panel, QWidget *owner) {
+  frmTools(session, navigator, panel, owner).exec();
+}
+
+void CloseToolsWindow() {
+  for (QWidget *window : QApplication::topLevelWidgets()) {
+    if (auto *tools = qobject_cast<frmTools *>(window); tools && tools->isVisible()) tools->reject();
+  }
+}
+
 }  // namespace trimlog

@@ -64,4 +64,9 @@ class frmTools : public QDialog {
   QPushButton *cmdClose = nullptr;
 };
 
+/// Opens the window on a panel and returns when it is closed.
+void OpenTools(Session &session, const Navigator &navigator, ToolsPanel panel, QWidget *owner);
+/// Closes the window, keeping the plan, when it is open: the program is about to end.
+void CloseToolsWindow();
+
 }  // namespace trimlog
