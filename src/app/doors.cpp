@@ -4,6 +4,7 @@
 
 #include "core/help.h"
 #include "program.h"
+#include "tools/windows/frmTools.h"
 #if __has_include("core/windows/frmSetup.h")
 #include "core/windows/frmSetup.h"
 #define HAS_SETUP
@@ -27,6 +28,7 @@ void Program::FillHooks() {
     if (change.table == QStringLiteral("people") && change.personID == session_.CurrentPersonID) UpdateStats(session_);
   });
 #endif
+  hooks_.CloseToolsWindow = [] { CloseToolsWindow(); };
   const QString tutorial = session_.programDirectory + QStringLiteral("/tutorsel.exe");
   if (QFile::exists(tutorial))
     hooks_.StartTutorialSelector = [this, tutorial] { session_.machine.Start(tutorial, {}); };
@@ -39,6 +41,7 @@ void Program::FillNavigator() {
   navigator_.ExitProgram = [this] { frame_->close(); };
   navigator_.ResetMainWindow = [this] { frame_->ResetPlace(); };
   navigator_.ShowHelp = [this](const QString &topic) { ShowHelp(session_, topic); };
+  navigator_.OpenTools = [this](ToolsPanel panel) { OpenTools(session_, navigator_, panel, frame_.get()); };
 #ifdef HAS_SETUP
   navigator_.OpenSetup = [this](SetupTab tab) {
     frmSetup setup(session_, navigator_, {RewardsTab()}, frame_.get());
