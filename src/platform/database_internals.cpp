@@ -10,12 +10,11 @@
 
 namespace trimlog {
 
-StatementUse::StatementUse(sqlite3 *connection, std::shared_ptr<PreparedStatement> cached, const QString &sql,
+StatementUse::StatementUse(Database::Impl &database, std::shared_ptr<PreparedStatement> cached, const QString &sql,
                            const QHash<QString, ColumnType> &expressionTypes)
     : statement_(std::move(cached)) {
   if (statement_->inUse) {
-    statement_ = std::make_shared<PreparedStatement>(connection, sql);
-    statement_->NameTypes(expressionTypes);
+    statement_ = database.Compile(sql, expressionTypes);
   }
   statement_->inUse = true;
 }
@@ -35,9 +34,24 @@ Database::Impl::Impl(const QString &filePath, int flags)
   RegisterSqlFunctions(handle, failure);
 }
 
+// A recordset that is still held keeps what it has read, but not the file: SQLite closes only what no statement uses.
 Database::Impl::~Impl() {
   ForgetStatements();
+  *closed = true;
+  for (const auto &statement : compiled) {
+    if (const auto held = statement.lock()) held->Finalize();
+  }
   LeaveNothingBehind(handle);
+}
+
+std::shared_ptr<PreparedStatement> Database::Impl::Compile(const QString &sql,
+                                                           const QHash<QString, ColumnType> &expressionTypes) {
+  auto statement = std::make_shared<PreparedStatement>(handle, sql);
+  statement->NameTypes(expressionTypes);
+  constexpr size_t many = 1000;
+  if (compiled.size() > many) std::erase_if(compiled, [](const auto &held) { return held.expired(); });
+  compiled.push_back(statement);
+  return statement;
 }
 
 void Database::Impl::ForgetStatements() {
@@ -66,8 +80,7 @@ std::shared_ptr<KnownStatement> Database::Impl::Know(const QString &sql) {
   const TranslatedSql &translated = known->form->translated;
   const bool repeats = translated.kind == TranslatedSql::Kind::Select || translated.kind == TranslatedSql::Kind::Change;
   if (form == nullptr && repeats) {
-    known->form->main = std::make_shared<PreparedStatement>(handle, translated.sql);
-    known->form->main->NameTypes(translated.expressionTypes);
+    known->form->main = Compile(translated.sql, translated.expressionTypes);
   }
   if (repeats && !translated.usesSideFile) {
     if (form == nullptr) shapes.insert(tokens.shape, new std::shared_ptr<StatementForm>(known->form));
@@ -77,7 +90,7 @@ std::shared_ptr<KnownStatement> Database::Impl::Know(const QString &sql) {
 }
 
 StatementUse Database::Impl::Use(StatementForm &form) {
-  return StatementUse(handle, form.main, form.translated.sql, form.translated.expressionTypes);
+  return StatementUse(*this, form.main, form.translated.sql, form.translated.expressionTypes);
 }
 
 void Database::Impl::CheckParameters(const KnownStatement &known, const Params &params) {

@@ -30,7 +30,7 @@ struct KnownStatement {
 /// Holds a compiled statement for one run, then resets it. Takes a copy of its own when the cached one is in use.
 class StatementUse {
  public:
-  StatementUse(sqlite3 *connection, std::shared_ptr<PreparedStatement> cached, const QString &sql,
+  StatementUse(Database::Impl &database, std::shared_ptr<PreparedStatement> cached, const QString &sql,
                const QHash<QString, ColumnType> &expressionTypes);
   ~StatementUse();
   StatementUse(StatementUse &&) noexcept = default;
@@ -58,6 +58,8 @@ struct Database::Impl final : public TranslationContext {
   /// The statement from the cache, or translated and compiled anew.
   std::shared_ptr<KnownStatement> Know(const QString &sql);
   StatementUse Use(StatementForm &form);
+  std::shared_ptr<PreparedStatement> Compile(const QString &sql,
+                                             const QHash<QString, ColumnType> &expressionTypes = {});
   void Bind(PreparedStatement &statement, const KnownStatement &known, const Params &params) const;
   static void CheckParameters(const KnownStatement &known, const Params &params);
   /// Runs a compiled statement that gives no rows.
@@ -82,6 +84,8 @@ struct Database::Impl final : public TranslationContext {
   QHash<QString, QString> sideFiles;  ///< schema name by path
   int sideFileNumber = 0;
   int depth = 0;
+  std::vector<std::weak_ptr<PreparedStatement>> compiled;  ///< all that may outlive the connection in a recordset
+  const std::shared_ptr<bool> closed = std::make_shared<bool>(false);
   qint64 changesAtBegin = 0;
 };
 

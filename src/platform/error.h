@@ -13,6 +13,7 @@ inline constexpr int outOfBounds = 9;
 inline constexpr int divisionByZero = 11;
 inline constexpr int typeMismatch = 13;
 inline constexpr int notEditing = 3020;
+inline constexpr int notOpen = 3420;
 inline constexpr int noCurrentRecord = 3021;
 inline constexpr int duplicateKey = 3022;
 inline constexpr int tableExists = 3010;

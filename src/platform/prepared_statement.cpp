@@ -29,6 +29,8 @@ PreparedStatement::PreparedStatement(sqlite3 *connection, const QString &sql) : 
 
 PreparedStatement::~PreparedStatement() { sqlite3_finalize(statement_); }
 
+void PreparedStatement::Finalize() { sqlite3_finalize(std::exchange(statement_, nullptr)); }
+
 void PreparedStatement::NameTypes(const QHash<QString, ColumnType> &expressionTypes) {
   if (expressionTypes.isEmpty()) return;
   for (ResultColumn &column : columns_) {

@@ -32,6 +32,8 @@ class PreparedStatement {
   /// True for a row, false at the end. `failure` is what a function called from within left behind.
   bool Step(struct FunctionFailure &failure);
   void Reset();
+  /// Lets go of the compiled form, since its connection closes; it can only be destroyed then.
+  void Finalize();
 
   QVariant Stored(int column) const;  ///< null, qint64, double or QString
   QVariant Value(int column) const;   ///< by the column's type

@@ -32,7 +32,12 @@ Recordset OpenRows(Database::Impl &database, const QString &sql, const Params &p
   return Recordset(std::move(impl));
 }
 
+void Recordset::Impl::RequireOpen() const {
+  if (*closed) throw Error(error_number::notOpen, QStringLiteral("The data file of this recordset was closed."));
+}
+
 bool Recordset::Impl::StepForward() {
+  RequireOpen();
   if (!(*forward)->Step(database.failure)) return false;
   ++database.counts.rowsRead;
   return true;
@@ -52,18 +57,19 @@ void Recordset::Impl::LoadKeys() {
   ++database.counts.statements;
   StatementForm &form = *known->form;
   const QString &sql = form.translated.single.keys;
-  if (form.keys == nullptr) form.keys = std::make_shared<PreparedStatement>(database.handle, sql);
-  StatementUse use(database.handle, form.keys, sql, {});
+  if (form.keys == nullptr) form.keys = database.Compile(sql);
+  StatementUse use(database, form.keys, sql, {});
   database.Bind(*use, *known, params);
   while (use->Step(database.failure)) keys.push_back(use->Stored(0).toLongLong());
 }
 
 const QVariant &Recordset::Impl::Visited(qint64 key, int column) const {
   if (const Row *row = visited.object(key)) return (*row)[static_cast<size_t>(column)];
+  RequireOpen();
   StatementForm &form = *known->form;
   const QString &sql = form.translated.single.row;
-  if (form.row == nullptr) form.row = std::make_shared<PreparedStatement>(database.handle, sql);
-  StatementUse use(database.handle, form.row, sql, {});
+  if (form.row == nullptr) form.row = database.Compile(sql);
+  StatementUse use(database, form.row, sql, {});
   database.Bind(*use, *known, params);
   use->Bind(static_cast<int>(known->slots_.size()) + 1, key);
   ++database.counts.statements;
@@ -201,7 +207,10 @@ Value Recordset::Field(int column) const {
   if (column < 0 || column >= static_cast<int>(impl_->columns.size())) {
     throw Error(error_number::unknownColumn, QStringLiteral("The recordset has no field %1.").arg(column));
   }
-  if (impl_->forward) return (*impl_->forward)->Value(column);
+  if (impl_->forward) {
+    impl_->RequireOpen();
+    return (*impl_->forward)->Value(column);
+  }
   return impl_->ValueAt(impl_->position, column);
 }
 

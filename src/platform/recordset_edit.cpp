@@ -4,6 +4,7 @@
 namespace trimlog {
 
 void Recordset::Impl::RequireEditable() const {
+  RequireOpen();
   if (!keyed) throw Error(error_number::readOnly, QStringLiteral("Cannot update. The recordset is read-only."));
 }
 
@@ -32,6 +33,7 @@ void Recordset::SetField(const QString &name, const Value &value) {
   if (impl_->editing == Impl::Editing::None) {
     throw Error(error_number::notEditing, QStringLiteral("Update or CancelUpdate without AddNew or Edit."));
   }
+  impl_->RequireOpen();
   const StoredColumn &column = impl_->TableColumn(name);
   const QVariant stored = column.declared ? ToStored(ToBound(value), *column.declared, column.name) : ToBound(value);
   impl_->pending.insert(column.name.toLower(), stored);
@@ -46,6 +48,7 @@ void Recordset::Update() {
   if (impl_->editing == Impl::Editing::None) {
     throw Error(error_number::notEditing, QStringLiteral("Update or CancelUpdate without AddNew or Edit."));
   }
+  impl_->RequireOpen();
   const bool adding = impl_->editing == Impl::Editing::Adding;
   const QString table = BracketedName(impl_->known->form->translated.single.table);
   QStringList names, marks;

@@ -6,6 +6,7 @@ namespace trimlog {
 
 void Recordset::FindFirst(const QString &criterion, const Params &params) {
   if (impl_->forward) throw Error(error_number::other, QStringLiteral("A forward recordset knows MoveNext only."));
+  impl_->RequireOpen();
   impl_->noMatch = true;
   if (impl_->keyed) {
     impl_->FindKeyed(criterion, params);

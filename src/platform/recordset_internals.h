@@ -24,6 +24,7 @@ struct Recordset::Impl {
   int Count() const { return keyed ? static_cast<int>(keys.size()) : rows.Rows(); }
   bool HasRow() const;
   void RequireRow() const;
+  void RequireOpen() const;
   const QVariant &Visited(qint64 key, int column) const;
   QVariant ValueAt(int row, int column) const;
   int ColumnOf(const QString &name) const;
@@ -46,6 +47,8 @@ struct Recordset::Impl {
   RowBuffer rows;
   std::optional<StatementUse> forward;
   bool forwardEnd = false;
+
+  const std::shared_ptr<bool> closed = database.closed;  ///< the data file was closed while this recordset was held
 
   int position = 0;
   bool onDeleted = false;  ///< the current row is gone; `position` is where its successor stands

@@ -148,6 +148,22 @@ TEST_F(RecordsetTest, ARefusedEditLeavesFileAndRowAsTheyWere) {
             error_number::readOnly);
 }
 
+TEST_F(RecordsetTest, AHeldRecordsetDoesNotKeepTheFile) {
+  const char *sql = "SELECT foods.* FROM foods ORDER BY MealID";
+  Recordset snapshot = Open(sql, RecordsetKind::Snapshot), dynaset = Open(sql, RecordsetKind::Dynaset),
+            forward = Open(sql, RecordsetKind::Forward);
+  EXPECT_EQ(Name(dynaset), QStringLiteral("Food 699"));
+  data.reset();
+  data = Database::Open(path);
+  EXPECT_EQ(Rows(QStringLiteral("SELECT Count(*) FROM foods")), QStringLiteral("600"));
+  snapshot.MoveLast();
+  EXPECT_EQ(Name(snapshot), QStringLiteral("Food 100"));
+  dynaset.MoveNext();
+  EXPECT_EQ(NumberOf([&] { Name(dynaset); }), error_number::notOpen);
+  EXPECT_EQ(NumberOf([&] { dynaset.Edit(); }), error_number::notOpen);
+  EXPECT_EQ(NumberOf([&] { forward.MoveNext(); }), error_number::notOpen);
+}
+
 TEST_F(RecordsetTest, ForwardGoesOnceAndNestsWithTheSameStatement) {
   const char *sql = "SELECT foods.MealID FROM foods WHERE MealID < 4 ORDER BY MealID";
   int pairs = 0;
