@@ -16,21 +16,26 @@ QString OneLine(QString text) {
   return text;
 }
 
-QString CellText(const GridModel &model, int row, int column) {
+}  // namespace
+
+QString CellAsText(const GridModel &model, int row, int column) {
   const QModelIndex cell = model.index(row, column);
   const QVariant tick = cell.data(Qt::CheckStateRole);
   if (tick.isValid()) return tick.toInt() == Qt::Checked ? GridModel::tr("Yes") : GridModel::tr("No");
   return OneLine(cell.data().toString());
 }
 
-}  // namespace
-
-QString RowsAsText(const GridModel &model, const std::vector<int> &rows, bool withCaptions) {
+std::vector<int> TextColumns(const GridModel &model) {
   std::vector<int> columns;
   for (size_t column = 0; column < model.Columns().size(); ++column) {
     const GridColumn &shown = model.Columns()[column];
     if (shown.visible && !shown.field.isEmpty()) columns.push_back(static_cast<int>(column));
   }
+  return columns;
+}
+
+QString RowsAsText(const GridModel &model, const std::vector<int> &rows, bool withCaptions) {
+  const std::vector<int> columns = TextColumns(model);
   QStringList lines;
   if (withCaptions) {
     QStringList captions;
@@ -39,7 +44,7 @@ QString RowsAsText(const GridModel &model, const std::vector<int> &rows, bool wi
   }
   for (const int row : rows) {
     QStringList cells;
-    for (const int column : columns) cells.append(CellText(model, row, column));
+    for (const int column : columns) cells.append(CellAsText(model, row, column));
     lines.append(cells.join(QLatin1Char('\t')));
   }
   QString text = lines.join(QStringLiteral("\r\n"));

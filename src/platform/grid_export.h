@@ -12,4 +12,8 @@ class GridModel;
 /// tabs and line breaks within one become blanks. Hidden columns and columns without a field are left out.
 QString RowsAsText(const GridModel &model, const std::vector<int> &rows, bool withCaptions = false);
 
+/// The columns that such a text has, and one of its cells.
+std::vector<int> TextColumns(const GridModel &model);
+QString CellAsText(const GridModel &model, int row, int column);
+
 }  // namespace trimlog

@@ -105,16 +105,21 @@ void GridDelegate::paint(QPainter *painter, const QStyleOptionViewItem &option, 
   QStyleOptionViewItem cell = option;
   initStyleOption(&cell, index);
   const bool current = index == grid_->currentIndex();
+  const bool refused = !index.data(GridModel::SentenceRole).toString().isEmpty();
+  const bool plain = current || refused;  // stands out of a marked row, whose colour the view has already laid down
+  const bool marked = cell.state.testFlag(QStyle::State_Selected) && !plain;
   cell.state &= ~QStyle::State_HasFocus;
-  if (current) cell.state &= ~QStyle::State_Selected;
+  if (plain) {
+    cell.state &= ~QStyle::State_Selected;
+    painter->fillRect(option.rect, option.palette.color(QPalette::Base));
+  }
   grid_->style()->drawControl(QStyle::CE_ItemViewItem, &cell, painter, grid_);
   if (index.data(GridModel::CellChangedRole).toBool()) {
-    DrawChangedCorner(painter, option.rect, option.palette.color(current ? QPalette::Highlight : QPalette::Link));
+    DrawChangedCorner(painter, option.rect,
+                      option.palette.color(marked ? QPalette::HighlightedText : QPalette::Highlight));
   }
   if (current) DrawFrame(painter, option.rect, option.palette.color(QPalette::Highlight), grid_->hasFocus() ? 2 : 1);
-  if (!index.data(GridModel::SentenceRole).toString().isEmpty()) {
-    DrawFrame(painter, option.rect, RefusalColor(option.palette), 2);
-  }
+  if (refused) DrawFrame(painter, option.rect, RefusalColor(option.palette), current ? 3 : 2);
 }
 
 // Besides the sentences of refused cells, texts that the column cuts off are shown in full.
