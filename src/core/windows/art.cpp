@@ -5,6 +5,7 @@
 #include <QIconEngine>
 #include <QPainter>
 #include <QPixmapCache>
+#include <QResource>
 #include <QStyle>
 #include <QStyleOption>
 
@@ -68,11 +69,18 @@ class ArtEngine final : public QIconEngine {
 
 QIcon ArtIcon(const QString &name) { return QIcon(new ArtEngine(name)); }
 
-QPixmap ArtPixmap(const QString &name, qreal devicePixelRatio) {
-  const bool fine = devicePixelRatio > 1;
-  QPixmap pixmap = ReadPicture(PixelFile(name, fine ? QStringLiteral("2x") : QStringLiteral("1x")));
-  if (fine) pixmap.setDevicePixelRatio(2);
-  return pixmap;
+QPixmap SplashPicture(qreal devicePixelRatio) {
+  if (devicePixelRatio > 1) {
+    QPixmap fine = ReadPicture(PixelFile(QStringLiteral("splash"), QStringLiteral("2x")));
+    fine.setDevicePixelRatio(2);
+    return fine;
+  }
+  // Bare pixels, painted from where they lie in the program.
+  const QResource pixels(QStringLiteral(":/art/splash_1x.raw"));
+  constexpr int width = 480;
+  constexpr int height = 270;
+  if (pixels.size() != qint64{width} * height * 4) return {};
+  return QPixmap::fromImage(QImage(pixels.data(), width, height, QImage::Format_RGB32));
 }
 
 }  // namespace trimlog

@@ -9,7 +9,7 @@ namespace trimlog {
 /// They come as ready-made pixels for small and large screens, so that showing one decodes no drawing. Nothing is
 /// loaded until it is painted. A name without a picture gives an empty icon.
 QIcon ArtIcon(const QString &name);
-/// A larger picture at its drawn size.
-QPixmap ArtPixmap(const QString &name, qreal devicePixelRatio);
+/// The picture of the start and of the About box, 480 x 270 with the program's name on it.
+QPixmap SplashPicture(qreal devicePixelRatio);
 
 }  // namespace trimlog

@@ -16,11 +16,10 @@ namespace {
 
 constexpr int splashMilliseconds = 3000;
 
-QLabel *AddText(QBoxLayout *layout, const QString &name, const QString &text, double scale, bool bold) {
+QLabel *AddText(QBoxLayout *layout, const QString &name, const QString &text, bool bold) {
   auto *label = new QLabel(text, layout->parentWidget());
   label->setObjectName(name);
   QFont font = label->font();
-  font.setPointSizeF(font.pointSizeF() * scale);
   font.setBold(bold);
   label->setFont(font);
   layout->addWidget(label);
@@ -55,23 +54,23 @@ frmSplash::frmSplash(Session &session, const OperatingSystem &system, QWidget *o
 QWidget *frmSplash::BuildPicture() {
   auto *picture = new QLabel(this);
   picture->setObjectName(QStringLiteral("imgSplash"));
+  picture->setAccessibleName(product::name);
   const QPixmap sponsor =
       session_.SeravaEdition ? QPixmap(session_.programDirectory + QStringLiteral("/splash_serava.jpg")) : QPixmap();
-  picture->setPixmap(sponsor.isNull() ? ArtPixmap(QStringLiteral("splash"), devicePixelRatioF()) : sponsor);
+  picture->setPixmap(sponsor.isNull() ? SplashPicture(devicePixelRatioF()) : sponsor);
   QPalette onPicture;
   onPicture.setColor(QPalette::WindowText, Qt::white);
   picture->setPalette(onPicture);
 
   auto *text = new QVBoxLayout(picture);
-  text->setContentsMargins(24, 14, 24, 14);
+  text->setContentsMargins(24, 62, 24, 14);
   text->setSpacing(0);
-  AddText(text, QStringLiteral("lblTitle"), QStringLiteral("Trimlog Pro"), 2.2, true);
   if (session_.SeravaEdition) {
-    AddText(text, QStringLiteral("lblEdition"), QStringLiteral("SERAVA® Edition"), 1.2, true);
+    AddText(text, QStringLiteral("lblEdition"), QStringLiteral("SERAVA® Edition"), true);
   }
   text->addStretch(1);
-  AddText(text, QStringLiteral("lblVersion"), QStringLiteral("Version: %1").arg(product::version), 1.0, false);
-  AddText(text, QStringLiteral("lblUserName"), session_.settings.UserName, 1.0, true);
+  AddText(text, QStringLiteral("lblVersion"), QStringLiteral("Version: %1").arg(product::version), false);
+  AddText(text, QStringLiteral("lblUserName"), session_.settings.UserName, true);
   return picture;
 }
 
