@@ -6,6 +6,7 @@
 #include <QFileInfo>
 #include <QtEndian>
 #include <array>
+#include <memory>
 
 #include "platform/error.h"
 
@@ -71,15 +72,13 @@ void CheckPath(const QString &path) {
 
 void CheckDataFile(const QString &path) {
   CheckPath(path);
-  QFile file(path);
-  Header header{};
-  if (!file.open(QIODevice::ReadOnly)) {
-    throw Error(error_number::cannotOpen,
-                QStringLiteral("'%1' could not be opened: %2.").arg(path, file.errorString()));
-  }
-  if (file.read(reinterpret_cast<char *>(header.data()), headerSize) != headerSize)
-    Damaged(path, QStringLiteral("it is too short"));
-  CheckHeaderBytes(header, path);
+  // Looked at through SQLite: where this process holds the file elsewhere, another way of closing it would let go of
+  // its lock.
+  sqlite3 *look = nullptr;
+  const int status = sqlite3_open_v2(path.toUtf8().constData(), &look, SQLITE_OPEN_READONLY, nullptr);
+  const std::unique_ptr<sqlite3, decltype(&sqlite3_close)> closes(look, &sqlite3_close);
+  if (status != SQLITE_OK) throw Error(error_number::cannotOpen, QStringLiteral("'%1' could not be opened.").arg(path));
+  CheckHeader(look, path);
 }
 
 void CheckHeader(sqlite3 *connection, const QString &path) {

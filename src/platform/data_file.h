@@ -15,9 +15,7 @@ inline constexpr int storeVersion = 1;
 /// cannot be read, fileDamaged for an empty one.
 void CheckPath(const QString &path);
 
-/// CheckPath, and the file's first bytes: throws fileDamaged when it is no data file of this program. Not for a file
-/// that this process holds open (closing it again would let go of its lock); there CheckHeader looks through the
-/// connection.
+/// CheckPath, and the file's first bytes: throws fileDamaged when it is no data file of this program.
 void CheckDataFile(const QString &path);
 
 /// The same look at the first bytes through a connection that has not read or locked anything yet.

@@ -57,6 +57,7 @@ std::unique_ptr<Database> Database::Open(const QString &path) {
   Prepare(*impl);
   TakeAlone(*impl);
   CheckComplete(impl->handle, path);
+  impl->Plain("SELECT 1 FROM sqlite_schema LIMIT 1");
   return std::unique_ptr<Database>(new Database(std::move(impl)));
 }
 
@@ -188,10 +189,15 @@ void Database::CopyTo(const QString &path) {
 }
 
 bool Database::IntegrityOk() {
-  PreparedStatement check(impl_->handle, QStringLiteral("PRAGMA integrity_check(1)"));
-  if (!check.Step(impl_->failure) || check.Stored(0).toString() != QLatin1StringView("ok")) return false;
-  PreparedStatement relations(impl_->handle, QStringLiteral("PRAGMA foreign_key_check"));
-  return !relations.Step(impl_->failure);
+  try {
+    PreparedStatement check(impl_->handle, QStringLiteral("PRAGMA integrity_check(1)"));
+    if (!check.Step(impl_->failure) || check.Stored(0).toString() != QLatin1StringView("ok")) return false;
+    PreparedStatement relations(impl_->handle, QStringLiteral("PRAGMA foreign_key_check"));
+    return !relations.Step(impl_->failure);
+  } catch (const Error &error) {
+    if (error.Number() != error_number::fileDamaged) throw;
+    return false;
+  }
 }
 
 QString QuoteText(const QString &text) {

@@ -24,7 +24,7 @@ class StoreFileTest : public StoreTest {
   QString Beside(const char *name) const { return directory.filePath(QString::fromLatin1(name)); }
   int OpenError(const QString &file) {
     try {
-      Database::Open(file)->OpenRecordset(QStringLiteral("SELECT people.* FROM people"));
+      Database::Open(file);
     } catch (const Error &error) {
       description = error.Description();
       return error.Number();
@@ -205,6 +205,21 @@ TEST_F(StoreFileTest, AFileThatBecomesUnwritableLosesNothingAndWorksAgainLater) 
   ASSERT_TRUE(QDir().rmdir(journal));
   EXPECT_EQ(ErrorOf(QStringLiteral("UPDATE people SET Goal = \"9\"")), 0) << description.toStdString();
   EXPECT_EQ(Rows(QStringLiteral("SELECT Goal FROM people")), QStringLiteral("9 / 9"));
+}
+
+TEST_F(StoreFileTest, LookingAtAFileThatIsHeldLetsNothingGo) {
+  const QString other = Beside("other.dat");
+  const auto side = Database::Create(other);
+  side->Execute(QStringLiteral("CREATE TABLE t (a LONG)"));
+  // The file is held by this process already, so the other connection may not have it, before and after the attempt.
+  for (int attempt = 0; attempt < 2; ++attempt) {
+    EXPECT_EQ(ErrorOf(QStringLiteral("INSERT INTO t IN \"%1\" SELECT 1").arg(other)), error_number::fileLocked);
+  }
+  QProcess visitor;
+  visitor.start(QStringLiteral("sqlite3"), {other, QStringLiteral("SELECT 1 FROM t")});
+  if (!visitor.waitForFinished() || visitor.error() == QProcess::FailedToStart)
+    GTEST_SKIP() << "no sqlite3 program to try it with";
+  EXPECT_TRUE(visitor.readAllStandardError().contains("locked"));
 }
 
 TEST_F(StoreFileTest, CopiesTheWholeFile) {
