@@ -4,6 +4,7 @@
 #include <QComboBox>
 #include <QLabel>
 #include <QLineEdit>
+#include <QPrinterInfo>
 #include <QPushButton>
 #include <QRadioButton>
 #include <QTest>
@@ -457,6 +458,34 @@ TEST_F(ToolsWindow, MetricUnitsInEveryPanel) {
   Find<QComboBox>(*window, QStringLiteral("cboTools")).setCurrentIndex(2);
   EXPECT_EQ(TextOf("optBodyFatCurrentWaist").toStdString(), "Use My Most Recent Measurement of 33 Cm");
   EXPECT_EQ(TextOf("lblBodyFatUOMInches").toStdString(), "Cm");
+}
+
+TEST_F(ToolsWindow, PrintsItsPictureAfterAsking) {
+  if (!QPrinterInfo::defaultPrinter().isNull()) GTEST_SKIP() << "would print on this machine's printer";
+  FillProfile();
+  Open();
+  const QString title = QStringLiteral("Print Results?");
+  const QString text = QStringLiteral(
+      "Print the currently displayed results to your default printer?\n\nNote: After clicking OK, there will be a "
+      "momentary "
+      "delay while your printer processes the data, and then the page will be printed.  This is completely normal.");
+  session.boxes.Expect(title, text, BoxButton::Cancel);
+  Click("cmdPrint");
+  const QString path = session.directory.filePath(QStringLiteral("results.pdf"));
+  session.boxes.Expect(title, text, BoxButton::Ok);
+  session.boxes.ExpectInput(QStringLiteral("Print to a PDF File"), path);
+  Click("cmdPrint");
+  QFile pdf(path);
+  ASSERT_TRUE(pdf.open(QIODevice::ReadOnly));
+  EXPECT_TRUE(pdf.read(5) == "%PDF-");
+  EXPECT_GT(pdf.size(), 10000) << "a page with a picture";
+  session.boxes.Expect(title, text, BoxButton::Ok);
+  session.boxes.ExpectInput(QStringLiteral("Print to a PDF File"),
+                            session.directory.filePath(QStringLiteral("no/such/folder.pdf")));
+  session.boxes.Expect(
+      QStringLiteral("Printer Error"),
+      QStringLiteral("An error occurred while printing to your default printer.  Unable to print at this time."));
+  Click("cmdPrint");
 }
 
 TEST_F(ToolsWindow, TheProgramsEndClosesItAndKeepsThePlan) {

@@ -12,6 +12,7 @@
 #include "core/failure_guard.h"
 #include "core/windows/setup_controls.h"
 #include "core/windows/theme.h"
+#include "platform/windows/window_printer.h"
 #include "tools/tool_notices.h"
 #include "tools/windows/body_fat_page.h"
 #include "tools/windows/caloric_needs_page.h"
@@ -106,6 +107,8 @@ void frmTools::AddPages(QLayout *layout) {
   scroll->setWidget(panels_);
   layout->addWidget(scroll);
 }
+
+std::array<QWidget *, 3> frmTools::Pages() const { return {pnlPlanner, pnlBMR, pnlBodyFat}; }
 
 void frmTools::AddButtons(QLayout *layout) {
   QWidget *panel = AddAccentPanel(layout, QStringLiteral("pnlButtons"), session_);
@@ -243,6 +246,13 @@ void frmTools::FollowChange(const DataChange &change) {
 
 void frmTools::PrintResults() {
   if (session_.boxes.Show(PrintResultsQuestion()) != BoxButton::Ok) return;
+  const FailureExit failure{
+      QStringLiteral("basPrinting"), QStringLiteral("PrintWindow"), QStringLiteral("Printer Error"),
+      QStringLiteral("An error occurred while printing to your default printer.  Unable to print at this time.")};
+  // Dark colours do not belong on paper.
+  if (IsDark(palette())) setPalette(QPalette(QColor(0xF0, 0xF0, 0xF0)));
+  Guarded(session_, failure, [this] { PrintWindow(*this, session_.boxes); });
+  setPalette({});
 }
 
 void frmTools::done(int result) {

@@ -1,6 +1,7 @@
 #pragma once
 
 #include <QDialog>
+#include <array>
 
 #include "core/navigator.h"
 #include "core/session.h"
@@ -35,6 +36,7 @@ class frmTools : public QDialog {
   void AddChoice(QLayout *layout);
   void AddPages(QLayout *layout);
   void AddButtons(QLayout *layout);
+  std::array<QWidget *, 3> Pages() const;
   /// The notices and questions on opening, and the first calculation; once.
   void Activate();
   Opened GreetPerson();

@@ -1,7 +1,6 @@
 #include "tools/windows/planner_page.h"
 
 #include <QAbstractButton>
-#include <QApplication>
 #include <QFrame>
 #include <QLabel>
 #include <QPushButton>
@@ -184,7 +183,7 @@ void PlannerPage::HighlightStep(Step step) {
   if (highlighted_ == step) return;
   highlighted_ = step;
   const QColor accent = ColorFromBgr(session_.BackColor);
-  const QColor plain = QApplication::palette().color(QPalette::Base);
+  const QColor plain = palette().color(QPalette::Base);
   constexpr std::array<Step, 4> stepOfPanel = {GoalStep, MethodStep, MethodStep, ResultStep};
   for (size_t i = 0; i < stepPanels_.size(); ++i) {
     PaintToolPanel(stepPanels_[i], stepOfPanel[i] == step ? accent : plain);
@@ -227,6 +226,14 @@ void PlannerPage::ShowPrompt() { ShowResult(PlanPrompt(), Qt::AlignCenter); }
 void PlannerPage::ShowResult(const QString &text, Qt::Alignment alignment) {
   txtGoalConstraint->setAlignment(alignment);
   txtGoalConstraint->setText(text);
+}
+
+void PlannerPage::changeEvent(QEvent *event) {
+  QWidget::changeEvent(event);
+  if (event->type() != QEvent::PaletteChange || highlighted_ == 0) return;
+  const Step shown = static_cast<Step>(highlighted_);
+  highlighted_ = 0;
+  HighlightStep(shown);
 }
 
 bool PlannerPage::eventFilter(QObject *watched, QEvent *event) {

@@ -52,6 +52,7 @@ class PlannerPage : public QWidget {
   void ShowPrompt();
   void ShowResult(const QString &text, Qt::Alignment alignment);
   GoalMethod Method() const;
+  void changeEvent(QEvent *event) override;
   bool eventFilter(QObject *watched, QEvent *event) override;
 
   Session &session_;

@@ -67,6 +67,11 @@ int FieldWidth(const QLineEdit *field, int characters) {
 void GroupOptions(QWidget *owner, const QList<QRadioButton *> &options) {
   auto *group = new QButtonGroup(owner);
   for (QRadioButton *option : options) group->addButton(option);
+  // Tab goes to the chosen option, arrows to the others.
+  QObject::connect(group, &QButtonGroup::buttonToggled, group, [options](const QAbstractButton *button, bool on) {
+    if (!on) return;
+    for (QRadioButton *option : options) option->setFocusPolicy(option == button ? Qt::StrongFocus : Qt::ClickFocus);
+  });
 }
 
 void AlignOptions(const QList<QRadioButton *> &options) {
