@@ -1,0 +1,182 @@
+#include <QPaintEngine>
+#include <QPainter>
+
+#include "grid_fixture.h"
+#include "platform/windows/grid_printer.h"
+#include "platform/windows/window_printer.h"
+#include "support/queued_boxes.h"
+
+namespace trimlog {
+namespace {
+
+struct DrawnText {
+  int page;
+  QString text;
+  double left, right, bottom;
+};
+
+/// A paint device that notes every text drawn on it, in the painter's own units.
+class TextRecorder final : public QPaintDevice {
+ public:
+  class Engine final : public QPaintEngine {
+   public:
+    Engine(TextRecorder *owner) : QPaintEngine(QPaintEngine::AllFeatures), owner_(owner) {}
+    bool begin(QPaintDevice *) override { return true; }
+    bool end() override { return true; }
+    void updateState(const QPaintEngineState &) override {}
+    void drawPixmap(const QRectF &, const QPixmap &, const QRectF &) override {}
+    void drawPath(const QPainterPath &) override {}
+    void drawPolygon(const QPointF *, int, PolygonDrawMode) override {}
+    Type type() const override { return User; }
+    void drawTextItem(const QPointF &at, const QTextItem &item) override {
+      owner_->drawn.push_back({owner_->page, item.text(), at.x(), at.x() + item.width(), at.y()});
+    }
+
+   private:
+    TextRecorder *owner_;
+  };
+  QPaintEngine *paintEngine() const override { return &engine_; }
+  int page = 0;
+  std::vector<DrawnText> drawn;
+
+ protected:
+  int metric(PaintDeviceMetric metric) const override {
+    if (metric == PdmWidth || metric == PdmHeight) return 20000;
+    if (metric == PdmDevicePixelRatio || metric == PdmNumColors) return 1;
+    if (metric == PdmDevicePixelRatioScaled) return static_cast<int>(devicePixelRatioFScale());
+    return metric == PdmDepth ? 32 : 1440;
+  }
+
+ private:
+  mutable Engine engine_{this};
+};
+
+/// A printer that only notes what would stand on its pages.
+class RecordingOutput final : public PageOutput {
+ public:
+  bool HasPrinter() const override { return hasPrinter; }
+  void Print(PagedDocument &document) override {
+    landscape = document.PrefersLandscape(page);
+    if (landscape) page.transpose();
+    pages = document.LayOut(page);
+    QPainter painter(&recorder);
+    for (int number = 0; number < pages; ++number) {
+      recorder.page = number;
+      document.DrawPage(painter, number);
+    }
+  }
+  void Preview(PagedDocument &document, QWidget *) override { Print(document); }
+
+  QString TextOf(int number) const {
+    QStringList texts;
+    for (const DrawnText &drawn : recorder.drawn) {
+      if (drawn.page == number) texts.append(drawn.text);
+    }
+    return texts.join(QLatin1Char('|'));
+  }
+
+  bool hasPrinter = true;
+  bool landscape = false;
+  QSizeF page{10200, 15100};  // A4 inside its margins
+  int pages = 0;
+  TextRecorder recorder;
+};
+
+PrintedList Words(int rows, int columns, const QString &word) {
+  PrintedList list;
+  list.heading = QStringLiteral("Food List: My Foods");
+  for (int column = 0; column < columns; ++column) {
+    list.columns.push_back({QStringLiteral("Caption%1\n(g)").arg(column), 2000, column > 0});
+  }
+  list.rows = rows;
+  list.cell = [word](int row, int column) {
+    return column > 0 ? QString::number(row) : QStringLiteral("%1 r%2").arg(word).arg(row);
+  };
+  return list;
+}
+
+TEST(ListPrinting, EveryRowStandsOnceUnderRepeatedCaptions) {
+  RecordingOutput output;
+  QueuedBoxes boxes;
+  PrintedList list = Words(500, 3, QStringLiteral("Bread"));
+  list.closing = {{QStringLiteral("Daily Totals"), QStringLiteral("12"), QStringLiteral("34")}};
+  ASSERT_TRUE(PrintList(list, boxes, nullptr, &output));
+  EXPECT_GT(output.pages, 5);
+  EXPECT_FALSE(output.landscape);
+  QString all;
+  for (int page = 0; page < output.pages; ++page) {
+    const QString text = output.TextOf(page);
+    EXPECT_TRUE(text.startsWith(QStringLiteral("Food List: My Foods|Caption0|Caption1|"))) << text.toStdString();
+    EXPECT_TRUE(text.contains(QStringLiteral("|Page: %1|").arg(page + 1))) << page;
+    all += QLatin1Char('|') + text;
+  }
+  for (int row = 0; row < 500; ++row) EXPECT_EQ(all.count(QStringLiteral("|Bread r%1|").arg(row)), 1) << row;
+  EXPECT_TRUE(all.endsWith(QStringLiteral("|Daily Totals|12|34")));
+}
+
+TEST(ListPrinting, NothingIsCutOff) {
+  struct Case {
+    const char *what;
+    PrintedList list;
+    bool landscape;
+  };
+  PrintedList tall = Words(3, 2, QStringLiteral("word ").repeated(3000));
+  for (Case &printed : std::vector<Case>{
+           {"more columns than a page is wide", Words(30, 14, QStringLiteral("A food with a rather long name")), true},
+           {"a word longer than its column", Words(5, 3, QString(400, QLatin1Char('w'))), false},
+           {"a row longer than a page", tall, false},
+           {"no rows at all", Words(0, 2, {}), false},
+       }) {
+    RecordingOutput output;
+    QueuedBoxes boxes;
+    ASSERT_TRUE(PrintList(printed.list, boxes, nullptr, &output));
+    EXPECT_EQ(output.landscape, printed.landscape) << printed.what;
+    qsizetype letters = 0;
+    for (const DrawnText &drawn : output.recorder.drawn) {
+      EXPECT_GE(drawn.left, -1) << printed.what;
+      EXPECT_LE(drawn.right, output.page.width() + 1) << printed.what << ": " << drawn.text.toStdString();
+      EXPECT_LE(drawn.bottom, output.page.height()) << printed.what;
+      letters += drawn.text.count(QLatin1Char('w'));
+    }
+    qsizetype expected = 0;
+    for (int row = 0; row < printed.list.rows; ++row) expected += printed.list.cell(row, 0).count(QLatin1Char('w'));
+    EXPECT_EQ(letters, expected) << printed.what;
+  }
+}
+
+TEST_F(GridTest, AGridPrintsItsVisibleColumnsInTheOrderShown) {
+  grid.ShowColumn(QStringLiteral("Bought"), false);
+  grid.SortBy(QStringLiteral("FoodDesc"), true);
+  RecordingOutput output;
+  QueuedBoxes boxes;
+  ASSERT_TRUE(PrintGrid(grid, QStringLiteral("Foods"), boxes, &output));
+  const QString text = output.TextOf(0);
+  EXPECT_TRUE(text.startsWith(QStringLiteral("Foods|Food Description|Calories|Fat|Group|Modified|(kcal)|(g)")))
+      << text.toStdString();
+  EXPECT_TRUE(text.contains(QStringLiteral("|Food 00040|995|5.00|Fruits|No|Food 00039|"))) << text.toStdString();
+}
+
+TEST(WindowPrinting, WithoutAPrinterThePageGoesToAPdfFile) {
+  QTemporaryDir folder;
+  QLineEdit form(QStringLiteral("A form"));
+  form.setWindowTitle(QStringLiteral("Data: 1/2"));
+  form.resize(900, 600);
+  RecordingOutput output;
+  output.hasPrinter = false;
+  QueuedBoxes boxes;
+  const QString title = QStringLiteral("Print to a PDF File");
+  boxes.ExpectInput(title, std::nullopt);
+  EXPECT_FALSE(PrintWindow(form, boxes, &output)) << "cancelled";
+  boxes.ExpectInput(title, folder.filePath(QStringLiteral("page")));
+  EXPECT_TRUE(PrintWindow(form, boxes, &output));
+  QFile pdf(folder.filePath(QStringLiteral("page.pdf")));
+  ASSERT_TRUE(pdf.open(QIODevice::ReadOnly));
+  const QByteArray content = pdf.readAll();
+  EXPECT_TRUE(content.startsWith("%PDF-"));
+  EXPECT_EQ(content.count("/Type /Page\n"), 1);
+  boxes.ExpectInput(title, folder.filePath(QStringLiteral("missing/page.pdf")));
+  EXPECT_THROW(PrintWindow(form, boxes, &output), Error);
+}
+
+}  // namespace
+}  // namespace trimlog
