@@ -12,6 +12,7 @@
 #include "core/statistics.h"
 #include "platform/boxes.h"
 #include "platform/database.h"
+#include "platform/grid_clipboard.h"
 #include "platform/machine.h"
 
 namespace trimlog {
@@ -67,6 +68,8 @@ class Session {
   bool QuickJournalOpen = false;
   bool SuppressReward = false;  ///< set when a navigation button is pressed, cleared when a weight cell gets the focus
   bool PasswordAccepted = true;
+
+  GridClipboard rowClipboard;  ///< rows last copied from a grid
 
   QDate FirstWeightDate;  ///< invalid: the profile has no weights
   QDate LastWeightDate;

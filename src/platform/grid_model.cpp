@@ -160,14 +160,13 @@ std::vector<GridRow> GridModel::FetchRows(const std::vector<qint64> &keys) const
   return rows;
 }
 
-GridRow GridModel::FetchedRow(int row) const {
+const GridRow *GridModel::FetchedRow(int row) const {
   const qint64 key = keys_.At(row);
   if (!cache_.Contains(key)) {
     const int start = row - row % RowCache::block;
     cache_.Need(keys_.Range(start, start + RowCache::block - 1), [this](const auto &keys) { return FetchRows(keys); });
   }
-  const GridRow *const found = cache_.Find(key);
-  return found ? *found : GridRow{key, {}};
+  return cache_.Find(key);
 }
 
 Value GridModel::StoredField(int row, const QString &field) const {
@@ -177,8 +176,8 @@ Value GridModel::StoredField(int row, const QString &field) const {
     const QList<QVariantMap> whole = WholeRows({keys_.At(row)});
     return whole.isEmpty() ? Value() : whole.first().value(field);
   }
-  const GridRow found = FetchedRow(row);
-  return position < static_cast<qsizetype>(found.values.size()) ? found.values[position] : Value();
+  const GridRow *const found = FetchedRow(row);
+  return found && position < static_cast<qsizetype>(found->values.size()) ? found->values[position] : Value();
 }
 
 int GridModel::RecordCount() const { return keys_.Count(); }

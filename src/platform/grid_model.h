@@ -99,7 +99,7 @@ class GridModel : public QAbstractTableModel {
  private:
   const GridColumn *ColumnAt(const QModelIndex &index) const;
   Value StoredField(int row, const QString &field) const;
-  GridRow FetchedRow(int row) const;
+  const GridRow *FetchedRow(int row) const;  ///< good until the next row is fetched
   std::vector<GridRow> FetchRows(const std::vector<qint64> &keys) const;
   void CollectFields();
   void Reread();

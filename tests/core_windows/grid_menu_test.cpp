@@ -1,0 +1,85 @@
+#include "core/windows/grid_menu.h"
+
+#include <gtest/gtest.h>
+
+#include "platform/recordset.h"
+#include "platform/windows/bound_grid.h"
+#include "support/test_session.h"
+
+namespace trimlog {
+namespace {
+
+class GridMenuTest : public ::testing::Test {
+ protected:
+  GridMenuTest() {
+    for (BoundGrid *shown : {&grid, &other}) {
+      shown->SetColumns(
+          {{.name = QStringLiteral("Description"), .field = QStringLiteral("Description"), .editable = true},
+           {.name = QStringLiteral("Dummy")}});
+      shown->Open(
+          session.Data(),
+          {.table = QStringLiteral("links"), .key = QStringLiteral("LinkID"), .order = {{QStringLiteral("LinkID")}}});
+      menu.Attach(*shown);
+    }
+    grid.recordSource = QStringLiteral("datLinks");
+    other.recordSource = QStringLiteral("datMealsList");
+    for (BoundGrid *shown : {&grid, &other}) {
+      shown->Hooks().pasteRows = [this](const GridClipboard &rows) {
+        pasted += rows.rows.size();
+        return std::vector<qint64>{};
+      };
+    }
+  }
+  /// Opens the menu on a cell of a grid.
+  void Open(BoundGrid &shown, int row, int column) {
+    shown.setCurrentIndex(shown.Model().index(row, column));
+    Q_EMIT shown.MenuWanted({});
+    menu.hide();
+  }
+  QAction *Action(const char *name) { return menu.findChild<QAction *>(QLatin1String(name)); }
+
+  TestSession session;
+  Navigator navigator;
+  BoundGrid grid{QStringLiteral("grdLinksEdit"), QStringLiteral("Links"), session->locale};
+  BoundGrid other{QStringLiteral("grdMealsList"), QStringLiteral("Foods"), session->locale};
+  GridMenu menu{*session, navigator, &grid};
+  qsizetype pasted = 0;
+};
+
+TEST_F(GridMenuTest, SortsTheColumnUnderTheMouseAndDisablesWhatCannotBeDone) {
+  Open(grid, 0, 0);
+  Action("mnuPM1SortDescending")->trigger();
+  EXPECT_EQ(grid.Model().Source().order, (QList<GridOrder>{{QStringLiteral("Description"), true}}));
+  EXPECT_FALSE(Action("mnuPM1UndoRow")->isEnabled());
+  EXPECT_FALSE(Action("mnuPM1Targets")->isEnabled()) << "a door that leads nowhere";
+  grid.Model().setData(grid.Model().index(0, 0), QStringLiteral("Changed"));
+  Open(grid, 0, 0);
+  EXPECT_TRUE(Action("mnuPM1UndoField")->isEnabled());
+  Action("mnuPM1UndoField")->trigger();
+  EXPECT_FALSE(grid.Model().IsChanging());
+  Open(grid, 0, 1);
+  EXPECT_FALSE(Action("mnuPM1SortAscending")->isEnabled()) << "a column without data";
+}
+
+TEST_F(GridMenuTest, RowsArePastedOnlyIntoAGridOfTheirKind) {
+  const QString refusal = QStringLiteral(
+      "The data that was last copied was not of this type.  Please select and copy the corresponding data that you "
+      "would "
+      "like to paste first.");
+  Open(grid, 0, 0);
+  session.boxes.Expect(QStringLiteral("Unable to Copy Data"), refusal);
+  Action("mnuPM1PasteRow")->trigger();  // nothing was copied yet
+  Action("mnuPM1CopyRowNormal")->trigger();
+  EXPECT_EQ(session->rowClipboard.rows.size(), 1);
+  Open(other, 0, 0);
+  session.boxes.Expect(QStringLiteral("Unable to Copy Data"), refusal);
+  Action("mnuPM1PasteRow")->trigger();
+  EXPECT_EQ(pasted, 0);
+  EXPECT_EQ(session.boxes.Shown().back().icon, BoxIcon::Critical);
+  Open(grid, 0, 0);
+  Action("mnuPM1PasteRow")->trigger();
+  EXPECT_EQ(pasted, 1);
+}
+
+}  // namespace
+}  // namespace trimlog
