@@ -8,8 +8,9 @@
 #include <QLineEdit>
 #include <QPlainTextEdit>
 #include <QSpinBox>
-#include <QStandardItemModel>
-#include <QTableView>
+
+#include "platform/windows/bound_grid.h"
+#include "support/test_session.h"
 
 namespace trimlog {
 namespace {
@@ -64,27 +65,30 @@ TEST(EditCommands, ReachTheFieldInsideOtherControls) {
 }
 
 TEST(EditCommands, OnAGridMeanTheActiveCell) {
-  QStandardItemModel model(1, 2);
-  model.setItem(0, 0, new QStandardItem(QStringLiteral("Ann")));
-  model.setItem(0, 1, new QStandardItem(QStringLiteral("locked")));
-  model.item(0, 1)->setEditable(false);
-  QTableView grid;
-  grid.setObjectName(QStringLiteral("grdPeople"));
-  grid.setModel(&model);
-  EXPECT_FALSE(CanRunEditCommand(EditCommand::Copy, &grid));
+  TestSession session;
+  BoundGrid grid(QStringLiteral("grdPeople"), QStringLiteral("Profiles"), session->locale);
+  grid.SetColumns({{.name = QStringLiteral("PersonName"), .field = QStringLiteral("PersonName"), .editable = true},
+                   {.name = QStringLiteral("Goal"), .field = QStringLiteral("Goal")}});
+  ASSERT_TRUE(grid.Open(session.Data(), {.table = QStringLiteral("people"),
+                                         .key = QStringLiteral("PersonID"),
+                                         .where = QStringLiteral("(people.PersonID > 0)")}));
+  EXPECT_TRUE(grid.GoToKey(1));
+  const auto text = [&grid](int column) { return grid.model()->index(0, column).data().toString(); };
 
-  grid.setCurrentIndex(model.index(0, 0));
+  grid.setCurrentIndex(grid.model()->index(0, 0));
   RunEditCommand(EditCommand::Cut, &grid);
-  EXPECT_EQ(Clipboard(), QStringLiteral("Ann"));
-  EXPECT_EQ(model.item(0, 0)->text(), QString());
+  EXPECT_EQ(Clipboard(), QStringLiteral("Test Person"));
+  EXPECT_EQ(text(0), QString());
   RunEditCommand(EditCommand::Paste, &grid);
-  EXPECT_EQ(model.item(0, 0)->text(), QStringLiteral("Ann"));
+  EXPECT_EQ(text(0), QStringLiteral("Test Person"));
 
-  grid.setCurrentIndex(model.index(0, 1));
+  SetClipboard("99");
+  grid.setCurrentIndex(grid.model()->index(0, 1));
   RunEditCommand(EditCommand::Paste, &grid);
-  RunEditCommand(EditCommand::Cut, &grid);
-  EXPECT_EQ(model.item(0, 1)->text(), QStringLiteral("locked"));
-  EXPECT_EQ(Clipboard(), QStringLiteral("Ann"));
+  RunEditCommand(EditCommand::Copy, &grid);
+  EXPECT_EQ(text(1), QStringLiteral("150"));
+  EXPECT_EQ(Clipboard(), QStringLiteral("150"));
+  EXPECT_FALSE(CanRunEditCommand(EditCommand::Paste, &grid));
 }
 
 TEST(EditCommands, DoNothingOnOtherControlsAndOnNone) {

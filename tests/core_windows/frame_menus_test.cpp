@@ -5,6 +5,7 @@
 #include <QMap>
 #include <QSet>
 
+#include "core/windows/print_window.h"
 #include "frame_fixture.h"
 
 namespace trimlog {
@@ -129,6 +130,44 @@ TEST_F(FrameCommandsTest, EditActsOnTheFieldThatLastHadTheFocus) {
   Choose("mnuEditPaste");
   EXPECT_EQ(second->text(), QStringLiteral("180"));
   EXPECT_EQ(first->text(), QStringLiteral("182"));
+}
+
+/// A print system of the test's own.
+class FakeOutput final : public PageOutput {
+ public:
+  bool HasPrinter() const override { return true; }
+  void Print(PagedDocument &document) override {
+    if (broken) throw Error(error_number::other, QStringLiteral("out of paper"));
+    pages += document.LayOut({11000, 15000});
+  }
+  void Preview(PagedDocument &document, QWidget *) override { Print(document); }
+  bool broken = false;
+  int pages = 0;
+};
+
+TEST_F(FrameCommandsTest, PrintingDressesTheWindowAndUndressesItWhateverHappens) {
+  Load();
+  const QString question = QStringLiteral("Print the currently displayed window to your default printer?");
+  const QString note = QStringLiteral("Note: After clicking OK, there will be a momentary delay");
+  FakeOutput output;
+  session.boxes.Expect(QStringLiteral("Print Window?"), question, BoxButton::No);
+  PrintCurrentWindow(*session, *frame->CurrentForm(), &output);
+  EXPECT_TRUE(behaviour.calls.isEmpty());
+
+  for (const bool broken : {false, true}) {
+    output.broken = broken;
+    behaviour.calls.clear();
+    session.boxes.Expect(QStringLiteral("Print Window?"), question, BoxButton::Yes);
+    session.boxes.Expect(QStringLiteral("Print Window?"), note);
+    if (broken) {
+      session.boxes.Expect(
+          QStringLiteral("Printer Error"),
+          QStringLiteral("An error occurred while printing to your default printer.  Unable to print at this time."));
+    }
+    PrintCurrentWindow(*session, *frame->CurrentForm(), &output);
+    EXPECT_EQ(behaviour.calls.join(QLatin1Char(' ')), QStringLiteral("frmData:paper frmData:screen"));
+  }
+  EXPECT_EQ(output.pages, 1);
 }
 
 }  // namespace

@@ -1,13 +1,12 @@
 #include "core/windows/edit_commands.h"
 
-#include <QAbstractItemView>
 #include <QAbstractSpinBox>
-#include <QApplication>
-#include <QClipboard>
 #include <QComboBox>
 #include <QLineEdit>
 #include <QPlainTextEdit>
 #include <QTextEdit>
+
+#include "platform/windows/bound_grid.h"
 
 namespace trimlog {
 
@@ -24,10 +23,7 @@ QWidget *TextField(QWidget *control) {
   return nullptr;
 }
 
-QAbstractItemView *Grid(QWidget *control) {
-  auto *view = qobject_cast<QAbstractItemView *>(control);
-  return view && view->objectName().startsWith(QStringLiteral("grd")) ? view : nullptr;
-}
+BoundGrid *Grid(QWidget *control) { return qobject_cast<BoundGrid *>(control); }
 
 bool IsReadOnly(const QWidget *field) { return field->property("readOnly").toBool() || !field->isEnabled(); }
 
@@ -35,35 +31,36 @@ bool Writes(EditCommand command) { return command != EditCommand::Copy; }
 
 void RunOnField(EditCommand command, QWidget *field) {
   if (IsReadOnly(field) && Writes(command)) return;
-  static constexpr const char *slots[] = {"undo", "cut", "copy", "paste"};
-  QMetaObject::invokeMethod(field, slots[static_cast<int>(command)]);
+  static constexpr const char *procedures[] = {"undo", "cut", "copy", "paste"};
+  QMetaObject::invokeMethod(field, procedures[static_cast<int>(command)]);
 }
 
-void RunOnCell(EditCommand command, QAbstractItemView *grid) {
-  const QModelIndex cell = grid->currentIndex();
-  if (!cell.isValid()) return;
-  const bool editable = cell.flags().testFlag(Qt::ItemIsEditable);
-  if (command == EditCommand::Copy || (command == EditCommand::Cut && editable)) {
-    QApplication::clipboard()->setText(cell.data(Qt::DisplayRole).toString());
+void RunOnCell(EditCommand command, BoundGrid &grid) {
+  switch (command) {
+    case EditCommand::Undo:
+      return grid.UndoField();
+    case EditCommand::Cut:
+      return grid.Cut();
+    case EditCommand::Copy:
+      return grid.Copy();
+    case EditCommand::Paste:
+      return grid.Paste();
   }
-  if (!editable) return;
-  if (command == EditCommand::Cut) grid->model()->setData(cell, QString());
-  if (command == EditCommand::Paste) grid->model()->setData(cell, QApplication::clipboard()->text());
 }
 
 }  // namespace
 
 void RunEditCommand(EditCommand command, QWidget *control) {
-  if (QAbstractItemView *grid = Grid(control)) {
-    RunOnCell(command, grid);
+  if (BoundGrid *grid = Grid(control)) {
+    RunOnCell(command, *grid);
   } else if (QWidget *field = TextField(control)) {
     RunOnField(command, field);
   }
 }
 
 bool CanRunEditCommand(EditCommand command, QWidget *control) {
-  if (const QAbstractItemView *grid = Grid(control)) {
-    return grid->currentIndex().isValid() && command != EditCommand::Undo &&
+  if (const BoundGrid *grid = Grid(control)) {
+    return grid->currentIndex().isValid() &&
            (!Writes(command) || grid->currentIndex().flags().testFlag(Qt::ItemIsEditable));
   }
   const QWidget *field = TextField(control);

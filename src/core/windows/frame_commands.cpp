@@ -65,7 +65,9 @@ std::vector<FrameCommand> FrameCommands(frmMDI &frame, Session &session, const N
 
   return {
       content("mnuFilePrint", &ContentWindow::PrintContents),
-      {"mnuFilePrintWindow", "", {}, [&] { PrintCurrentWindow(session, frame); }},
+      {"mnuFilePrintWindow", "", {}, saved([&] {
+         if (frame.CurrentForm()) PrintCurrentWindow(session, *frame.CurrentForm());
+       })},
       {"mnuFileConfigWizard", "", Leads(navigator.StartWiz), saved([&frame] { frame.RunWizard(); })},
       {"mnuFileExit", "cmdExit", {}, [&frame] { frame.close(); }},
 
