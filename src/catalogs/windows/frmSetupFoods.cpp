@@ -1,0 +1,199 @@
+#include "catalogs/windows/frmSetupFoods.h"
+
+#include <QHBoxLayout>
+#include <QPushButton>
+#include <QTabWidget>
+#include <QVBoxLayout>
+
+#include "catalogs/food_catalog.h"
+#include "catalogs/food_lists.h"
+#include "catalogs/windows/food_list_page.h"
+#include "catalogs/windows/food_page.h"
+#include "catalogs/windows/food_search_page.h"
+#include "core/failure_guard.h"
+#include "core/windows/add_rec_page.h"
+#include "platform/windows/bound_grid.h"
+#include "platform/windows/grid_printer.h"
+
+namespace trimlog {
+
+namespace {
+
+/// The group that a new food starts in when none is chosen.
+constexpr int firstGroupOfNewFoods = 18;
+
+FailureExit LoadFailure() {
+  return {QStringLiteral("frmSetupFoods"), QStringLiteral("Form_Load"), QStringLiteral("Error Loading Setup Info"),
+          QStringLiteral("An error occurred while loading your setup information.")};
+}
+
+}  // namespace
+
+frmSetupFoods::frmSetupFoods(Session &session, const Navigator &navigator, QWidget *owner)
+    : QDialog(owner), session_(session), navigator_(navigator) {
+  setObjectName(QStringLiteral("frmSetupFoods"));
+  setWindowTitle(QStringLiteral("Food Setup"));
+  setWindowFlag(Qt::WindowContextHelpButtonHint, false);
+  setWindowFlag(Qt::WindowMaximizeButtonHint);
+  setSizeGripEnabled(true);
+
+  auto *layout = new QHBoxLayout(this);
+  SSTab1 = new QTabWidget(this);
+  SSTab1->setObjectName(QStringLiteral("SSTab1"));
+  SSTab1->setAccessibleName(QStringLiteral("Foods"));
+  layout->addWidget(SSTab1, 1);
+  auto *buttons = new QVBoxLayout;
+  layout->addLayout(buttons);
+  AddButtons(buttons);
+
+  Guarded(session_, LoadFailure(), [&] {
+    listPage_ = new FoodListPage(session_, SSTab1);
+    searchPage_ = new FoodSearchPage(session_, SSTab1);
+    SSTab1->addTab(listPage_, QStringLiteral("Foods by Group/List   "));
+    SSTab1->addTab(searchPage_, QStringLiteral("  Find Food by Name Search    "));
+    ConnectGrid(listPage_->Grid());
+    ConnectGrid(searchPage_->Grid());
+    listPage_->FillList();
+  });
+  ConnectButtons();
+  connect(SSTab1, &QTabWidget::currentChanged, this, &frmSetupFoods::OnTabChanged);
+  connect(&session_.changes, &DataChanges::Changed, this, &frmSetupFoods::OnChanged);
+  resize(sizeHint().expandedTo({860, 520}));
+  listPage_->Grid()->setFocus();
+  UpdateRowState();
+}
+
+QPushButton *frmSetupFoods::AddButton(QVBoxLayout *layout, const QString &name, const QString &caption,
+                                      const QString &tip) {
+  auto *button = new QPushButton(caption, this);
+  button->setObjectName(name);
+  button->setToolTip(tip);
+  button->setAutoDefault(false);  // Enter belongs to the grid and to the search
+  layout->addWidget(button);
+  return button;
+}
+
+void frmSetupFoods::AddButtons(QVBoxLayout *layout) {
+  cmdNewMeal = AddButton(layout, QStringLiteral("cmdNewMeal"), QStringLiteral("&New"),
+                         QStringLiteral("Adds a food of your own."));
+  cmdDeleteMeal = AddButton(layout, QStringLiteral("cmdDeleteMeal"), QStringLiteral("&Delete"),
+                            QStringLiteral("Deletes the marked foods and their journal entries."));
+  cmdCopyMeal = AddButton(layout, QStringLiteral("cmdCopyMeal"), QStringLiteral("&Copy Food"),
+                          QStringLiteral("Copies a pre-loaded food to My Foods, where you can change it."));
+  cmdAllNutrients = AddButton(layout, QStringLiteral("cmdAllNutrients"), QStringLiteral("&All Nutrients..."),
+                              QStringLiteral("Shows all 35 nutrients of the food."));
+  cmdPrintMeals = AddButton(layout, QStringLiteral("cmdPrintMeals"), QStringLiteral("&Print Foods"),
+                            QStringLiteral("Prints the foods listed here."));
+  cmdRecipes = AddButton(layout, QStringLiteral("cmdRecipes"), QStringLiteral("&Recipes..."), {});
+  layout->addStretch();
+  cmdTipsFoods = AddButton(layout, QStringLiteral("cmdTipsFoods"), QStringLiteral("&Tips..."), {});
+  cmdHelp = AddButton(layout, QStringLiteral("cmdHelp"), QStringLiteral("&Help"), {});
+  cmdOK = AddButton(layout, QStringLiteral("cmdOK"), QStringLiteral("&OK"), {});
+  cmdRecipes->setEnabled(static_cast<bool>(navigator_.OpenRecipes));
+  cmdTipsFoods->setEnabled(static_cast<bool>(navigator_.ShowHelp));
+  cmdHelp->setEnabled(static_cast<bool>(navigator_.ShowHelp));
+}
+
+void frmSetupFoods::ConnectGrid(BoundGrid *grid) {
+  connect(grid, &BoundGrid::CurrentRowChanged, this, &frmSetupFoods::UpdateRowState);
+  connect(grid, &BoundGrid::RowActivated, this, &frmSetupFoods::OnAllNutrients);
+}
+
+void frmSetupFoods::ConnectButtons() {
+  connect(cmdNewMeal, &QPushButton::clicked, this, &frmSetupFoods::OnNew);
+  connect(cmdDeleteMeal, &QPushButton::clicked, this, &frmSetupFoods::OnDelete);
+  connect(cmdCopyMeal, &QPushButton::clicked, this, &frmSetupFoods::OnCopy);
+  connect(cmdAllNutrients, &QPushButton::clicked, this, &frmSetupFoods::OnAllNutrients);
+  connect(cmdPrintMeals, &QPushButton::clicked, this, &frmSetupFoods::OnPrint);
+  connect(cmdRecipes, &QPushButton::clicked, this, [this] { navigator_.OpenRecipes(this); });
+  connect(cmdTipsFoods, &QPushButton::clicked, this, [this] { navigator_.ShowHelp(QStringLiteral("tips_foods")); });
+  connect(cmdHelp, &QPushButton::clicked, this, [this] { navigator_.ShowHelp(QStringLiteral("foods")); });
+  connect(cmdOK, &QPushButton::clicked, this, &frmSetupFoods::accept);
+}
+
+bool frmSetupFoods::OnSearchTab() const { return SSTab1->currentWidget() == searchPage_; }
+
+BoundGrid *frmSetupFoods::CurrentGrid() const { return OnSearchTab() ? searchPage_->Grid() : listPage_->Grid(); }
+
+void frmSetupFoods::UpdateRowState() {
+  const BoundGrid *grid = CurrentGrid();
+  const bool onFood = grid->CurrentKey().has_value();
+  const bool own = onFood && grid->CurrentField(QStringLiteral("RecordTypeID")).toInt() != food_kind::preLoaded;
+  cmdNewMeal->setEnabled(!OnSearchTab());
+  cmdDeleteMeal->setEnabled(own);
+  cmdCopyMeal->setEnabled(onFood && !own);
+  cmdAllNutrients->setEnabled(onFood);
+  cmdPrintMeals->setEnabled(grid->Model().RecordCount() > 0);
+}
+
+void frmSetupFoods::OnTabChanged() {
+  UpdateRowState();
+  if (OnSearchTab()) {
+    searchPage_->setFocus();
+  } else {
+    listPage_->Grid()->setFocus();
+  }
+}
+
+void frmSetupFoods::RefreshLists() {
+  listPage_->Grid()->Refresh();
+  searchPage_->Grid()->Refresh();
+  listPage_->UpdateHeading();
+  searchPage_->UpdateHeading();
+  UpdateRowState();
+}
+
+void frmSetupFoods::OnNew() {
+  if (!CurrentGrid()->CommitRow()) return;
+  const int group = listPage_->ChosenGroup() == 0 ? firstGroupOfNewFoods : listPage_->ChosenGroup();
+  AddRec(
+      this, [&](QWidget *parent) { return new FoodPage(session_, group, parent); },
+      [this](AddRecPage &page) { listPage_->Grid()->GoToKey(static_cast<FoodPage &>(page).MealID()); });
+}
+
+void frmSetupFoods::OnCopy() {
+  const std::optional<qint64> key = CurrentGrid()->CurrentKey();
+  if (!key) return;
+  const QString name = CurrentGrid()->CurrentField(QStringLiteral("MealDesc")).toString();
+  if (!session_.boxes.Ask(QStringLiteral("Copy Selected Food?"), CopyFoodQuestion(name))) return;
+  const FailureExit failure{QStringLiteral("frmSetupFoods"), QStringLiteral("cmdCopyMeal_Click"),
+                            QStringLiteral("Error Copying Food"),
+                            QStringLiteral("An error occurred while trying to copy this food.")};
+  Guarded(session_, failure, [&] { CopyFood(session_, static_cast<int>(*key)); });
+}
+
+void frmSetupFoods::OnDelete() { CurrentGrid()->DeleteSelected(); }
+
+void frmSetupFoods::OnAllNutrients() {
+  BoundGrid *grid = CurrentGrid();
+  if (!grid->CommitRow() || !grid->CurrentKey()) return;
+  const int mealID = static_cast<int>(*grid->CurrentKey());
+  Guarded(session_, LoadFailure(), [&] {
+    const FoodRecord food = ReadFood(session_, mealID);
+    AddRec(this, [&](QWidget *parent) { return new FoodPage(session_, food, parent); });
+  });
+}
+
+void frmSetupFoods::OnPrint() {
+  if (!CurrentGrid()->CommitRow()) return;
+  const FailureExit failure{
+      QStringLiteral("frmSetupFoods"), QStringLiteral("cmdPrintMeals_Click"), QStringLiteral("Printer Error"),
+      QStringLiteral("An error occurred while printing to your default printer.  Unable to print at "
+                     "this time.")};
+  const QString heading = OnSearchTab() ? searchPage_->PrintedTitle() : listPage_->PrintedTitle();
+  Guarded(session_, failure, [&] { PrintGrid(*CurrentGrid(), heading, session_.boxes); });
+}
+
+void frmSetupFoods::OnChanged(const DataChange &change) {
+  if (change.table == QStringLiteral("meals_list")) RefreshLists();
+  if (change.table == QStringLiteral("selected_nutrients")) {
+    listPage_->NutrientsChanged();
+    searchPage_->NutrientsChanged();
+  }
+}
+
+void frmSetupFoods::done(int result) {
+  if (listPage_->Grid()->CommitRow() && searchPage_->Grid()->CommitRow()) QDialog::done(result);
+}
+
+}  // namespace trimlog
