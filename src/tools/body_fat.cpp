@@ -66,8 +66,8 @@ QString CategoryAdvice(int category, const std::optional<int> &bmi) {
                    "your BMI is ") +
                QString::number(*bmi) + IndexJudgement(*bmi) +
                QStringLiteral(
-                   "  So it would be wise to keep this in mind when determining if this is a healthy condition "
-                   "for you.");
+                   "  So it would be wise to keep this in mind when determining if this is a healthy condition for "
+                   "you.");
       }
       return QStringLiteral(
                  "  According to many health professionals, this is considered an acceptable level for you.  "
@@ -75,9 +75,9 @@ QString CategoryAdvice(int category, const std::optional<int> &bmi) {
              index;
     default:
       return QStringLiteral(
-                 "  According to many health professionals, this is considered an unhealthy condition, so it "
-                 "would be wise to lower your Body Fat percentage.  Of course, you can also consider your BMI "
-                 "value, which takes your height into account.  ") +
+                 "  According to many health professionals, this is considered an unhealthy condition, so it would "
+                 "be wise to lower your Body Fat percentage.  Of course, you can also consider your BMI value, "
+                 "which takes your height into account.  ") +
              index;
   }
 }

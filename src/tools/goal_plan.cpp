@@ -107,14 +107,14 @@ std::optional<Box> CheckGoalMethodRate(const QString &rate, const QLocale &local
   const std::optional<double> value = ParseNumber(rate, locale);
   if (!value) {
     return Refusal("Invalid lbs/week",
-                   "The lbs/week that you entered is invalid.  Please enter a numeric value for the number of lbs/week "
-                   "you wish to lose.");
+                   "The lbs/week that you entered is invalid.  Please enter a numeric value for the number of "
+                   "lbs/week you wish to lose.");
   }
   if (*value > 0) return std::nullopt;
   return Refusal(
       "Invalid lbs/week",
-      "The lbs/week that you entered cannot be zero or negative.  Please enter a positive, nonzero value for "
-      "the number of lbs/week you wish to lose.");
+      "The lbs/week that you entered cannot be zero or negative.  Please enter a positive, nonzero value for the "
+      "number of lbs/week you wish to lose.");
 }
 
 QString RepairedRate(const QString &rate, int UomID, const QLocale &locale) {

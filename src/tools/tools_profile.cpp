@@ -98,7 +98,7 @@ QString InitialWeightCaption(const ToolsProfile &profile, const QString &UomDisp
 }
 
 QString CurrentWaistCaption(const ToolsProfile &profile, int UomID, const QLocale &locale) {
-  const QString caption = QStringLiteral("Use My Most Recent Measurement");
+  QString caption = QStringLiteral("Use My Most Recent Measurement");
   if (!profile.LatestWaist) return caption;
   return caption + QStringLiteral(" of ") + NumberText(*profile.LatestWaist, locale) + QLatin1Char(' ') +
          LengthUnitText(UomID);

@@ -58,59 +58,43 @@ TEST(BodyFatSummary, WordForWordInEveryCategory) {
   const Case cases[] = {
       // (-98.42 + 83 - 14.76) / 180 is below 0. The index at 6 feet: 81.72 / 3.34451 = 24.43
       {180, 20, male, 6, 0,
-       "At this stage your Body Fat Percentage is 0.00%.  This means that you have about 180 lbs of lean body mass and "
-       "0 lbs "
-       "of fat.  According to many health professionals, you may have too little Body Fat, which is not necessarily a "
-       "good "
-       "thing!  Another good thing to consider would be your BMI value.  Your BMI is 24, which indicates an ideal "
-       "situation for "
-       "your height."},
-      // (-98.42 + 116.2 - 9.84) / 120 = 6.6167 %... with 30 inches: (-98.42 + 124.5 - 10.66) / 130 = 15.42 / 130
-      // = 11.86 %
-      // so 29 inches and 130 lbs: 11.27 / 130 = 8.669 %, fat 11.27, lean 130 - 11. The index at 6 feet: 59.02 / 3.34451
+       "At this stage your Body Fat Percentage is 0.00%.  This means that you have about 180 lbs of lean body mass "
+       "and 0 lbs of fat.  According to many health professionals, you may have too little Body Fat, which is not "
+       "necessarily a good thing!  Another good thing to consider would be your BMI value.  Your BMI is 24, which "
+       "indicates an ideal situation for your height."},
+      // (-98.42 + 120.35 - 10.66) / 130 = 8.669 %, fat 11.27, lean 130 - 11. The index at 6 feet: 59.02 / 3.34451
       // = 17.65
       {130, 29, male, 6, 0,
-       "At this stage your Body Fat Percentage is 8.67%.  This means that you have about 119 lbs of lean body mass and "
-       "11 lbs "
-       "of fat.  Many athletes have Body Fat Percentages at this level!  Of course it may be wise to consider your BMI "
-       "value in "
-       "addition to this.  Your BMI is 18, which indicates that at this stage you are underweight according to some "
-       "experts."},
+       "At this stage your Body Fat Percentage is 8.67%.  This means that you have about 119 lbs of lean body mass "
+       "and 11 lbs of fat.  Many athletes have Body Fat Percentages at this level!  Of course it may be wise to "
+       "consider your BMI value in addition to this.  Your BMI is 18, which indicates that at this stage you are "
+       "underweight according to some experts."},
       // (-76.76 + 124.5 - 12.3) / 150 = 23.627 %, fat 35.44, lean 150 - 35. The index at 5 feet 4: 68.1 / 2.64258
       // = 25.77
       {150, 30, female, 5, 4,
        "At this stage your Body Fat Percentage is 23.63%.  This means that you have about 115 lbs of lean body mass "
-       "and 35 lbs "
-       "of fat.  According to many health professionals, this is considered an acceptable level for you.  Another good "
-       "thing to "
-       "consider would be your BMI value.  Your BMI is 26, which indicates an moderate health risk for your height."},
+       "and 35 lbs of fat.  According to many health professionals, this is considered an acceptable level for you.  "
+       "Another good thing to consider would be your BMI value.  Your BMI is 26, which indicates an moderate health "
+       "risk for your height."},
       // The same at 4 feet 11: 68.1 / 2.24580 = 30.32
       {150, 30, female, 4, 11,
        "At this stage your Body Fat Percentage is 23.63%.  This means that you have about 115 lbs of lean body mass "
-       "and 35 lbs "
-       "of fat.  According to the above diagram this is in the acceptable range, but it should be noted that your BMI "
-       "is 30, "
-       "which indicates a severe health risk for your height.  So it would be wise to keep this in mind when "
-       "determining if "
-       "this is a healthy condition for you."},
+       "and 35 lbs of fat.  According to the above diagram this is in the acceptable range, but it should be noted "
+       "that your BMI is 30, which indicates a severe health risk for your height.  So it would be wise to keep this "
+       "in mind when determining if this is a healthy condition for you."},
       // (-98.42 + 186.75 - 20.5) / 250 = 27.132 %, fat 67.83, lean 250 - 68. The index at 5 feet 10: 113.5 / 3.16128
       // = 35.90
       {250, 45, male, 5, 10,
        "At this stage your Body Fat Percentage is 27.13%.  This means that you have about 182 lbs of lean body mass "
-       "and 68 lbs "
-       "of fat.  According to many health professionals, this is considered an unhealthy condition, so it would be "
-       "wise to "
-       "lower your Body Fat percentage.  Of course, you can also consider your BMI value, which takes your height into "
-       "account."
-       "  Your BMI is 36, which indicates a severe health risk for your height."},
+       "and 68 lbs of fat.  According to many health professionals, this is considered an unhealthy condition, so it "
+       "would be wise to lower your Body Fat percentage.  Of course, you can also consider your BMI value, which "
+       "takes your height into account.  Your BMI is 36, which indicates a severe health risk for your height."},
       {250, 45, male, 0, 0,
        "At this stage your Body Fat Percentage is 27.13%.  This means that you have about 182 lbs of lean body mass "
-       "and 68 lbs "
-       "of fat.  According to many health professionals, this is considered an unhealthy condition, so it would be "
-       "wise to "
-       "lower your Body Fat percentage.  Of course, you can also consider your BMI value, which takes your height into "
-       "account."
-       "  Your BMI cannot be calculated from this weight and the height in your profile."},
+       "and 68 lbs of fat.  According to many health professionals, this is considered an unhealthy condition, so it "
+       "would be wise to lower your Body Fat percentage.  Of course, you can also consider your BMI value, which "
+       "takes your height into account.  Your BMI cannot be calculated from this weight and the height in your "
+       "profile."},
   };
   for (const Case &c : cases) {
     EXPECT_EQ(Assess(c.weight, c.waist, c.gender, c.feet, c.inches).summary.toStdString(), c.summary);

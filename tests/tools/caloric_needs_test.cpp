@@ -81,18 +81,18 @@ TEST(CaloricNeedsSummary, WordForWord) {
       {QStringLiteral("1954 calories"), QStringLiteral("2287 calories"), QStringLiteral("2750 calories")}};
   EXPECT_EQ(
       SummarizeCaloricNeeds(needs, 0, false).toStdString(),
-      "With a light activity level you will need to consume 1954 calories per day to maintain your current weight.  If "
-      "you're trying to lose weight by cutting calories, a healthy idea would be to consume less than 1954 calories "
-      "without going much less than your BMR of 1448 calories, or your metabolism may slow down as a result.  In "
-      "addition, most experts agree that 500-1000 calories per day is the most you can safely cut from your diet.");
+      "With a light activity level you will need to consume 1954 calories per day to maintain your current weight.  "
+      "If you're trying to lose weight by cutting calories, a healthy idea would be to consume less than 1954 "
+      "calories without going much less than your BMR of 1448 calories, or your metabolism may slow down as a "
+      "result.  In addition, most experts agree that 500-1000 calories per day is the most you can safely cut from "
+      "your diet.");
   EXPECT_EQ(
       SummarizeCaloricNeeds(needs, 2, true).toStdString(),
-      "If you can maintain a heavy activity level you'll need to consume 2750 calories each day to maintain your goal "
-      "weight.  If you're trying to lose weight by cutting your calories, this doesn't necessarily mean that 2750 "
-      "calories should be your goal right now.  Most experts agree that 500-1000 calories per day is the most you can "
-      "safely cut from your diet.  In any case, try not to go much less than your BMR of 1448 calories or this may "
-      "slow "
-      "your metabolism and make it harder to burn fat.");
+      "If you can maintain a heavy activity level you'll need to consume 2750 calories each day to maintain your "
+      "goal weight.  If you're trying to lose weight by cutting your calories, this doesn't necessarily mean that "
+      "2750 calories should be your goal right now.  Most experts agree that 500-1000 calories per day is the most "
+      "you can safely cut from your diet.  In any case, try not to go much less than your BMR of 1448 calories or "
+      "this may slow your metabolism and make it harder to burn fat.");
   EXPECT_TRUE(SummarizeCaloricNeeds(needs, 1, false)
                   .startsWith(QStringLiteral("With a moderate level of activity you will need")));
   EXPECT_EQ(SummarizeCaloricNeeds({}, 1, false).toStdString(), "") << "nothing calculated yet";

@@ -106,8 +106,8 @@ TEST(GoalPlanner, SpeaksMetricAndTheLocalesOwnNumbers) {
   EXPECT_EQ(
       plan.text.toStdString(),
       "If you can lose 0,5 kg/week, you will reach your goal weight on 13.04.2026.  Your goal weight's BMI is 25, "
-      "which indicates an moderate health risk for your height.  According to the BMI chart, a healthy weight for you "
-      "would be between 61 and 66 Kg.");
+      "which indicates an moderate health risk for your height.  According to the BMI chart, a healthy weight for "
+      "you would be between 61 and 66 Kg.");
 }
 
 TEST(GoalPlanner, SaysWhatItCannotCalculate) {
@@ -138,8 +138,7 @@ TEST(GoalFields, AreCheckedWhenTheyAreLeft) {
       "lose.";
   const char *lowRate =
       "The lbs/week that you entered cannot be zero or negative.  Please enter a positive, nonzero value for the "
-      "number of "
-      "lbs/week you wish to lose.";
+      "number of lbs/week you wish to lose.";
   const char *noGoal = "The goal that you entered is invalid.  Please enter a numeric value for your weight loss goal.";
   const char *lowGoal =
       "The goal that you entered is invalid.  Please enter a positive value for your weight loss goal.";

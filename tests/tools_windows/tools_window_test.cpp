@@ -208,8 +208,7 @@ TEST_F(ToolsWindow, WithoutAWeightTheCalendarIsOfferedOrAllIsLocked) {
   const QString title = QStringLiteral("Plan Feature Unavailable");
   const QString text = QStringLiteral(
       "To use this feature, you need to have a starting weight recorded in the Data Calendar.  Would you like to do "
-      "this "
-      "now?");
+      "this now?");
   session.boxes.Expect(title, text, BoxButton::Yes);
   Open();
   EXPECT_FALSE(window->isVisible());
@@ -235,8 +234,7 @@ TEST_F(ToolsWindow, WithoutABirthDateTheSetupIsOffered) {
   const QString title = QStringLiteral("Gender and Birth Date Required");
   const QString text = QStringLiteral(
       "Some of these tools require that you have entered your Gender and Birth Date into your Profile setup.  Would "
-      "you like "
-      "to do this now?");
+      "you like to do this now?");
   session.boxes.Expect(title, text, BoxButton::Yes);
   Open();
   EXPECT_FALSE(window->isVisible());
@@ -467,8 +465,8 @@ TEST_F(ToolsWindow, PrintsItsPictureAfterAsking) {
   const QString title = QStringLiteral("Print Results?");
   const QString text = QStringLiteral(
       "Print the currently displayed results to your default printer?\n\nNote: After clicking OK, there will be a "
-      "momentary "
-      "delay while your printer processes the data, and then the page will be printed.  This is completely normal.");
+      "momentary delay while your printer processes the data, and then the page will be printed.  This is completely "
+      "normal.");
   session.boxes.Expect(title, text, BoxButton::Cancel);
   Click("cmdPrint");
   const QString path = session.directory.filePath(QStringLiteral("results.pdf"));

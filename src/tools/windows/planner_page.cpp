@@ -1,6 +1,7 @@
 #include "tools/windows/planner_page.h"
 
 #include <QAbstractButton>
+#include <QEvent>
 #include <QFrame>
 #include <QLabel>
 #include <QPushButton>
