@@ -345,6 +345,31 @@ TEST(FrmData, DisablesDoorsThatLeadNowhere) {
   EXPECT_FALSE(c.Find<QToolButton>("cmdTips")->isEnabled());
 }
 
+TEST(FrmData, IsPrintedWithoutColoursAndButtonsAndComesBackAsItWas) {
+  Calendar c;
+  c.Open();
+  c.Type("200");
+  const QImage before = c.form->grab().toImage();
+  c.form->PrepareForPrinting(true);
+  const QImage paper = c.form->grab().toImage();
+  EXPECT_FALSE(c.Find<QToolButton>("cmdToday")->isVisible());
+  EXPECT_FALSE(c.Find<QComboBox>("cboNutrientID")->isVisible());
+  EXPECT_EQ(paper.pixelColor(c.Find<QWidget>("lblMonth")->mapTo(c.form.get(), QPoint(1, 1))), QColor(Qt::white));
+  EXPECT_EQ(paper.pixelColor(c.Find<QWidget>("lblGrid(1)")->mapTo(c.form.get(), QPoint(1, 6))), QColor(Qt::white));
+  c.form->PrepareForPrinting(false);
+  EXPECT_TRUE(c.Find<QToolButton>("cmdToday")->isVisible());
+  EXPECT_EQ(c.Field(1)->text(), QStringLiteral("200"));
+  c.Type("5");
+  EXPECT_EQ(c.Field(1)->text(), QStringLiteral("2005"));
+
+  const QString question = QStringLiteral(
+      "This will print the current calendar month to your default printer.  Would you like to continue?");
+  c.session.boxes.Expect(QStringLiteral("Print Window?"), question, BoxButton::No);
+  c.form->PrintContents();
+  EXPECT_EQ(c.Weight(QDate(2026, 3, 1)), "2005");  // what is printed is saved
+  EXPECT_EQ(before.size(), c.form->grab().size());
+}
+
 TEST(FrmData, ShowsEverythingUncutAtItsSmallestSize) {
   Calendar c;
   WeightLog(*c.session).Insert({QDate(2026, 3, 1), 188.88, 0});

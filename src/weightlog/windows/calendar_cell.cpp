@@ -10,6 +10,7 @@ namespace trimlog {
 namespace {
 
 constexpr int pad = 5;
+constexpr int fieldPad = 2;
 constexpr double smallShare = 0.85;
 constexpr double weightShare = 1.1;
 constexpr double largestGrowth = 1.7;
@@ -142,7 +143,7 @@ void CalendarCellView::Arrange() {
   txtDateGrid->setGeometry(pad, gap, dayWidth, line);
   txtLoss->setGeometry(pad + dayWidth, gap, inner - dayWidth, line);
   txtCalories->setGeometry(pad, height() - line - gap - 1, inner, line);
-  txtData->setGeometry(pad, line + gap + std::max(0, (room - 2 * gap) / 2), inner, field);
+  txtData->setGeometry(fieldPad, line + gap + std::max(0, (room - 2 * gap) / 2), width() - 2 * fieldPad - 1, field);
 }
 
 void CalendarCellView::resizeEvent(QResizeEvent *) { Arrange(); }

@@ -9,10 +9,12 @@
 #include <QToolButton>
 #include <QVBoxLayout>
 
+#include "core/failure_guard.h"
 #include "core/session.h"
 #include "core/windows/art.h"
 #include "core/windows/theme.h"
 #include "platform/text_format.h"
+#include "platform/windows/window_printer.h"
 #include "weightlog/calendar_nutrients.h"
 #include "weightlog/windows/frmReward.h"
 #include "weightlog/windows/month_grid.h"
@@ -305,6 +307,17 @@ void frmData::keyPressEvent(QKeyEvent *event) {
 
 void frmData::PrintContents() {
   if (!entry_->TryLeave()) return;
+  if (!session_.boxes.Ask(tr("Print Window?"),
+                          tr("This will print the current calendar month to your default printer.  "
+                             "Would you like to continue?"))) {
+    return;
+  }
+  PrepareForPrinting(true);
+  Guarded(session_,
+          {QStringLiteral("basPrinting"), QStringLiteral("PrintWindow"), tr("Printer Error"),
+           tr("An error occurred while printing to your default printer.  Unable to print at this time.")},
+          [this] { PrintWindow(*this, session_.boxes); });
+  PrepareForPrinting(false);
 }
 
 void frmData::PrepareForPrinting(bool printing) {
@@ -312,6 +325,10 @@ void frmData::PrepareForPrinting(bool printing) {
   grid_->SetPaper(printing);
   setPalette(printing ? grid_->DesktopPalette() : QPalette());
   setAutoFillBackground(printing);
+  if (const int i = model_.Month().currentIndex) {
+    grid_->Field(i)->deselect();
+    grid_->Field(i)->setReadOnly(printing);  // shows no cursor then
+  }
   for (QWidget *control : std::initializer_list<QWidget *>{cmdPrevMonth, cmdNextMonth, cmdToday, cmdDiary, cmdTips,
                                                            chkShowLoss, chkShowCalories, cboNutrientID}) {
     control->setVisible(!printing);
