@@ -328,6 +328,10 @@ TEST_F(ToolsWindow, CaloricNeedsFromTheFieldsToTheAdvice) {
   Type("txtBMRAge", "36");
   Click("cmdBMRCalculate");
   EXPECT_EQ(TextOf("pnlBMRValue").toStdString(), "1448 calories.");
+  Click("txtBMRGoal");
+  EXPECT_EQ(TextOf("pnlBMRValue").toStdString(), "") << "a new weight is about to come";
+  Click("cmdBMRCalculate");
+  EXPECT_EQ(TextOf("pnlBMRValue").toStdString(), "1448 calories.");
   Type("txtBMRAge", "37");
   EXPECT_EQ(TextOf("pnlBMRValue").toStdString(), "");
 }

@@ -1,6 +1,6 @@
 #include "tools/windows/caloric_needs_page.h"
 
-#include <QEvent>
+#include <QFocusEvent>
 #include <QGridLayout>
 #include <QLabel>
 #include <QPushButton>
@@ -77,6 +77,7 @@ void CaloricNeedsPage::AddInputs(QLayout *layout) {
   }
   connect(txtBMRAge, &QLineEdit::textChanged, this, &CaloricNeedsPage::ClearBMRResults);
   connect(txtBMRGoal, &QLineEdit::textChanged, this, &CaloricNeedsPage::ClearBMRResults);
+  txtBMRGoal->installEventFilter(this);
 }
 
 void CaloricNeedsPage::AddResults(QLayout *layout) {
@@ -152,6 +153,15 @@ void CaloricNeedsPage::Calculate() {
 void CaloricNeedsPage::UpdateBMRSummary() {
   const int chosen = chart_->Chosen();
   pnlBMRSummary->setText(chosen < 0 ? QString() : SummarizeCaloricNeeds(needs_, chosen, optBMRGoalWeight->isChecked()));
+}
+
+bool CaloricNeedsPage::eventFilter(QObject *watched, QEvent *event) {
+  if (watched == txtBMRGoal && event->type() == QEvent::FocusIn) {
+    const Qt::FocusReason reason = static_cast<QFocusEvent *>(event)->reason();
+    // Coming back from another program or a menu is no new question.
+    if (reason != Qt::ActiveWindowFocusReason && reason != Qt::PopupFocusReason) ClearBMRResults();
+  }
+  return QWidget::eventFilter(watched, event);
 }
 
 }  // namespace trimlog

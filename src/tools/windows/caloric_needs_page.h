@@ -34,6 +34,7 @@ class CaloricNeedsPage : public QWidget {
   void StartOver();
   void Calculate();
   void UpdateBMRSummary();
+  bool eventFilter(QObject *watched, QEvent *event) override;
 
   Session &session_;
   const ToolsProfile &profile_;
