@@ -7,6 +7,7 @@
 
 #include "core/windows/print_window.h"
 #include "frame_fixture.h"
+#include "platform/windows/bound_grid.h"
 
 namespace trimlog {
 namespace {
@@ -130,6 +131,33 @@ TEST_F(FrameCommandsTest, EditActsOnTheFieldThatLastHadTheFocus) {
   Choose("mnuEditPaste");
   EXPECT_EQ(second->text(), QStringLiteral("180"));
   EXPECT_EQ(first->text(), QStringLiteral("182"));
+}
+
+TEST_F(FrameCommandsTest, RowCommandsActOnTheGridInUse) {
+  Load();
+  session.AddProfile(2, QStringLiteral("Bob"));
+  auto *grid =
+      new BoundGrid(QStringLiteral("grdPeople"), QStringLiteral("Profiles"), session->locale, frame->CurrentForm());
+  grid->recordSource = QStringLiteral("datPeople");
+  grid->SetColumns({{.name = QStringLiteral("PersonName"), .field = QStringLiteral("PersonName"), .editable = true}});
+  ASSERT_TRUE(grid->Open(session.Data(), {.table = QStringLiteral("people"),
+                                          .key = QStringLiteral("PersonID"),
+                                          .where = QStringLiteral("(people.PersonID > 0)")}));
+  grid->show();
+  QMetaObject::invokeMethod(Action("mnuEdit")->menu(), "aboutToShow");
+  EXPECT_FALSE(Action("mnuEditCopyRowNormal")->isEnabled());
+
+  grid->setFocus();
+  grid->GoToKey(2);
+  QMetaObject::invokeMethod(Action("mnuEdit")->menu(), "aboutToShow");
+  Choose("mnuEditCopyRowNormal");
+  EXPECT_EQ(session->rowClipboard.kind, QStringLiteral("datPeople"));
+  ASSERT_EQ(session->rowClipboard.rows.size(), 1);
+  Choose("mnuEditCopyRowExternal");
+  EXPECT_EQ(QApplication::clipboard()->text(), QStringLiteral("Bob"));
+  Choose("mnuEditDeleteRow");
+  EXPECT_EQ(session.ValueOf(QStringLiteral("PersonName"), QStringLiteral("people"), QStringLiteral("PersonID=2")),
+            QString());
 }
 
 /// A print system of the test's own.

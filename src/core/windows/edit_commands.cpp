@@ -67,4 +67,11 @@ bool CanRunEditCommand(EditCommand command, QWidget *control) {
   return field && (!Writes(command) || !IsReadOnly(field));
 }
 
+BoundGrid *GridOf(QWidget *control) {
+  for (; control && !control->isWindow(); control = control->parentWidget()) {
+    if (BoundGrid *grid = Grid(control)) return grid;
+  }
+  return nullptr;
+}
+
 }  // namespace trimlog

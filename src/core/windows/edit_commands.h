@@ -4,6 +4,8 @@ class QWidget;
 
 namespace trimlog {
 
+class BoundGrid;
+
 enum class EditCommand { Undo, Cut, Copy, Paste };
 
 /// Runs an Edit command on a control: on the selected text of a text field, or on the active cell of a grid (a view
@@ -13,5 +15,8 @@ void RunEditCommand(EditCommand command, QWidget *control);
 
 /// True when the command could do something on this control now.
 bool CanRunEditCommand(EditCommand command, QWidget *control);
+
+/// The grid that a control is, or is a cell's editor of; nullptr for none.
+BoundGrid *GridOf(QWidget *control);
 
 }  // namespace trimlog

@@ -8,7 +8,9 @@
 #include "core/windows/edit_commands.h"
 #include "core/windows/frmMDI.h"
 #include "core/windows/frmSplash.h"
+#include "core/windows/grid_menu.h"
 #include "core/windows/print_window.h"
+#include "platform/windows/bound_grid.h"
 
 namespace trimlog {
 
@@ -43,6 +45,12 @@ std::vector<FrameCommand> FrameCommands(frmMDI &frame, Session &session, const N
                           if (frame.CurrentForm()) (frame.CurrentForm()->*command)();
                         }};
   };
+  const auto rows = [&frame](const char *menu, const std::function<void(BoundGrid &)> &command) {
+    return FrameCommand{menu, "", [&frame] { return GridOf(frame.ActiveControl()) != nullptr; },
+                        [&frame, command] {
+                          if (BoundGrid *grid = GridOf(frame.ActiveControl())) command(*grid);
+                        }};
+  };
   // Before another window reads the data, what is being typed must be in it.
   const auto saved = [&frame](const std::function<void()> &work) {
     return [&frame, work] {
@@ -75,6 +83,11 @@ std::vector<FrameCommand> FrameCommands(frmMDI &frame, Session &session, const N
       edit("mnuEditCut", EditCommand::Cut),
       edit("mnuEditCopy", EditCommand::Copy),
       edit("mnuEditPaste", EditCommand::Paste),
+      rows("mnuEditUndoRow", [](BoundGrid &grid) { grid.UndoRow(); }),
+      rows("mnuEditCopyRowNormal", [&session](BoundGrid &grid) { grid.CopyRows(session.rowClipboard); }),
+      rows("mnuEditCopyRowExternal", [](BoundGrid &grid) { grid.CopyRowsExternal(); }),
+      rows("mnuEditPasteRow", [&session](BoundGrid &grid) { PasteGridRow(session, grid); }),
+      rows("mnuEditDeleteRow", [](BoundGrid &grid) { grid.DeleteSelected(); }),
       content("mnuEditDeleteWeight", &ContentWindow::DeleteWeight),
       content("mnuEditGotoPrevious", &ContentWindow::GotoPreviousMonth),
       content("mnuEditGotoNext", &ContentWindow::GotoNextMonth),
