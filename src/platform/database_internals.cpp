@@ -144,7 +144,7 @@ QString Database::Impl::OpenSideFile(const QString &side, bool forWriting) {
   const auto known = sideFiles.constFind(key);
   if (known != sideFiles.constEnd()) return *known;
   CheckDataFile(absolute);
-  const QString schema = QStringLiteral("side%1").arg(++sideFileNumber);
+  QString schema = QStringLiteral("side%1").arg(++sideFileNumber);
   QUrl uri = QUrl::fromLocalFile(absolute);
   uri.setQuery(forWriting ? QStringLiteral("mode=rw") : QStringLiteral("mode=ro"));
   PreparedStatement attach(handle, QStringLiteral("ATTACH ?1 AS %1").arg(schema));

@@ -102,7 +102,7 @@ class Tokenizer {
     return !result_.tokens.empty() && result_.tokens.back().Is(QLatin1StringView(word));
   }
 
-  void AddLiteral(TokenKind kind, qsizetype start, QVariant value, QChar mark, bool bound) {
+  void AddLiteral(TokenKind kind, qsizetype start, const QVariant &value, QChar mark, bool bound) {
     const QStringView text = QStringView(sql_).mid(start, at_ - start);
     AddToken(kind, text);
     SqlToken &token = result_.tokens.back();
@@ -115,7 +115,7 @@ class Tokenizer {
     } else {
       Note(text);
     }
-    result_.literals.push_back(std::move(value));
+    result_.literals.push_back(value);
   }
 
   void Number() {
@@ -147,8 +147,7 @@ class Tokenizer {
       value = text.toDouble(&ok);
     }
     if (!ok) Refuse(QStringLiteral("'%1' is not a number.").arg(text));
-    AddLiteral(TokenKind::Number, start, std::move(value), whole ? wholeMark : realMark,
-               !positions_ && !PreviousIs("TOP"));
+    AddLiteral(TokenKind::Number, start, value, whole ? wholeMark : realMark, !positions_ && !PreviousIs("TOP"));
   }
 
   void Text(QChar quote) {
@@ -165,7 +164,7 @@ class Tokenizer {
     }
     // The name of a format and the path of a side file steer the translation, so they belong to the shape.
     const bool steers = value.compare(QLatin1StringView("Standard"), Qt::CaseInsensitive) == 0 || PreviousIs("IN");
-    AddLiteral(TokenKind::Text, start, std::move(value), textMark, !steers && !positions_);
+    AddLiteral(TokenKind::Text, start, value, textMark, !steers && !positions_);
   }
 
   void Date() {
