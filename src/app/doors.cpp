@@ -4,7 +4,9 @@
 
 #include "catalogs/windows/frmSelectedNutrients.h"
 #include "catalogs/windows/frmSetupFoods.h"
+#include "companions/windows/frmWizard.h"
 #include "core/help.h"
+#include "core/windows/add_profile_page.h"
 #include "core/windows/frmSetup.h"
 #include "program.h"
 #include "tools/windows/frmTools.h"
@@ -41,6 +43,11 @@ void Program::FillNavigator() {
   };
   navigator_.OpenNutrientSelection = [this](QWidget *owner) {
     frmSelectedNutrients(session_, navigator_, owner ? owner : frame_.get()).exec();
+  };
+  navigator_.StartWiz = [this](bool force) { return StartWiz(session_, navigator_, force, frame_.get()); };
+  navigator_.AddProfile = [this](QWidget *owner) {
+    return AddRec(owner ? owner : frame_.get(),
+                  [this](QWidget *parent) { return new AddProfilePage(session_, parent); });
   };
   navigator_.OpenSetup = [this](SetupTab tab) {
     frmSetup setup(session_, navigator_, {RewardsTab()}, frame_.get());

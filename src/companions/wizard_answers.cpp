@@ -1,9 +1,19 @@
 #include "companions/wizard_answers.h"
 
+#include "core/profile_list.h"
 #include "health/body_formulas.h"
 #include "platform/text_format.h"
+#include "weightlog/weight_log.h"
 
 namespace trimlog {
+
+namespace {
+
+constexpr double tallest = 3;  // metres
+
+TypedWeight::Check CheckWeight(double weight) { return ReadTypedWeight(PlainText(weight), QLocale::c()).check; }
+
+}  // namespace
 
 QString RepairedNumber(const QString &text, const QLocale &locale) {
   const std::optional<double> number = ParseNumber(text, locale);
@@ -28,7 +38,48 @@ QString RepairedPersonName(const QString &text) {
   return text.trimmed().isEmpty() ? QStringLiteral("New Profile") : text;
 }
 
+std::optional<WizardComplaint> CheckProfileAnswers(const WizardAnswers &answers, const QDate &today) {
+  const WizardComplaint possible[] = {
+      {WizardField::Height1, QStringLiteral("Invalid Height"), RefusedHeight(answers.height1)},
+      {WizardField::Height2, QStringLiteral("Invalid Height"), RefusedHeight(answers.height2)},
+      {WizardField::BirthDate, QStringLiteral("Invalid Birth Date"), RefusedBirthDate(answers.birthDate, today)},
+  };
+  for (const WizardComplaint &complaint : possible) {
+    if (!complaint.text.isEmpty()) return complaint;
+  }
+  return std::nullopt;
+}
+
+std::optional<WizardComplaint> CheckWeightAnswers(const WizardAnswers &answers) {
+  const TypedWeight::Check weight = CheckWeight(answers.startingWeight);
+  if (weight != TypedWeight::Check::Fine) {
+    return WizardComplaint{
+        WizardField::StartingWeight, QStringLiteral("Invalid Weight"),
+        QStringLiteral("The weight that you entered is invalid.  Please enter a %1 value for your weight.")
+            .arg(weight == TypedWeight::Check::NotPositive ? QStringLiteral("positive") : QStringLiteral("numeric"))};
+  }
+  if (CheckWeight(answers.goal) == TypedWeight::Check::NotNumeric) {
+    return WizardComplaint{
+        WizardField::Goal, QStringLiteral("Invalid Goal"),
+        QStringLiteral("The goal that you entered is invalid.  Please enter a numeric value for your goal.")};
+  }
+  return std::nullopt;
+}
+
+const QList<WizardColor> &WizardColors() {
+  static const QList<WizardColor> colors = {{3, QStringLiteral("Breathtaking Blue (default)"), 16769216},
+                                            {1, QStringLiteral("Youthful Yellow"), 14745599},
+                                            {2, QStringLiteral("Gorgeous Green"), 14745568},
+                                            {4, QStringLiteral("Incredible Indigo"), 16769248},
+                                            {5, QStringLiteral("Confident Crimson"), 13680895}};
+  return colors;
+}
+
 QString HealthyWeightText(const WizardAnswers &answers, const QString &uomDisplay) {
+  const double metres = HeightInMetres(answers.height1, answers.height2, answers.UomID);
+  if (metres <= 0 || metres > tallest) {
+    return QStringLiteral("Please go back and enter your height first.  Your healthy weight range depends on it.");
+  }
   const int low = WeightForBMI(21, answers.height1, answers.height2, answers.UomID);
   const int high = WeightForBMI(23, answers.height1, answers.height2, answers.UomID);
   return QStringLiteral(

@@ -1,8 +1,10 @@
 #pragma once
 
 #include <QDate>
+#include <QList>
 #include <QLocale>
 #include <QString>
+#include <optional>
 
 namespace trimlog {
 
@@ -34,7 +36,29 @@ QString RepairedBirthDate(const QString &text, const QDate &today, const QLocale
 QString RepairedStartingDate(const QString &text, const QDate &today, const QLocale &locale);
 QString RepairedPersonName(const QString &text);
 
-/// The advice of "Tell Me...": the weights of an index of 21 to 23 at the entered height.
+/// Why a step's answers cannot be kept, and which field to go back to.
+enum class WizardField { Height1, Height2, BirthDate, StartingWeight, Goal };
+struct WizardComplaint {
+  WizardField field;
+  QString title;
+  QString text;
+};
+/// Heights beyond any person's and birth dates in the future or the distant past. A height of 0 means "not told".
+std::optional<WizardComplaint> CheckProfileAnswers(const WizardAnswers &answers, const QDate &today);
+/// The weight has to be one that the calendar takes, and the goal no larger than that. A goal of 0 is no complaint.
+std::optional<WizardComplaint> CheckWeightAnswers(const WizardAnswers &answers);
+
+/// A colour scheme that the wizard offers; `option` numbers its option button.
+struct WizardColor {
+  int option = 0;
+  QString caption;
+  quint32 colour = 0;  ///< blue-green-red byte order
+};
+/// In the order offered, the default first.
+const QList<WizardColor> &WizardColors();
+
+/// The advice of "Tell Me...": the weights of an index of 21 to 23 at the entered height; where that is no person's
+/// height, a request to enter it.
 QString HealthyWeightText(const WizardAnswers &answers, const QString &uomDisplay);
 
 }  // namespace trimlog

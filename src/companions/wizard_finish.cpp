@@ -107,6 +107,7 @@ QString FinishWizard(Session &session, const WizardAnswers &answers, bool adding
     SaveNutrientSelection(session, SelectionOf(ticked));
   }
   transaction.Commit();
+  session.changes.AnnounceProfiles();
   if (!addingProfile && answers.diet == DietPlans().last().key) {
     session.settings.NutrientID = answers.nutrientID;
     SaveSetting(session.settings, session.store, QStringLiteral("NutrientID"));
@@ -117,7 +118,10 @@ QString FinishWizard(Session &session, const WizardAnswers &answers, bool adding
 bool NeedsWizard(Session &session) {
   const QString goal = GetDataValue(session.Data(), QStringLiteral("Goal"), QStringLiteral("people"),
                                     QStringLiteral("PersonID=?"), {}, {session.CurrentPersonID.toInt()});
-  return goal.isEmpty() || !session.FirstWeightDate.isValid();
+  const QString firstWeight =
+      GetDataValue(session.Data(), QStringLiteral("Min(ThisDate) AS FirstDate"), QStringLiteral("weight_loss"),
+                   QStringLiteral("PersonID=?"), QStringLiteral("FirstDate"), {session.CurrentPersonID.toInt()});
+  return goal.isEmpty() || firstWeight.isEmpty();
 }
 
 QString ProposedPersonName(const Session &session) { return session.machine.AccountName(); }

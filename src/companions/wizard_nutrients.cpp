@@ -2,6 +2,7 @@
 
 #include <map>
 
+#include "catalogs/nutrient_selection.h"
 #include "core/data_access.h"
 #include "health/body_formulas.h"
 #include "platform/recordset.h"
@@ -12,12 +13,18 @@ namespace trimlog {
 
 namespace {
 
+constexpr int firstCustom = 28;
+constexpr int lastCustom = 32;
 const QString atkins = QStringLiteral("101");
 const QString zone = QStringLiteral("102");
 const QString lowCarb = QStringLiteral("103");
 const QString vitamins = QStringLiteral("106");
 const QString customized = QStringLiteral("108");
-const QString noTarget = QStringLiteral("None");
+
+bool IsTold(const QString &target) {
+  const QString text = target.trimmed();
+  return !text.isEmpty() && text != targetPrompt && text.compare(noTarget, Qt::CaseInsensitive) != 0;
+}
 
 /// Diets with figures of their own, by NutrientID; every other nutrient of theirs has none.
 const std::map<QString, std::map<int, QString>> &OwnTargets() {
@@ -123,6 +130,36 @@ void FillWizardNutrients(Session &session, const WizardAnswers &answers) {
   TickPreset(session, answers);
   if (answers.diet == customized) TickChosenNutrient(session, answers);
   transaction.Commit();
+}
+
+QList<OptionChoice> WizardNutrientChoices(Session &session) {
+  QList<OptionChoice> choices;
+  for (const NutrientChoice &nutrient : SelectableNutrients(session)) {
+    const bool custom = nutrient.NutrientID >= firstCustom && nutrient.NutrientID <= lastCustom;
+    if (nutrient.NutrientID != 0 && !custom) choices.append({nutrient.NutrientID, nutrient.descriptionPlusUnit});
+  }
+  return choices;
+}
+
+QString RefusedTarget(const QString &typed, const QLocale &locale) {
+  if (!IsTold(typed)) return {};
+  const std::optional<double> number = ParseNumber(typed, locale);
+  return number && *number >= 0 ? QString() : QStringLiteral("Please type a number, or leave the field blank.");
+}
+
+void MatchTickAndTarget(GridRowEdit &row) {
+  const QString tick = QStringLiteral("IsModified");
+  const QString amount = QStringLiteral("Amount");
+  const QString target = row.Get(amount).toString().trimmed();
+  if (IsTold(target)) {
+    if (row.IsChanged(amount) && !row.IsChanged(tick)) row.Set(tick, true);
+    return;
+  }
+  if (!row.Get(tick).toBool()) {
+    row.Set(amount, noTarget);
+  } else if (row.IsChanged(tick) || target.isEmpty()) {
+    row.Set(amount, targetPrompt);
+  }
 }
 
 QString WizardTargetsNote(const QString &diet) {

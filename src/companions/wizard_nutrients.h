@@ -4,7 +4,9 @@
 #include <QString>
 
 #include "companions/wizard_answers.h"
+#include "core/options.h"
 #include "core/session.h"
+#include "platform/grid_row_edit.h"
 
 namespace trimlog {
 
@@ -23,6 +25,18 @@ QString GetRDATargetID(const QDate &birthDate, bool genderMale, const QDate &tod
 /// IsModified the tick, MealGroupID the order, Amount the target. The diet's preset is ticked and stands on top. One
 /// transaction.
 void FillWizardNutrients(Session &session, const WizardAnswers &answers);
+
+/// The nutrients of which one can be the most important to a diet: all but the custom ones.
+QList<OptionChoice> WizardNutrientChoices(Session &session);
+
+/// The texts of a target: none told, and what a ticked row shows until one is typed.
+inline const QString noTarget = QStringLiteral("None");
+inline const QString targetPrompt = QStringLiteral("(type a value)");
+/// Why a typed target is refused, or "". A number that is not negative, or none, is fine.
+QString RefusedTarget(const QString &typed, const QLocale &locale);
+/// Before a changed row of the list is stored: a nutrient that is ticked without a target asks for one, and one that is
+/// given a target is ticked.
+void MatchTickAndTarget(GridRowEdit &row);
 
 /// The note above the list: where its first targets come from.
 QString WizardTargetsNote(const QString &diet);

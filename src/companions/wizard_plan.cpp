@@ -43,6 +43,22 @@ QString WizardPlan::TitleOf(int number) const {
   return title + QStringLiteral(" (Step %1 of %2)").arg(number).arg(WizardSteps());
 }
 
+QString WizardPlan::NameOf(int number) const {
+  switch (StepAt(number)) {
+    case WizardStep::Introduction:
+      return QStringLiteral("Introduction");
+    case WizardStep::Profile:
+      return QStringLiteral("Profile");
+    case WizardStep::WeightAndDiet:
+      return addingProfile_ ? QStringLiteral("Weight") : QStringLiteral("Weight and diet");
+    case WizardStep::Nutrients:
+      return QStringLiteral("Nutrients");
+    case WizardStep::Colors:
+      return QStringLiteral("Color scheme");
+  }
+  return {};
+}
+
 QString WizardPlan::NextCaption(int number) const {
   return number == WizardSteps() ? QStringLiteral("&Finish") : QStringLiteral("&Next");
 }

@@ -19,6 +19,8 @@ class WizardPlan {
   /// `number` runs from 1 to WizardSteps(); throws outOfBounds beyond ("Internal Wizard Error").
   WizardStep StepAt(int number) const;
   QString TitleOf(int number) const;
+  /// The step's name in the overview beside the pages.
+  QString NameOf(int number) const;
   /// "&Finish" at the last step, "&Next" elsewhere.
   QString NextCaption(int number) const;
 

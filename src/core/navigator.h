@@ -28,6 +28,7 @@ struct Navigator {
   std::function<void(QWidget *owner)> OpenQuickJournal;
   /// Adds a further profile through the generic add dialog; true when one was added.
   std::function<bool(QWidget *owner)> AddProfile;
+  std::function<void(QWidget *owner)> ImportData;         ///< takes over the data of an earlier release
   std::function<void(const QString &topic)> ShowHelp;
   std::function<void()> ExitProgram;                      ///< closes the frame
   std::function<void()> ResetMainWindow;                  ///< the frame back to its first size, centred

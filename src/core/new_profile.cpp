@@ -2,6 +2,7 @@
 
 #include "core/colour_scheme.h"
 #include "core/data_access.h"
+#include "core/profile_list.h"
 #include "platform/text_format.h"
 
 namespace trimlog {
@@ -36,6 +37,20 @@ std::optional<NewProfileComplaint> CheckSignIn(Session &session, const NewProfil
   return std::nullopt;
 }
 
+std::optional<NewProfileComplaint> CheckBody(Session &session, const NewProfile &profile) {
+  const auto height = [](NewProfileField field, double value) {
+    return NewProfileComplaint{field, QStringLiteral("Invalid Height"), RefusedHeight(value)};
+  };
+  for (const NewProfileComplaint &complaint :
+       {height(NewProfileField::HeightFeet, profile.HeightFeet),
+        height(NewProfileField::HeightInches, profile.HeightInches),
+        NewProfileComplaint{NewProfileField::BirthDate, QStringLiteral("Invalid Birth Date"),
+                            RefusedBirthDate(profile.BirthDate, session.Today())}}) {
+    if (!complaint.text.isEmpty()) return complaint;
+  }
+  return std::nullopt;
+}
+
 }  // namespace
 
 std::optional<NewProfileComplaint> CheckNewProfile(Session &session, const NewProfile &profile) {
@@ -43,6 +58,7 @@ std::optional<NewProfileComplaint> CheckNewProfile(Session &session, const NewPr
     return NewProfileComplaint{NewProfileField::PersonName, QStringLiteral("Name Required"),
                                QStringLiteral("Please enter a name for this profile.")};
   }
+  if (const auto complaint = CheckBody(session, profile)) return complaint;
   return session.BizEd ? CheckSignIn(session, profile) : std::nullopt;
 }
 

@@ -21,7 +21,7 @@ struct NewProfile {
 };
 
 /// What keeps a new profile from being added, in the order of the fields.
-enum class NewProfileField { None, PersonName, Goal, UserID, Password };
+enum class NewProfileField { None, PersonName, HeightFeet, HeightInches, BirthDate, UserID, Password };
 struct NewProfileComplaint {
   NewProfileField field = NewProfileField::None;
   QString title;

@@ -31,18 +31,6 @@ QString RefusedName(const Value &name) {
   return name.toString().trimmed().isEmpty() ? QStringLiteral("Please enter a name for this profile.") : QString();
 }
 
-QString RefusedHeight(const Value &height) {
-  const double number = height.toDouble();
-  return number >= 0 && number <= tallest ? QString() : QStringLiteral("Please enter a valid height.");
-}
-
-QString RefusedBirthDate(const Value &value, const QDate &today) {
-  const QDate date = value.toDate();
-  if (!date.isValid()) return {};
-  if (date > today) return QStringLiteral("Please enter a birth date that is not in the future.");
-  return date < today.addYears(-oldest) ? QStringLiteral("Please enter a valid birth date.") : QString();
-}
-
 GridColumn HeightColumn(const QString &field, const QString &caption) {
   return {.name = field,
           .caption = caption,
@@ -50,10 +38,20 @@ GridColumn HeightColumn(const QString &field, const QString &caption) {
           .type = GridType::Number,
           .width = 8,
           .editable = true,
-          .validate = RefusedHeight};
+          .validate = [](const Value &height) { return RefusedHeight(height.toDouble()); }};
 }
 
 }  // namespace
+
+QString RefusedHeight(double height) {
+  return height >= 0 && height <= tallest ? QString() : QStringLiteral("Please enter a valid height.");
+}
+
+QString RefusedBirthDate(const QDate &date, const QDate &today) {
+  if (!date.isValid()) return {};
+  if (date > today) return QStringLiteral("Please enter a birth date that is not in the future.");
+  return date < today.addYears(-oldest) ? QStringLiteral("Please enter a valid birth date.") : QString();
+}
 
 GridSource ProfilesSource() {
   return {.table = QStringLiteral("people"),
@@ -96,7 +94,7 @@ GridColumns ProfileColumns(const Session &session) {
        .type = GridType::Date,
        .width = 12,
        .editable = true,
-       .validate = [&clock](const Value &value) { return RefusedBirthDate(value, clock.Today()); }},
+       .validate = [&clock](const Value &value) { return RefusedBirthDate(value.toDate(), clock.Today()); }},
   };
 }
 

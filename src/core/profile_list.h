@@ -1,5 +1,6 @@
 #pragma once
 
+#include <QDate>
 #include <QList>
 #include <QString>
 
@@ -27,6 +28,10 @@ bool AskDeleteProfiles(Session &session, int count);
 /// After a deletion: the profile that the session should stand on. The current one when it is still there, otherwise
 /// the first that is left, otherwise the first sample. Also forgets a deleted LastRealPersonID.
 QString ProfileToStandOn(Session &session);
+
+/// Why a height (one of its two numbers) or a birth date cannot be kept: a sentence, or "". An invalid date is "not told".
+QString RefusedHeight(double height);
+QString RefusedBirthDate(const QDate &date, const QDate &today);
 
 /// May the options window be left with this goal, as shown in the person's own form? True for a number above 0;
 /// otherwise the person decides.

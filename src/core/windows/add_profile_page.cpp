@@ -1,8 +1,8 @@
 #include "core/windows/add_profile_page.h"
 
+#include <QAbstractButton>
 #include <QButtonGroup>
 #include <QFormLayout>
-#include <QAbstractButton>
 #include <QHBoxLayout>
 #include <QRadioButton>
 
@@ -43,7 +43,7 @@ void AddProfilePage::AddFields(QFormLayout *form) {
   txtHeight1 = new NumberField(QStringLiteral("txtHeight1"), units.HeightFeet, locale, this);
   form->addRow(QStringLiteral("&") + units.HeightFeet + QLatin1Char(':'), txtHeight1);
   txtHeight2 = new NumberField(QStringLiteral("txtHeight2"), units.HeightInches, locale, this);
-  form->addRow(units.HeightInches + QLatin1Char(':'), txtHeight2);
+  form->addRow(QString(units.HeightInches).insert(1, QLatin1Char('&')) + QLatin1Char(':'), txtHeight2);
 
   txtBirthDate = new DateField(QStringLiteral("txtBirthDate"), QStringLiteral("Birth date"), locale, this);
   auto *birth = new QHBoxLayout;
@@ -92,16 +92,50 @@ bool AddProfilePage::GoalAccepted() {
   return false;
 }
 
+QLineEdit *AddProfilePage::FieldOf(NewProfileField field) const {
+  switch (field) {
+    case NewProfileField::HeightFeet:
+      return txtHeight1;
+    case NewProfileField::HeightInches:
+      return txtHeight2;
+    case NewProfileField::BirthDate:
+      return txtBirthDate;
+    case NewProfileField::UserID:
+      return txtUserID;
+    case NewProfileField::Password:
+      return txtPassword;
+    default:
+      return txtPersonName;
+  }
+}
+
+/// What cannot be read must not count as left empty.
+std::optional<NewProfileComplaint> AddProfilePage::UnreadableField() const {
+  for (const auto &[field, kind] :
+       {std::pair(txtHeight1, NewProfileField::HeightFeet), std::pair(txtHeight2, NewProfileField::HeightInches)}) {
+    if (!field->Complaint().isEmpty()) {
+      return NewProfileComplaint{kind, QStringLiteral("Invalid Height"), field->Complaint()};
+    }
+  }
+  if (!txtBirthDate->text().trimmed().isEmpty() && !txtBirthDate->Date().isValid()) {
+    return NewProfileComplaint{NewProfileField::BirthDate, QStringLiteral("Invalid Birth Date"),
+                               QStringLiteral("Please enter a valid birth date (or leave the field blank).")};
+  }
+  return std::nullopt;
+}
+
 void AddProfilePage::ShowComplaint(const NewProfileComplaint &complaint) {
   session_.boxes.Critical(complaint.title, complaint.text);
-  QLineEdit *field = txtPersonName;
-  if (complaint.field == NewProfileField::UserID) field = txtUserID;
-  if (complaint.field == NewProfileField::Password) field = txtPassword;
+  QLineEdit *field = FieldOf(complaint.field);
   field->setFocus();
   field->selectAll();
 }
 
 bool AddProfilePage::Store() {
+  if (const auto complaint = UnreadableField()) {
+    ShowComplaint(*complaint);
+    return false;
+  }
   const NewProfile profile = Typed();
   if (const auto complaint = CheckNewProfile(session_, profile)) {
     ShowComplaint(*complaint);

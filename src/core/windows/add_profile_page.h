@@ -4,6 +4,7 @@
 #include "core/windows/add_rec_page.h"
 
 class QFormLayout;
+class QLineEdit;
 class QRadioButton;
 
 namespace trimlog {
@@ -28,6 +29,8 @@ class AddProfilePage : public AddRecPage {
   void AddSignInFields(QFormLayout *form);
   NewProfile Typed() const;
   bool GoalAccepted();
+  QLineEdit *FieldOf(NewProfileField field) const;
+  std::optional<NewProfileComplaint> UnreadableField() const;
   void ShowComplaint(const NewProfileComplaint &complaint);
 
   Session &session_;

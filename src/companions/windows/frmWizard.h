@@ -1,0 +1,70 @@
+#pragma once
+
+#include <QDialog>
+#include <QList>
+
+#include "companions/windows/wizard_page.h"
+#include "companions/wizard_plan.h"
+#include "core/navigator.h"
+#include "core/session.h"
+
+class QLabel;
+class QPushButton;
+class QStackedWidget;
+class QVBoxLayout;
+
+namespace trimlog {
+
+class WizardBanner;
+
+/// The configuration wizard: takes a newcomer to a working profile, or adds one more profile. Nothing is kept before
+/// Finish but the unit system.
+class frmWizard : public QDialog {
+  Q_OBJECT
+ public:
+  enum class Outcome { Left, Skipped, Importing, Finished };
+  frmWizard(Session &session, const Navigator &navigator, bool addingProfile, QWidget *owner);
+
+  /// Makes the pages and shows the first. False when that failed: the box was shown.
+  bool Form_Load();
+  Outcome HowLeft() const { return outcome_; }
+
+ private:
+  QWidget *MakeBanner();
+  void AddButtons(QVBoxLayout *layout);
+  QPushButton *AddButton(QLayout *row, const char *name, const QString &caption, void (frmWizard::*pressed)());
+  void AddPages();
+  WizardPage *MakePage(WizardStep step);
+  WizardPage *CurrentPage() const;
+
+  void WizardNext();
+  void WizardBack();
+  void Skip();
+  void Import();
+  void Finish();
+  void ShowStep(int number);
+  void FocusFirstField();
+  void LeaveAs(Outcome outcome);
+
+  Session &session_;
+  const Navigator &navigator_;
+  const WizardPlan plan_;
+  WizardAnswers answers_;
+  int WizardStep_ = 1;
+  Outcome outcome_ = Outcome::Left;
+
+  WizardBanner *banner_ = nullptr;
+  QLabel *lblTitle = nullptr;
+  QStackedWidget *pages_ = nullptr;
+  QPushButton *cmdSkip = nullptr;  ///< on the first run only, like the next
+  QPushButton *cmdImport = nullptr;
+  QPushButton *cmdBack = nullptr;
+  QPushButton *cmdNext = nullptr;
+};
+
+/// Opens the wizard: for the first profile of the file or, when profiles are there, for one more. Without `force` only
+/// where the current profile lacks a goal or weights. True when it wrote a profile, which is then the session's current
+/// one and still to be loaded.
+bool StartWiz(Session &session, const Navigator &navigator, bool force, QWidget *owner);
+
+}  // namespace trimlog
