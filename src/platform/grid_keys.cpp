@@ -17,6 +17,12 @@ void GridKeys::Load(ReadTop read, const std::function<int()> &count) {
   keys_ = std::move(page);
 }
 
+void GridKeys::LoadWhole(ReadTop read) {
+  keys_ = read(0);
+  count_ = static_cast<int>(keys_.size());
+  read_ = std::move(read);
+}
+
 void GridKeys::ReadAll() {
   if (Complete()) return;
   keys_ = read_(0);

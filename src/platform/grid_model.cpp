@@ -5,17 +5,15 @@
 
 #include "platform/grid_blocks.h"
 #include "platform/grid_cells.h"
+#include "platform/key_reader.h"
 #include "platform/recordset.h"
 
 namespace trimlog {
 
 namespace {
 
-std::vector<qint64> ReadKeys(Database &database, const GridStatement &statement) {
-  std::vector<qint64> keys;
-  Recordset rows = database.OpenRecordset(statement.sql, statement.params, RecordsetKind::Forward);
-  for (; !rows.Eof(); rows.MoveNext()) keys.push_back(rows.Field(0).toLongLong());
-  return keys;
+std::vector<qint64> KeysOf(Database &database, const GridStatement &statement) {
+  return ReadKeys(database, statement.sql, statement.params);
 }
 
 }  // namespace
@@ -100,10 +98,10 @@ void GridModel::Open(Database &database, const GridSource &source) {
   }
 }
 
-void GridModel::SetSource(const GridSource &source) {
+void GridModel::SetSource(const GridSource &source, bool whole) {
   const GridSource old = std::exchange(source_, source);
   try {
-    Reread();
+    Reread(whole);
   } catch (const Error &) {
     source_ = old;
     throw;
@@ -112,15 +110,20 @@ void GridModel::SetSource(const GridSource &source) {
 
 void GridModel::Refresh() { Reread(); }
 
-void GridModel::Reread() {
+void GridModel::Reread(bool whole) {
   if (!database_) return;
   GridKeys fresh;
-  fresh.Load(
-      [database = database_, source = source_](int top) { return ReadKeys(*database, KeysStatement(source, top)); },
-      [this] {
-        const GridStatement count = CountStatement(source_);
-        return database_->OpenRecordset(count.sql, count.params, RecordsetKind::Forward).Field(0).toInt();
-      });
+  const auto read = [database = database_, source = source_](int top) {
+    return KeysOf(*database, KeysStatement(source, top));
+  };
+  if (whole) {
+    fresh.LoadWhole(read);
+  } else {
+    fresh.Load(read, [this] {
+      const GridStatement count = CountStatement(source_);
+      return database_->OpenRecordset(count.sql, count.params, RecordsetKind::Forward).Field(0).toInt();
+    });
+  }
   beginResetModel();
   keys_ = std::move(fresh);
   cache_.Clear();
@@ -206,7 +209,7 @@ Value GridModel::FieldOf(int row, const QString &field) const {
 }
 
 int GridModel::FindFirst(const QString &criterion, const Params &params) const {
-  const std::vector<qint64> found = ReadKeys(*database_, FindStatement(source_, criterion, params));
+  const std::vector<qint64> found = KeysOf(*database_, FindStatement(source_, criterion, params));
   return found.empty() ? -1 : keys_.RowOf(found.front());
 }
 

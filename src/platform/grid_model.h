@@ -47,7 +47,8 @@ class GridModel : public QAbstractTableModel {
   /// Shows the rows of a source: counts them, reads the keys of the first page, and the others when they are first
   /// needed or LoadAllKeys is called.
   void Open(Database &database, const GridSource &source);
-  void SetSource(const GridSource &source);  ///< another source in the same file
+  /// Another source in the same file; `whole` reads all keys at once, for who needs the place of one of them anyway.
+  void SetSource(const GridSource &source, bool whole = false);
   const GridSource &Source() const { return source_; }
   bool IsOpen() const { return database_ != nullptr; }
   void Refresh();               ///< reads everything afresh; the row being changed stays as typed
@@ -102,7 +103,7 @@ class GridModel : public QAbstractTableModel {
   const GridRow *FetchedRow(int row) const;  ///< good until the next row is fetched
   std::vector<GridRow> FetchRows(const std::vector<qint64> &keys) const;
   void CollectFields();
-  void Reread();
+  void Reread(bool whole = false);
   GridRowEdit &BeginChange(int row);
   void DropEditWhenEmpty();
   qint64 WriteRow();

@@ -188,7 +188,7 @@ bool BoundGrid::SortBy(const QString &columnName, bool descending) {
   if (column < 0 || model_->Columns()[column].field.isEmpty() || !model_->IsOpen() || !CommitRow()) return false;
   GridSource source = model_->Source();
   source.order = {{model_->Columns()[column].field, descending}};
-  const bool sorted = RunGuarded(GridAction::Load, [&] { KeepingPlace([&] { model_->SetSource(source); }); });
+  const bool sorted = RunGuarded(GridAction::Load, [&] { KeepingPlace([&] { model_->SetSource(source, true); }); });
   ShowSortIndicator();
   if (currentIndex().isValid()) scrollTo(currentIndex());
   return sorted;

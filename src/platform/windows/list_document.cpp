@@ -13,7 +13,7 @@ namespace {
 constexpr double headingSize = 240;  // 12 points
 constexpr double ordinarySize = 180;
 constexpr double smallestSize = 120;
-constexpr double gap = 80;  // between columns, and between caption line and rows
+constexpr double gap = 140;  // between columns, and between caption line and rows
 
 QFont PrintFont(double size, bool bold) {
   QFont font(QStringLiteral("Sans Serif"));
