@@ -59,6 +59,36 @@ TEST_F(GridTest, LeavingARowSavesItInOneCommit) {
   EXPECT_EQ(file->Counts().commits, before + 1) << "an unchanged row is not written";
 }
 
+TEST_F(GridTest, TicksAndListsAreChangedByKeys) {
+  GoTo(3, "IsModified");
+  Press(Qt::Key_Space);
+  EXPECT_EQ(Cell(3, "IsModified").data(Qt::CheckStateRole).toInt(), Qt::Checked);
+  GoTo(3, "GroupID");
+  Press(Qt::Key_F2);
+  Press(Qt::Key_Up);
+  Press(Qt::Key_Tab);
+  EXPECT_EQ(Text(3, "GroupID").toStdString(), "Fruits");
+  Press(Qt::Key_Down);
+  EXPECT_EQ(Stored(QStringLiteral("IsModified"), 3).toStdString(), "-1");
+  EXPECT_EQ(Stored(QStringLiteral("GroupID"), 3).toStdString(), "1");
+}
+
+TEST_F(GridTest, LeavingTheGridSavesTheRow) {
+  QWidget window;
+  auto *other = new QLineEdit(&window);
+  grid.setParent(&window);
+  window.show();
+  grid.show();
+  QApplication::setActiveWindow(&window);
+  grid.setFocus();
+  GoTo(3, "Nut1");
+  Type(QStringLiteral("12"));
+  other->setFocus();
+  QApplication::processEvents();
+  EXPECT_EQ(Stored(QStringLiteral("Calories"), 3).toStdString(), "12");
+  grid.setParent(nullptr);
+}
+
 TEST_F(GridTest, AnEditSavesUnderItsKeyAfterResorting) {
   GoTo(7, "FoodDesc");
   grid.Model().setData(Cell(7, "Nut2"), QStringLiteral("500"));
