@@ -64,6 +64,7 @@ QList<FoodSortChoice> FoodSortChoices(const Nutrients &nutrients) {
 GridSource FoodListSource(const FoodSelection &selection) {
   GridSource source{.table = QStringLiteral("meals_list"), .key = QStringLiteral("MealID")};
   source.order = OrderOf(selection.sort);
+  source.orderAs = {{QStringLiteral("MealDesc"), QStringLiteral("SortKey(meals_list.MealDesc)")}};
   if (selection.list == food_list::recent) {
     source.from =
         QStringLiteral("meals_list INNER JOIN temp_recent_meals ON meals_list.MealID = temp_recent_meals.MealID");

@@ -137,7 +137,8 @@ QList<SchemaTable> Catalogs() {
            LastNutrients(),
        Key("MealID"),
        {},
-       {{QStringLiteral("RecordType"), QStringLiteral("RecordTypeID, MealGroupID")},
+       {{QStringLiteral("Name"), QStringLiteral("lower(MealDesc)")},
+        {QStringLiteral("RecordType"), QStringLiteral("RecordTypeID, MealGroupID")},
         {QStringLiteral("MealGroup"), QStringLiteral("MealGroupID, RecordTypeID")}}},
       {QStringLiteral("activities_list"),
        Longs("ActivityID") + Text(nameLength, "ActivityDesc Duration Amount Pace") + Integers("Sets Reps") +

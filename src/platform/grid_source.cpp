@@ -54,7 +54,8 @@ Condition WithKeys(const GridSource &source, const std::vector<qint64> &keys) {
 QString OrderClause(const GridSource &source) {
   QStringList terms;
   for (const GridOrder &order : source.order) {
-    terms.append(QualifiedField(source, order.field) + (order.descending ? QStringLiteral(" DESC") : QString()));
+    const QString term = source.orderAs.value(order.field, QualifiedField(source, order.field));
+    terms.append(term + (order.descending ? QStringLiteral(" DESC") : QString()));
   }
   terms.append(QualifiedField(source, source.key));
   return QStringLiteral(" ORDER BY ") + terms.join(QStringLiteral(", "));

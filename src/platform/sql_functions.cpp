@@ -4,8 +4,11 @@
 
 #include <QDate>
 #include <QHash>
+#include <algorithm>
 #include <array>
 #include <cmath>
+#include <string>
+#include <string_view>
 
 #include "platform/rounding.h"
 #include "platform/sql_wildcards.h"
@@ -44,6 +47,18 @@ class Call {
     return QString::fromUtf8(text, sqlite3_value_bytes(values_[i]));
   }
   QString Text(int i) const { return ValueText(Value(i)); }
+  /// The bytes of a text of ASCII letters alone, as nearly all are: what searches thousands of rows reads them in
+  /// place.
+  std::optional<std::string_view> AsciiText(int i) const {
+    if (sqlite3_value_type(values_[i]) != SQLITE_TEXT) return {};
+    const auto *text = reinterpret_cast<const char *>(sqlite3_value_text(values_[i]));
+    const std::string_view bytes(text, static_cast<std::size_t>(sqlite3_value_bytes(values_[i])));
+    const bool ascii = std::none_of(bytes.begin(), bytes.end(), [](char c) { return c & 0x80; });
+    return ascii ? std::optional(bytes) : std::nullopt;
+  }
+  void AnswerBytes(std::string_view bytes) {
+    sqlite3_result_text64(context_, bytes.data(), bytes.size(), SQLITE_TRANSIENT, SQLITE_UTF8);
+  }
   double Number(int i) const {
     return ToStored(Value(i), {ColumnType::Double, 0}, QStringLiteral("a function")).toDouble();
   }
@@ -84,10 +99,31 @@ struct NamedFunction {
   bool seesNull = false;
 };
 
+char AsciiLower(char c) { return c >= 'A' && c <= 'Z' ? static_cast<char>(c + 32) : c; }
+char AsciiUpper(char c) { return c >= 'a' && c <= 'z' ? static_cast<char>(c - 32) : c; }
+
+/// Answers the first text letter by letter when it is ASCII; false when it is not.
+bool AnswerAscii(Call &call, char (*change)(char)) {
+  const auto text = call.AsciiText(0);
+  if (!text) return false;
+  std::string changed(text->size(), '\0');
+  std::transform(text->begin(), text->end(), changed.begin(), change);
+  call.AnswerBytes(changed);
+  return true;
+}
+
 void InStr(Call &call) {
   const int first = call.Count() - 2;
   const qint64 start = first > 0 ? call.Whole(0) : 1;
   if (start < 1) throw Error(error_number::typeMismatch, QStringLiteral("InStr starts at 1 or above."));
+  const auto ascii = call.AsciiText(first);
+  const auto sought = call.AsciiText(first + 1);
+  if (ascii && sought && static_cast<std::size_t>(start) <= ascii->size()) {
+    const auto found = std::search(ascii->begin() + (start - 1), ascii->end(), sought->begin(), sought->end(),
+                                   [](char a, char b) { return AsciiLower(a) == AsciiLower(b); });
+    const bool none = found == ascii->end() && !sought->empty();
+    return call.Answer(none ? 0 : static_cast<int>(found - ascii->begin()) + 1);
+  }
   const QString text = call.Text(first);
   if (start > text.size()) return call.Answer(0);
   call.Answer(static_cast<int>(text.indexOf(call.Text(first + 1), start - 1, Qt::CaseInsensitive)) + 1);
@@ -148,8 +184,14 @@ const NamedFunction functions[] = {
     {"tl_val", [](Call &c) { c.Answer(Val(c.Text(0))); }},
     {"tl_isnumeric", [](Call &c) { c.Answer(!c.IsNull(0) && IsNumeric(c.Text(0))); }, true},
     {"tl_instr", InStr},
-    {"tl_lcase", [](Call &c) { c.Answer(c.Text(0).toLower()); }},
-    {"tl_ucase", [](Call &c) { c.Answer(c.Text(0).toUpper()); }},
+    {"tl_lcase",
+     [](Call &c) {
+       if (!AnswerAscii(c, AsciiLower)) c.Answer(c.Text(0).toLower());
+     }},
+    {"tl_ucase",
+     [](Call &c) {
+       if (!AnswerAscii(c, AsciiUpper)) c.Answer(c.Text(0).toUpper());
+     }},
     {"tl_left", [](Call &c) { c.Answer(c.Text(0).left(Length(c, 1))); }},
     {"tl_right", [](Call &c) { c.Answer(c.Text(0).right(Length(c, 1))); }},
     {"tl_mid", Mid},
@@ -261,6 +303,7 @@ const SqlFunction *FindSqlFunction(QStringView name) {
       {QStringLiteral("val"), {"tl_val", 1, 1, ColumnType::Double}},
       {QStringLiteral("isnumeric"), {"tl_isnumeric", 1, 1, ColumnType::Boolean}},
       {QStringLiteral("instr"), {"tl_instr", 2, 3, ColumnType::Long}},
+      {QStringLiteral("sortkey"), {"lower", 1, 1, ColumnType::Memo}},
       {QStringLiteral("lcase"), {"tl_lcase", 1, 1, ColumnType::Memo}},
       {QStringLiteral("ucase"), {"tl_ucase", 1, 1, ColumnType::Memo}},
       {QStringLiteral("left"), {"tl_left", 2, 2, ColumnType::Memo}},

@@ -1,0 +1,169 @@
+// The food catalog beside bare SQLite, with the shipped foods and with ten times as many. At the end stand the ratios,
+// with the limit that each should keep.
+#include <benchmark/benchmark.h>
+#include <sqlite3.h>
+
+#include <QApplication>
+#include <QComboBox>
+#include <QFile>
+#include <QLineEdit>
+#include <QTabWidget>
+#include <QTemporaryDir>
+#include <cstdio>
+#include <map>
+
+#include "catalogs/food_lists.h"
+#include "catalogs/windows/frmSetupFoods.h"
+#include "core/navigator.h"
+#include "core/nutrients.h"
+#include "platform/grid_model.h"
+#include "ratio_reporter.h"
+#include "support/test_session.h"
+
+using namespace trimlog;
+
+namespace {
+
+enum class Size { Ten, Shipped, TenTimes };
+
+/// A session whose catalog has a given size.
+class Catalog {
+ public:
+  explicit Catalog(Size size) {
+    Transaction transaction(session.Data());
+    if (size == Size::Ten)
+      session.Data().Execute(
+          QStringLiteral("DELETE meals_list.*, meals_list.MealID FROM meals_list WHERE (meals_list.MealID > 10);"));
+    for (int copy = 1; size == Size::TenTimes && copy < 10; ++copy) {
+      session.Data().Execute(
+          QStringLiteral(
+              "INSERT INTO meals_list ( MealID, MealDesc, MealGroupID, Amount, Calories, Fat, Protein, RecordTypeID ) "
+              "SELECT MealID + ?, MealDesc & \" %1\", MealGroupID, Amount, Calories, Fat, Protein, 1 FROM meals_list "
+              "WHERE (MealID < 10000);")
+              .arg(copy),
+          {copy * 10000});
+    }
+    transaction.Commit();
+    FillNutrientDefinitions(session->nutrients, session.Data());
+    FillSelectedNutrientsArray(session->nutrients, session.Data());
+  }
+  TestSession session;
+  Navigator navigator;
+};
+
+Catalog &Of(Size size) {
+  static Catalog ten(Size::Ten), shipped(Size::Shipped), tenTimes(Size::TenTimes);
+  return size == Size::Ten ? ten : size == Size::Shipped ? shipped : tenTimes;
+}
+
+/// The same file through SQLite alone, read into memory as the window keeps it: keys.
+class Bare {
+ public:
+  explicit Bare(Catalog &catalog) {
+    catalog.session.Data().CopyTo(folder_.filePath(QStringLiteral("bare.dat")));
+    sqlite3_open_v2(folder_.filePath(QStringLiteral("bare.dat")).toUtf8().constData(), &connection_,
+                    SQLITE_OPEN_READONLY, nullptr);
+    // The file's own collation must be known; the names are plain letters, so comparing them as such is the same.
+    sqlite3_exec(connection_, "PRAGMA locking_mode = EXCLUSIVE", nullptr, nullptr, nullptr);
+  }
+  ~Bare() { sqlite3_close(connection_); }
+  int Keys(const char *sql) {
+    sqlite3_stmt *statement = nullptr;
+    sqlite3_prepare_v2(connection_, sql, -1, &statement, nullptr);
+    std::vector<qint64> keys;
+    while (sqlite3_step(statement) == SQLITE_ROW) keys.push_back(sqlite3_column_int64(statement, 0));
+    sqlite3_finalize(statement);
+    return static_cast<int>(keys.size());
+  }
+
+ private:
+  QTemporaryDir folder_;
+  sqlite3 *connection_ = nullptr;
+};
+
+Bare &BareOf(Size size) {
+  static Bare shipped(Of(Size::Shipped)), tenTimes(Of(Size::TenTimes));
+  return size == Size::TenTimes ? tenTimes : shipped;
+}
+
+void Open(benchmark::State &state, Size size) {
+  Catalog &catalog = Of(size);
+  for (auto round : state) {
+    frmSetupFoods window(*catalog.session, catalog.navigator, nullptr);
+    window.show();
+    QApplication::processEvents();  // painted
+    state.PauseTiming();
+    window.hide();
+    state.ResumeTiming();
+  }
+}
+void OpenTen(benchmark::State &state) { Open(state, Size::Ten); }
+void OpenShipped(benchmark::State &state) { Open(state, Size::Shipped); }
+void OpenTenTimes(benchmark::State &state) { Open(state, Size::TenTimes); }
+BENCHMARK(OpenTen)->Unit(benchmark::kMillisecond);
+BENCHMARK(OpenShipped)->Unit(benchmark::kMillisecond);
+BENCHMARK(OpenTenTimes)->Unit(benchmark::kMillisecond);
+
+/// The grid's way to the first rows in view.
+void Show(benchmark::State &state, Size size, const GridSource &source) {
+  Catalog &catalog = Of(size);
+  GridModel model(catalog.session->locale);
+  model.SetColumns({{.name = QStringLiteral("MealDesc"), .field = QStringLiteral("MealDesc")},
+                    {.name = QStringLiteral("Protein"), .field = QStringLiteral("Protein")}});
+  model.Open(catalog.session.Data(), source);
+  for (auto round : state) {
+    model.SetSource(source);
+    model.Need(0, 25);
+    benchmark::DoNotOptimize(model.index(0, 0).data().toString());
+  }
+}
+const char *const bareSearch =
+    "SELECT MealID FROM meals_list WHERE RecordTypeID <> 0 AND RecordTypeID <> 3 AND instr(lower(MealDesc), 'cheddar') "
+    "<> 0 "
+    "ORDER BY MealDesc COLLATE BINARY";
+const char *const bareSort =
+    "SELECT MealID FROM meals_list WHERE RecordTypeID <> 0 AND RecordTypeID <> 3 ORDER BY Protein DESC, MealDesc "
+    "COLLATE BINARY";
+
+void SearchShipped(benchmark::State &state) { Show(state, Size::Shipped, FoodSearchSource(QStringLiteral("cheddar"))); }
+void SearchTenTimes(benchmark::State &state) {
+  Show(state, Size::TenTimes, FoodSearchSource(QStringLiteral("cheddar")));
+}
+void SortShipped(benchmark::State &state) {
+  Show(state, Size::Shipped, FoodListSource({.sort = QStringLiteral("-Protein")}));
+}
+void SortTenTimes(benchmark::State &state) {
+  Show(state, Size::TenTimes, FoodListSource({.sort = QStringLiteral("-Protein")}));
+}
+void BareKeys(benchmark::State &state, Size size, const char *sql) {
+  for (auto round : state) benchmark::DoNotOptimize(BareOf(size).Keys(sql));
+}
+void SearchShippedBare(benchmark::State &state) { BareKeys(state, Size::Shipped, bareSearch); }
+void SearchTenTimesBare(benchmark::State &state) { BareKeys(state, Size::TenTimes, bareSearch); }
+void SortShippedBare(benchmark::State &state) { BareKeys(state, Size::Shipped, bareSort); }
+void SortTenTimesBare(benchmark::State &state) { BareKeys(state, Size::TenTimes, bareSort); }
+BENCHMARK(SearchShipped)->Unit(benchmark::kMillisecond);
+BENCHMARK(SearchShippedBare)->Unit(benchmark::kMillisecond);
+BENCHMARK(SearchTenTimes)->Unit(benchmark::kMillisecond);
+BENCHMARK(SearchTenTimesBare)->Unit(benchmark::kMillisecond);
+BENCHMARK(SortShipped)->Unit(benchmark::kMillisecond);
+BENCHMARK(SortShippedBare)->Unit(benchmark::kMillisecond);
+BENCHMARK(SortTenTimes)->Unit(benchmark::kMillisecond);
+BENCHMARK(SortTenTimesBare)->Unit(benchmark::kMillisecond);
+
+}  // namespace
+
+int main(int count, char **arguments) {
+  QApplication application(count, arguments);
+  benchmark::Initialize(&count, arguments);
+  RatioReporter reporter({
+      {"open the window, 8,791 foods / ten foods", "OpenShipped", "OpenTen", 1.5},
+      {"open the window, 87,910 foods / ten foods", "OpenTenTimes", "OpenTen", 1.5},
+      {"search, 8,791 foods / the bare scan", "SearchShipped", "SearchShippedBare", 1.5},
+      {"search, 87,910 foods / the bare scan", "SearchTenTimes", "SearchTenTimesBare", 1.5},
+      {"sort by protein, 8,791 foods / the bare ORDER BY", "SortShipped", "SortShippedBare", 1.5},
+      {"sort by protein, 87,910 foods / the bare ORDER BY", "SortTenTimes", "SortTenTimesBare", 1.5},
+  });
+  benchmark::RunSpecifiedBenchmarks(&reporter);
+  return reporter.PrintRatios() ? 0 : 1;
+}
