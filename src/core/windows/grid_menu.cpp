@@ -49,7 +49,7 @@ GridMenu::GridMenu(Session &session, const Navigator &navigator, QWidget *parent
 QAction *GridMenu::Add(QMenu &menu, const char *name, const QString &caption, Act act) {
   QAction *const action = menu.addAction(caption);
   action->setObjectName(QLatin1String(name));
-  connect(action, &QAction::triggered, this, [this, act] {
+  connect(action, &QAction::triggered, this, [this, act = std::move(act)] {
     if (grid_) act(*grid_);
   });
   return action;

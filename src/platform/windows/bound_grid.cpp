@@ -1,5 +1,6 @@
 #include "platform/windows/bound_grid.h"
 
+#include <QEvent>
 #include <QHeaderView>
 #include <QScrollBar>
 #include <algorithm>
@@ -159,9 +160,9 @@ bool BoundGrid::Open(Database &database, const GridSource &source) {
   return opened;
 }
 
-bool BoundGrid::SetSource(const GridSource &source) {
+bool BoundGrid::SetSource(const GridSource &source, bool whole) {
   if (!CommitRow()) return false;
-  const bool opened = RunGuarded(GridAction::Load, [&] { model_->SetSource(source); });
+  const bool opened = RunGuarded(GridAction::Load, [&] { model_->SetSource(source, whole); });
   ShowSortIndicator();
   GoToFirstRow();
   return opened;
@@ -194,11 +195,17 @@ bool BoundGrid::SortBy(const QString &columnName, bool descending) {
   return sorted;
 }
 
+bool BoundGrid::SortsBy(const GridColumn &column) const {
+  const GridSource &source = model_->Source();
+  return !source.order.isEmpty() && !column.field.isEmpty() &&
+         QualifiedField(source, column.field) == QualifiedField(source, source.order.first().field);
+}
+
 void BoundGrid::SortByClick(int section) {
   if (!canSort || section < 0) return;
   const QList<GridOrder> &order = model_->Source().order;
   const GridColumn &column = model_->Columns()[section];
-  const bool again = !order.isEmpty() && order.first().field == column.field && !order.first().descending;
+  const bool again = SortsBy(column) && !order.first().descending;
   SortBy(column.name, again);
 }
 
@@ -206,7 +213,7 @@ void BoundGrid::ShowSortIndicator() {
   const QList<GridOrder> &order = model_->Source().order;
   QHeaderView *const captions = horizontalHeader();
   for (size_t column = 0; canSort && !order.isEmpty() && column < model_->Columns().size(); ++column) {
-    if (model_->Columns()[column].field != order.first().field || !model_->Columns()[column].visible) continue;
+    if (!SortsBy(model_->Columns()[column]) || !model_->Columns()[column].visible) continue;
     captions->setSortIndicatorShown(true);
     captions->setSortIndicator(static_cast<int>(column),
                                order.first().descending ? Qt::DescendingOrder : Qt::AscendingOrder);

@@ -43,7 +43,8 @@ class BoundGrid : public QTableView {
   /// Shows a source. Saves the row being changed first; false when that was refused (nothing happens then) or reading
   /// failed.
   bool Open(Database &database, const GridSource &source);
-  bool SetSource(const GridSource &source);
+  /// `whole` reads all keys in one pass: for a search, whose rows cost as much to count as to find.
+  bool SetSource(const GridSource &source, bool whole = false);
   bool Refresh();  ///< current cell, marked rows and scroll place are kept by key
   /// Sorts by a column, then the key. False when nothing was sorted.
   bool SortBy(const QString &columnName, bool descending);
@@ -126,6 +127,7 @@ class BoundGrid : public QTableView {
   void ApplyWidths();
   void SaveWidths();
   int WidthOf(const GridColumn &column) const;
+  bool SortsBy(const GridColumn &column) const;
   void SortByClick(int section);
   void ShowSortIndicator();
 
