@@ -2,6 +2,7 @@
 
 #include <QHBoxLayout>
 
+#include "companions/windows/wizard_controls.h"
 #include "core/windows/art.h"
 #include "core/windows/setup_controls.h"
 #include "core/windows/theme.h"
@@ -15,7 +16,7 @@ constexpr int pictureSide = 48;
 }  // namespace
 
 ColorsPage::ColorsPage(quint32 initial, QWidget *parent) : WizardPage(parent) {
-  auto *layout = new QVBoxLayout(this);
+  QVBoxLayout *layout = MakeWizardColumn(this);
   AddNote(layout, QStringLiteral("lblColors"),
           QStringLiteral("Which colors would you like to see?  The arrow keys go from one to the next."));
   layout->addSpacing(8);

@@ -78,6 +78,7 @@ bool frmWizard::Form_Load() {
     AddPages();
     AddButtons(layout);
     ShowStep(1);
+    FitToScreen();
   });
 }
 
@@ -169,6 +170,20 @@ void frmWizard::ShowStep(int number) {
     pages_->setCurrentWidget(page);
     FocusFirstField();
   });
+}
+
+// Large enough for the longest title and the ten nutrients of a diet, as far as the screen allows; no step then moves
+// the buttons.
+void frmWizard::FitToScreen() {
+  const QFontMetrics metrics(lblTitle->font());
+  int width = 0;
+  for (int step = 1; step <= plan_.WizardSteps(); ++step) {
+    width = std::max(width, metrics.horizontalAdvance(plan_.TitleOf(step)));
+  }
+  pages_->setMinimumWidth(width);
+  const QSize room = screen()->availableSize() - QSize(16, 48);
+  const int height = fontMetrics().height() * (plan_.AddingProfile() ? 24 : 32);
+  resize(sizeHint().expandedTo({0, height}).boundedTo(room));
 }
 
 void frmWizard::FocusFirstField() {

@@ -43,6 +43,7 @@ class frmWizard : public QDialog {
   void Import();
   void Finish();
   void ShowStep(int number);
+  void FitToScreen();
   void FocusFirstField();
   void LeaveAs(Outcome outcome);
 

@@ -2,12 +2,13 @@
 
 #include <QVBoxLayout>
 
+#include "companions/windows/wizard_controls.h"
 #include "core/windows/setup_controls.h"
 
 namespace trimlog {
 
 IntroductionPage::IntroductionPage(bool asksForColors, QWidget *parent) : WizardPage(parent) {
-  auto *layout = new QVBoxLayout(this);
+  QVBoxLayout *layout = MakeWizardColumn(this);
   layout->setSpacing(12);
   AddNote(
       layout, QStringLiteral("lblWelcome"),

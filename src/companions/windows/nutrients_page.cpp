@@ -3,6 +3,7 @@
 #include <QHeaderView>
 #include <QKeyEvent>
 
+#include "companions/windows/wizard_controls.h"
 #include "companions/wizard_nutrients.h"
 #include "core/failure_guard.h"
 #include "core/windows/setup_controls.h"
@@ -12,7 +13,7 @@ namespace trimlog {
 
 namespace {
 
-constexpr int fewestRowsShown = 7;
+constexpr int fewestRowsShown = 6;
 
 GridColumns NutrientColumns(const QLocale &locale) {
   return {{.name = QStringLiteral("IsModified"),
@@ -60,7 +61,7 @@ FailureExit Exit(const char *procedure, const char *text) {
 }  // namespace
 
 NutrientsPage::NutrientsPage(Session &session, QWidget *parent) : WizardPage(parent), session_(session) {
-  auto *layout = new QVBoxLayout(this);
+  QVBoxLayout *layout = MakeWizardColumn(this);
   AddNote(layout, QStringLiteral("lblNutrients"),
           QStringLiteral("Tick up to ten nutrients to see in your journal, and type a target or limit for each day."));
   lblNote = AddNote(layout, QStringLiteral("lblNote"), {});

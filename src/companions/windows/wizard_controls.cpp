@@ -8,8 +8,14 @@
 
 namespace trimlog {
 
-QGridLayout *MakeWizardForm(QWidget *page, const QString &sentence) {
+QVBoxLayout *MakeWizardColumn(QWidget *page) {
   auto *layout = new QVBoxLayout(page);
+  layout->setContentsMargins(0, 6, 0, 6);
+  return layout;
+}
+
+QGridLayout *MakeWizardForm(QWidget *page, const QString &sentence) {
+  QVBoxLayout *layout = MakeWizardColumn(page);
   AddNote(layout, {}, sentence);
   layout->addSpacing(8);
   auto *grid = new QGridLayout;
@@ -27,6 +33,7 @@ void AddWizardRow(QGridLayout *grid, const QString &caption, QWidget *buddy, con
   label->setBuddy(buddy);
   grid->addWidget(label, row, 0);
   auto *line = new QHBoxLayout;
+  line->setSpacing(8);
   bool fillsLine = false;
   for (QWidget *control : controls) {
     line->addWidget(control);

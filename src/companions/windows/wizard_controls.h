@@ -7,6 +7,7 @@
 class QGridLayout;
 class QLabel;
 class QLineEdit;
+class QVBoxLayout;
 class QWidget;
 
 namespace trimlog {
@@ -18,6 +19,8 @@ class NumberField;
 inline constexpr int numberCharacters = 8;
 inline constexpr int dateCharacters = 12;
 
+/// What a page stands in: as wide as the wizard's title above it.
+QVBoxLayout *MakeWizardColumn(QWidget *page);
 /// A sentence, and below it the grid that AddWizardRow fills: captions to the left, fields to the right.
 QGridLayout *MakeWizardForm(QWidget *page, const QString &sentence);
 /// One row: its caption, with the access key of `buddy` where there is one, and what stands behind it.

@@ -4,6 +4,7 @@
 #include <QButtonGroup>
 #include <QFormLayout>
 #include <QHBoxLayout>
+#include <QLabel>
 #include <QRadioButton>
 
 #include "core/failure_guard.h"
@@ -50,6 +51,8 @@ void AddProfilePage::AddFields(QFormLayout *form) {
   birth->addWidget(txtBirthDate, 1);
   birth->addWidget(AttachCalendar(session_, *txtBirthDate, QStringLiteral("cmdBirthDate")));
   form->addRow(QStringLiteral("&Birth date:"), birth);
+  qobject_cast<QLabel *>(form->labelForField(birth))
+      ->setBuddy(txtBirthDate);  // a row of two controls has none by itself
 
   optGenderFemale = new QRadioButton(QStringLiteral("&Female"), this);
   optGenderFemale->setObjectName(QStringLiteral("optGenderFemale"));
