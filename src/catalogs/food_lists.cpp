@@ -72,6 +72,12 @@ GridSource FoodListSource(const FoodSelection &selection) {
     return source;
   }
   source.where = listed;
+  if (selection.list == food_list::all && selection.group == allFoodGroups) {
+    // All rows but the few that are never listed: the store knows the first number without counting.
+    source.count = QStringLiteral(
+        "SELECT (SELECT Count(*) FROM meals_list) - (SELECT Count(*) FROM meals_list "
+        "WHERE ((meals_list.RecordTypeID) IN (0, 3))) AS RowCount;");
+  }
   if (selection.list != food_list::all) {
     source.where = QStringLiteral("((meals_list.RecordTypeID) = ?)");
     source.params.append(selection.list);

@@ -78,6 +78,7 @@ QString QualifiedField(const GridSource &source, const QString &field) {
 GridStatement KeysStatement(const GridSource &source, int top) { return SelectKeys(source, Shown(source), top); }
 
 GridStatement CountStatement(const GridSource &source) {
+  if (!source.count.isEmpty()) return {source.count, {}};
   const Condition condition = Shown(source);
   return {QStringLiteral("SELECT Count(*) AS RowCount FROM %1%2;").arg(FromClause(source), condition.Where()),
           condition.params};

@@ -29,6 +29,7 @@ struct GridSource {
   QString from = {};   ///< the FROM clause when other tables are joined in; default: the table alone
   QString where = {};  ///< a condition without WHERE; a `?` takes the next of `params`
   Params params = {};
+  QString count = {};  ///< counts the rows as RowCount, where that is quicker than counting what `where` lets through
   /// How a field is ordered where an index keeps an expression of it: field and expression.
   QMap<QString, QString> orderAs = {};
   QList<GridOrder> order = {};  ///< the key always follows as the last term, so that the order is total

@@ -7,7 +7,6 @@
 #include <algorithm>
 #include <array>
 #include <cmath>
-#include <string>
 #include <string_view>
 
 #include "platform/rounding.h"
@@ -106,9 +105,10 @@ char AsciiUpper(char c) { return c >= 'a' && c <= 'z' ? static_cast<char>(c - 32
 bool AnswerAscii(Call &call, char (*change)(char)) {
   const auto text = call.AsciiText(0);
   if (!text) return false;
-  std::string changed(text->size(), '\0');
-  std::transform(text->begin(), text->end(), changed.begin(), change);
-  call.AnswerBytes(changed);
+  std::array<char, 512> room;  // names and descriptions fit; the rest takes the way of all letters
+  if (text->size() > room.size()) return false;
+  std::transform(text->begin(), text->end(), room.begin(), change);
+  call.AnswerBytes({room.data(), text->size()});
   return true;
 }
 

@@ -55,7 +55,7 @@ QString FoodSearchPage::PrintedTitle() const { return PrintedSearchTitle(searche
 
 void FoodSearchPage::Search() {
   const WaitCursor wait;
-  if (!grdMealsSearch->SetSource(FoodSearchSource(txtFind->text()))) return;
+  if (!grdMealsSearch->SetSource(FoodSearchSource(txtFind->text()), true)) return;
   searched_ = FoodSearchText(txtFind->text());
   grdMealsSearch->ClearMarks();
   UpdateHeading();
