@@ -82,6 +82,11 @@ void GridDelegate::setEditorData(QWidget *editor, const QModelIndex &index) cons
     list->setCurrentIndex(list->findText(index.data(Qt::EditRole).toString()));
   } else if (auto *field = qobject_cast<QLineEdit *>(editor)) {
     field->setText(index.data(Qt::EditRole).toString());
+    const QString sentence = index.data(GridModel::SentenceRole).toString();
+    field->setToolTip(sentence);
+    if (!sentence.isEmpty()) {
+      field->setStyleSheet(QStringLiteral("border: 2px solid %1").arg(RefusalColor(grid_->palette()).name()));
+    }
   }
 }
 
