@@ -13,8 +13,8 @@ struct DataChange {
   QDate date;
 };
 
-/// Writers change data, data announces, views listen: after a save the writer announces once, and every open grid, chart
-/// and total refreshes from that.
+/// Writers change data, data announces, views listen: after a save the writer announces once, and every open grid,
+/// chart and total refreshes from that.
 class DataChanges : public QObject {
   Q_OBJECT
  public:

@@ -10,29 +10,29 @@ namespace trimlog {
 enum class SetupTab { Profiles, Calendar, Charts, Rewards, Colors, Journal, Other };
 enum class ToolsPanel { GoalPlanner, CaloricNeeds, BodyFat };
 
-/// The doors between rooms. Windows never include each other; they open one another through here, and app fills the doors
-/// in. A door that leads nowhere yet is empty, and what would open it is shown disabled.
+/// The doors between rooms. Windows never include each other; they open one another through here, and app fills the
+/// doors in. A door that leads nowhere yet is empty, and what would open it is shown disabled.
 struct Navigator {
-  std::function<void(const QString &formName)> ShowForm;  ///< "frmData", ...: the one content window
+  std::function<void(const QString &formName)> ShowForm;     ///< "frmData", ...: the one content window
   std::function<bool(const QString &formName)> CanShowForm;  ///< false while that window is not built
-  std::function<void(const QString &personID)> LoadData;  ///< switches the whole session to a profile
+  std::function<void(const QString &personID)> LoadData;     ///< switches the whole session to a profile
   std::function<void(SetupTab tab)> OpenSetup;
   std::function<void(ToolsPanel panel)> OpenTools;
-  std::function<bool(bool force)> StartWiz;               ///< the configuration wizard; true when it wrote a profile
+  std::function<bool(bool force)> StartWiz;  ///< the configuration wizard; true when it wrote a profile
   std::function<void(QWidget *owner)> OpenFoodSetup;
   std::function<void(QWidget *owner)> OpenNutrientSelection;
-  std::function<void(QWidget *owner)> OpenTargets;        ///< nutrition targets
+  std::function<void(QWidget *owner)> OpenTargets;  ///< nutrition targets
   std::function<void(QWidget *owner)> OpenDailyValues;
   std::function<void(QWidget *owner)> OpenRecipes;
   std::function<void(QWidget *owner)> OpenExercises;
   std::function<void(QWidget *owner)> OpenQuickJournal;
   /// Adds a further profile through the generic add dialog; true when one was added.
   std::function<bool(QWidget *owner)> AddProfile;
-  std::function<void(QWidget *owner)> ImportData;         ///< takes over the data of an earlier release
+  std::function<void(QWidget *owner)> ImportData;  ///< takes over the data of an earlier release
   std::function<void(const QString &topic)> ShowHelp;
-  std::function<void()> ExitProgram;                      ///< closes the frame
-  std::function<void()> ResetMainWindow;                  ///< the frame back to its first size, centred
-  std::function<void()> ResetQuickJournal;                ///< an open Quick Journal to the place in the session
+  std::function<void()> ExitProgram;        ///< closes the frame
+  std::function<void()> ResetMainWindow;    ///< the frame back to its first size, centred
+  std::function<void()> ResetQuickJournal;  ///< an open Quick Journal to the place in the session
 };
 
 }  // namespace trimlog

@@ -13,7 +13,7 @@ inline constexpr int shownNutrients = 10;
 /// One nutrient of the vocabulary. `Value` is working storage while one entry is being added.
 struct NutrientDef {
   QString description;
-  QString fieldName;            ///< its column in meals_list, meals and nutrition_targets
+  QString fieldName;  ///< its column in meals_list, meals and nutrition_targets
   QString descriptionPlusUnit;
   QString shortUnit;
   QString longUnit;
@@ -22,17 +22,17 @@ struct NutrientDef {
 
 /// One of the ten positions that every food grid shows.
 struct SelectedNutrient {
-  int NutrientID = 0;           ///< 0: the position is empty
+  int NutrientID = 0;  ///< 0: the position is empty
   QString description;
-  bool NutTotal = false;        ///< totalled by day, and scaled by the servings
+  bool NutTotal = false;  ///< totalled by day, and scaled by the servings
   QString descriptionPlusUnit;
 };
 
 /// The nutrient vocabulary in memory, read at start and after each change of it.
 struct Nutrients {
-  std::array<NutrientDef, nutrientCount> NutrientDefs;              ///< by NutrientID - 1
-  std::array<SelectedNutrient, shownNutrients> SelectedNutrients;   ///< by position
-  std::array<double, nutrientCount> NutrientTargets;                ///< by NutrientID - 1; -1 for no target
+  std::array<NutrientDef, nutrientCount> NutrientDefs;             ///< by NutrientID - 1
+  std::array<SelectedNutrient, shownNutrients> SelectedNutrients;  ///< by position
+  std::array<double, nutrientCount> NutrientTargets;               ///< by NutrientID - 1; -1 for no target
 
   Nutrients() { NutrientTargets.fill(-1); }
 };

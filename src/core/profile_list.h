@@ -29,7 +29,8 @@ bool AskDeleteProfiles(Session &session, int count);
 /// the first that is left, otherwise the first sample. Also forgets a deleted LastRealPersonID.
 QString ProfileToStandOn(Session &session);
 
-/// Why a height (one of its two numbers) or a birth date cannot be kept: a sentence, or "". An invalid date is "not told".
+/// Why a height (one of its two numbers) or a birth date cannot be kept: a sentence, or "". An invalid date is "not
+/// told".
 QString RefusedHeight(double height);
 QString RefusedBirthDate(const QDate &date, const QDate &today);
 

@@ -18,8 +18,8 @@ class SystemClock final : public Clock {
   QDateTime Now() const override { return QDateTime::currentDateTime(); }
 };
 
-/// What the program asks of the machine beyond files and windows. Every call answers for today's platform; what no longer
-/// exists answers "not there".
+/// What the program asks of the machine beyond files and windows. Every call answers for today's platform; what no
+/// longer exists answers "not there".
 class Machine {
  public:
   virtual ~Machine() = default;

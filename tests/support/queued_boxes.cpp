@@ -28,7 +28,8 @@ BoxButton QueuedBoxes::Show(const Box &box) {
   const Expected expected = queue_.front();
   queue_.pop_front();
   EXPECT_EQ(box.title.toStdString(), expected.title.toStdString());
-  EXPECT_TRUE(box.text.contains(expected.text)) << box.text.toStdString() << "\n  lacks\n" << expected.text.toStdString();
+  EXPECT_TRUE(box.text.contains(expected.text)) << box.text.toStdString() << "\n  lacks\n"
+                                                << expected.text.toStdString();
   EXPECT_TRUE(box.buttons.contains(expected.answer)) << "The box has no such button: " << box.title.toStdString();
   return expected.answer;
 }

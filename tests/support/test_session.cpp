@@ -21,7 +21,9 @@ class MemoryStore final : public SettingsStore {
     values_[{key, valueName}] = value;
     return true;
   }
-  bool DeleteValue(const QString &key, const QString &valueName) override { return values_.erase({key, valueName}) > 0; }
+  bool DeleteValue(const QString &key, const QString &valueName) override {
+    return values_.erase({key, valueName}) > 0;
+  }
   bool DeleteKey(const QString &key) override {
     return std::erase_if(values_, [&key](const auto &entry) {
              return entry.first.first == key || entry.first.first.startsWith(key + QLatin1Char('\\'));
@@ -38,8 +40,7 @@ class MemoryStore final : public SettingsStore {
 std::unique_ptr<SettingsStore> MemorySettings() { return std::make_unique<MemoryStore>(); }
 
 TestSession::TestSession(const QLocale &locale) {
-  EXPECT_TRUE(QFile::copy(QStringLiteral(TRIMLOG_SHIPPED_DIR) +
-                              QStringLiteral("/tlg.dat"),
+  EXPECT_TRUE(QFile::copy(QStringLiteral(TRIMLOG_SHIPPED_DIR) + QStringLiteral("/tlg.dat"),
                           directory.filePath(QStringLiteral("tlg.dat"))));
   session = std::make_unique<Session>(SessionPlaces{directory.path(), *store, clock, machine, boxes, locale});
   session->database = Database::Open(session->DataFilePath());

@@ -11,13 +11,13 @@ class ContentWindow : public QWidget {
   using QWidget::QWidget;
   /// May it be left? A refused check has shown its box.
   virtual bool ValidateFields() { return true; }
-  /// Checks and saves what is being typed, as leaving the field would. Called before the program ends, the profile changes
-  /// or another window takes this one's place. False when the check refused it or the save failed: the box was shown, the
-  /// text still stands in its field, and whoever asked stays where it is.
+  /// Checks and saves what is being typed, as leaving the field would. Called before the program ends, the profile
+  /// changes or another window takes this one's place. False when the check refused it or the save failed: the box was
+  /// shown, the text still stands in its field, and whoever asked stays where it is.
   virtual bool SaveOpenEdit() { return true; }
   /// The window was moved into place and is the current one: set the focus.
   virtual void Activated() {}
-  virtual void PrintContents() {}        ///< File, Print
+  virtual void PrintContents() {}  ///< File, Print
   /// Turns colours and buttons that do not belong on paper off (true) and on again (false).
   virtual void PrepareForPrinting(bool) {}
   virtual void GotoPreviousMonth() {}

@@ -1,5 +1,5 @@
-// The audio part of the machine, a library of its own that the program loads with the first sound: the libraries below it
-// would otherwise make up half of the program's start.
+// The audio part of the machine, a library of its own that the program loads with the first sound: the libraries below
+// it would otherwise make up half of the program's start.
 #include <QAudioDevice>
 #include <QCoreApplication>
 #include <QMediaDevices>
