@@ -1,5 +1,7 @@
 #include "catalogs/food_lists.h"
 
+#include <QRegularExpression>
+
 #include "platform/recordset.h"
 #include "platform/text_format.h"
 

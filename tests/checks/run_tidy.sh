@@ -11,7 +11,7 @@ kept = []
 for c in commands:
     if "/src/" not in c["file"] or not c["file"].endswith(".cpp"):
         continue
-    c["command"] = re.sub(r"-Winvalid-pch|-include \S*cmake_pch\.hxx|^\S*ccache ", "", c["command"])
+    c["command"] = re.sub(r"-Winvalid-pch|-include \S*cmake_pch\.hxx|-Wshadow=local|^\S*ccache ", "", c["command"])
     kept.append(c)
 json.dump(kept, open("build/tidy/compile_commands.json", "w"))
 PY
