@@ -44,6 +44,58 @@ TEST(WizardFields, AreMendedOnLeaving) {
   EXPECT_EQ(RepairedPersonName("  "), "New Profile");
 }
 
+WizardAnswers Height(double height1, double height2, int UomID) {
+  WizardAnswers answers;
+  answers.height1 = height1;
+  answers.height2 = height2;
+  answers.UomID = UomID;
+  return answers;
+}
+
+TEST(WizardFields, TellAHealthyWeightOnlyForAHeight) {
+  // By hand: 1.6764 m squared is 2.81032; times 21 and 2.205 is 130.13, times 23 and 2.205 is 142.53.
+  EXPECT_TRUE(HealthyWeightText(Height(5, 6, 1), "Lbs").contains("between 130 and 143 Lbs.\n\nPlease note"));
+  // 1.78 m squared is 3.1684; times 21 is 66.54, times 23 is 72.87.
+  EXPECT_TRUE(HealthyWeightText(Height(1, 78, 2), "Kg").contains("between 67 and 73 Kg."));
+  EXPECT_TRUE(HealthyWeightText(Height(0, 178, 2), "Kg").contains("between 67 and 73 Kg.")) << "all in centimetres";
+  for (const WizardAnswers &nobody : {Height(0, 0, 1), Height(300, 11, 1), Height(178, 0, 2)}) {
+    EXPECT_EQ(HealthyWeightText(nobody, "Lbs"),
+              "Please go back and enter your height first.  Your healthy weight range depends on it.");
+  }
+}
+
+TEST(WizardNutrients, KeepTickAndTargetInStep) {
+  struct Case {
+    bool tick;
+    const char *target;
+    QVariantMap typed;
+    bool ticked;
+    const char *shown;
+  };
+  const QString tick = QStringLiteral("IsModified");
+  const QString amount = QStringLiteral("Amount");
+  const std::vector<Case> cases = {{false, "None", {{tick, true}}, true, "(type a value)"},
+                                   {true, "(type a value)", {{tick, false}}, false, "None"},
+                                   {true, "20", {{tick, false}}, false, "20"},
+                                   {true, "20", {{amount, ""}}, true, "(type a value)"},
+                                   {true, "20", {{amount, "none"}}, true, "none"},
+                                   {false, "None", {{amount, "20"}}, true, "20"},
+                                   {true, "None", {{amount, "20"}}, true, "20"},
+                                   {false, "None", {{amount, ""}}, false, "None"}};
+  for (const Case &c : cases) {
+    GridRowEdit row(1, false, [&](const QString &field) {
+      return field == tick ? Value(c.tick) : Value(QString::fromLatin1(c.target));
+    });
+    for (auto typed = c.typed.begin(); typed != c.typed.end(); ++typed) row.Set(typed.key(), typed.value());
+    MatchTickAndTarget(row);
+    EXPECT_EQ(row.Get(tick).toBool(), c.ticked) << c.target;
+    EXPECT_EQ(row.Get(amount).toString(), c.shown) << c.target;
+  }
+  for (const char *fine : {"", "None", "(type a value)", "0", "1,5"})
+    EXPECT_EQ(RefusedTarget(fine, german), "") << fine;
+  for (const char *refused : {"lots", "-1", "12,3,4"}) EXPECT_NE(RefusedTarget(refused, german), "") << refused;
+}
+
 TEST(WizardNutrients, RecommendTheBandOfAgeAndGender) {
   const QDate today(2026, 3, 1);
   const std::vector<std::tuple<int, const char *, const char *>> bands = {
@@ -122,6 +174,14 @@ TEST(WizardNutrients, RefuseNoneAndMoreThanTen) {
   EXPECT_FALSE(CheckWizardNutrients(*session));
 }
 
+TEST(WizardNutrients, OfferEveryNutrientButTheCustomOnesAsTheMostImportant) {
+  TestSession session;
+  QStringList offered;
+  for (const OptionChoice &choice : WizardNutrientChoices(*session)) offered.append(QString::number(choice.value));
+  EXPECT_EQ(offered.size(), 30);
+  for (const char *left : {"0", "28", "32", "101"}) EXPECT_FALSE(offered.contains(left)) << left;
+}
+
 /// A file as it is shipped: nobody but the samples.
 void ForgetProfiles(TestSession &session) {
   session.Data().Execute("DELETE people.*, people.PersonID FROM people WHERE (people.PersonID > 0);");
@@ -150,6 +210,16 @@ TEST(WizardFinish, TheFirstRunWritesProfileWeightTargetsAndSelection) {
   EXPECT_EQ(session.ValueOf("NutrientID1", "selected_nutrients", "PersonID=1"), "15");
   EXPECT_EQ(session.ValueOf("NutDescription1", "selected_nutrients", "PersonID=1"), "Vit C");
   EXPECT_EQ(session->settings.NutrientID, 15);
+}
+
+TEST(WizardFinish, IsNeededWithoutGoalOrWeights) {
+  TestSession session;
+  EXPECT_TRUE(NeedsWizard(*session)) << "no weights yet";
+  session.Data().Execute(
+      "INSERT INTO weight_loss ( PersonID, ThisDate, ThisWeight, ThisLoss ) VALUES ( 1, #3/1/2026#, 180, 0 );");
+  EXPECT_FALSE(NeedsWizard(*session));
+  session.Data().Execute("UPDATE people SET Goal = \"\" WHERE (PersonID=1);");
+  EXPECT_TRUE(NeedsWizard(*session));
 }
 
 TEST(WizardFinish, AFurtherProfileLeavesTheSelectionAlone) {

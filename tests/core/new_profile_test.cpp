@@ -24,6 +24,10 @@ TEST(NewProfile, IsCheckedFieldByField) {
     return complaint ? complaint->title : QString();
   };
   EXPECT_EQ(titleOf({.PersonName = "  "}), "Name Required");
+  EXPECT_EQ(titleOf({.PersonName = "Bo", .HeightFeet = 5e9}), "Invalid Height");
+  EXPECT_EQ(titleOf({.PersonName = "Bo", .HeightInches = -1}), "Invalid Height");
+  EXPECT_EQ(titleOf({.PersonName = "Bo", .BirthDate = QDate(2026, 3, 2)}), "Invalid Birth Date");
+  EXPECT_EQ(titleOf({.PersonName = "Bo", .HeightFeet = 5, .BirthDate = QDate(2026, 3, 1)}), "");
   EXPECT_EQ(titleOf({.PersonName = "Bo"}), "") << "a Profile ID is asked for only with the administrator";
   session->BizEd = true;
   session.Data().Execute("UPDATE people SET UserID = \"Bo\" WHERE (PersonID=1);");

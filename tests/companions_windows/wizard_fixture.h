@@ -1,0 +1,98 @@
+#pragma once
+
+#include <gtest/gtest.h>
+
+#include <QApplication>
+#include <QLabel>
+#include <QLineEdit>
+#include <QTest>
+
+#include "companions/windows/frmWizard.h"
+#include "platform/recordset.h"
+#include "platform/windows/bound_grid.h"
+#include "support/test_session.h"
+#include "support/windows/controls.h"
+
+namespace trimlog {
+
+/// The keyboard of a modal window under test: everything goes to the control that has the focus.
+class Keyboard {
+ public:
+  explicit Keyboard(QWidget &window) : window_(window) {
+    QApplication::setActiveWindow(&window);
+    QCoreApplication::processEvents();
+  }
+
+  /// Key by key: the first may open the field that takes the rest.
+  void Type(const QString &text) {
+    for (const QChar character : text) {
+      ASSERT_NE(QApplication::focusWidget(), nullptr) << "nothing has the focus";
+      QTest::keyClick(QApplication::focusWidget(), character.toLatin1());
+    }
+  }
+  void Press(Qt::Key key, Qt::KeyboardModifiers modifiers = Qt::NoModifier) {
+    QWidget *focus = QApplication::focusWidget();
+    QTest::keyClick(focus ? focus : &window_, key, modifiers);
+    QCoreApplication::processEvents();
+  }
+  /// A button pressed by its access key stays down for a moment before it acts.
+  void Alt(Qt::Key key) {
+    Press(key, Qt::AltModifier);
+    QTest::qWait(150);
+  }
+  void Tab(int times = 1) {
+    while (times-- > 0) Press(Qt::Key_Tab);
+  }
+  void Enter() { Press(Qt::Key_Return); }
+  /// Types the entries, a Tab behind each but the last, and leaves the step with Enter.
+  void FillStep(const QStringList &entries) {
+    for (qsizetype i = 0; i < entries.size(); ++i) {
+      Type(entries[i]);
+      if (i + 1 < entries.size()) Tab();
+    }
+    Enter();
+  }
+  QString FocusName() const {
+    return QApplication::focusWidget() ? QApplication::focusWidget()->objectName() : QString();
+  }
+
+ private:
+  QWidget &window_;
+};
+
+/// A file as it is shipped, or with one profile; the wizard opened on it and driven by a test.
+class WizardTest : public testing::Test {
+ protected:
+  explicit WizardTest(const QLocale &locale = QLocale(QLocale::English, QLocale::UnitedStates)) : session(locale) {
+    navigator.LoadData = [this](const QString &personID) { loaded.append(personID); };
+  }
+
+  void ForgetProfiles() {
+    session.Data().Execute("DELETE people.*, people.PersonID FROM people WHERE (people.PersonID > 0);");
+  }
+  bool Run(const std::function<void(QWidget &wizard, Keyboard &keys)> &act, bool force = true) {
+    WhenModal([&act](QWidget &wizard) {
+      Keyboard keys(wizard);
+      act(wizard, keys);
+    });
+    return StartWiz(*session, navigator, force, nullptr);
+  }
+  static QString TextOf(QWidget &wizard, const char *name) {
+    return Find<QWidget>(wizard, QString::fromLatin1(name)).property("text").toString();
+  }
+  static QString Title(QWidget &wizard) { return TextOf(wizard, "lblTitle"); }
+  QString Person(const QString &field, int personID) {
+    return session.ValueOf(field, QStringLiteral("people"), QStringLiteral("PersonID=%1").arg(personID));
+  }
+  QString Count(const QString &table, const QString &where = QStringLiteral("1=1")) {
+    return session.Data()
+        .OpenRecordset(QStringLiteral("SELECT Count(*) AS N FROM %1 WHERE %2;").arg(table, where))
+        .Text(QStringLiteral("N"));
+  }
+
+  TestSession session;
+  Navigator navigator;
+  QStringList loaded;
+};
+
+}  // namespace trimlog
