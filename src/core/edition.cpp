@@ -1,5 +1,7 @@
 #include "core/edition.h"
 
+#include "core/product.h"
+
 namespace trimlog {
 
 namespace {
@@ -24,6 +26,13 @@ void LoadHandheldSettings(Session &session) {
 void LoadSeravaSetting(Session &session) {
   const QString stored = Stored(session, "Serava");
   session.SeravaEdition = !stored.isEmpty() && stored != QLatin1String("0");
+}
+
+QString ApplicationTitle(const Session &session) {
+  const QString ofGroup = session.BizEdLoginMode ? Stored(session, "BizTitle") : QString();
+  if (!ofGroup.isEmpty()) return ofGroup;
+  const QString name = session.SeravaEdition ? product::name + u' ' + product::seravaEdition : product::name;
+  return name + u' ' + product::version;
 }
 
 bool ActiveSyncOnExit(const Session &session) {

@@ -12,6 +12,9 @@ void LoadBizEdSettings(Session &session);
 void LoadHandheldSettings(Session &session);
 void LoadSeravaSetting(Session &session);
 
+/// "Trimlog Pro 2.7", the SERAVA edition's own, or the group's title where its members log in.
+QString ApplicationTitle(const Session &session);
+
 /// Whether the handheld's own program follows the exchange at exit; true unless the store says no.
 bool ActiveSyncOnExit(const Session &session);
 

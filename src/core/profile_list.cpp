@@ -16,12 +16,6 @@ constexpr int longestGoal = 50;
 constexpr double tallest = 300;  // centimetres beside no metres; feet, metres and inches stay far below
 constexpr int oldest = 150;      // years
 
-bool ProfileExists(Session &session, const QString &personID) {
-  return !GetDataValue(session.Data(), QStringLiteral("PersonID"), QStringLiteral("people"),
-                       QStringLiteral("((people.PersonID)=?)"), {}, {personID.toInt()})
-              .isEmpty();
-}
-
 QString FirstProfile(Session &session) {
   return GetDataValue(session.Data(), QStringLiteral("Min(people.PersonID) AS FirstID"), QStringLiteral("people"),
                       QStringLiteral("(people.PersonID > 0)"), QStringLiteral("FirstID"));

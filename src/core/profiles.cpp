@@ -104,6 +104,10 @@ FailureExit LoadDataFailure() {
           QStringLiteral("An error occurred while loading the data for this profile.")};
 }
 
+bool ProfileExists(Session &session, const QString &personID) {
+  return !PeopleValue(session, QStringLiteral("PersonID"), personID).isEmpty();
+}
+
 bool HasNoProfiles(Session &session) { return FillProfilesArray(session).isEmpty(); }
 
 bool ResetWeightLossData(Session &session) {

@@ -55,6 +55,7 @@ void ApplyProfile(Session &session, const RoomHooks &hooks, const QString &perso
 /// The exit of LoadData as a whole, for Guarded.
 FailureExit LoadDataFailure();
 
+bool ProfileExists(Session &session, const QString &personID);
 /// True when no ordinary profile exists yet: then a new one is made by the configuration wizard.
 bool HasNoProfiles(Session &session);
 

@@ -87,13 +87,18 @@ bool Application::QueryUnload() {
   if (session_.ReloadInProgress) return true;
   if (doors_.SaveOpenEdit && !doors_.SaveOpenEdit()) return false;
   GuardedQuietly([this] { StoreSession(); });
-  for (const QString &sample : {sampleProfile2, sampleProfile1}) {
-    GuardedQuietly([this, &sample] { ResetSampleProfile(session_, sample); });
-  }
+  ResetSamples();
+  if (session_.BizEd) ResetSamples();
   if (session_.HandheldSupport && hooks_.RunHandheldSync) {
     GuardedQuietly([this] { hooks_.RunHandheldSync(ActiveSyncOnExit(session_)); });
   }
   return true;
+}
+
+void Application::ResetSamples() {
+  for (const QString &sample : {sampleProfile2, sampleProfile1}) {
+    GuardedQuietly([this, &sample] { ResetSampleProfile(session_, sample); });
+  }
 }
 
 void Application::StoreSession() {

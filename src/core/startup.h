@@ -45,6 +45,7 @@ class Application {
   bool OpenDataFile();
   void EnterSession(bool &frameShown);
   void StoreSession();
+  void ResetSamples();
 
   Session &session_;
   const RoomHooks &hooks_;

@@ -227,6 +227,15 @@ TEST_F(Geometry, EditionFlags) {
     EXPECT_EQ(session.BizEdLoginMode, c.bizEd) << c.text;
     EXPECT_EQ(session.SeravaEdition, c.serava) << c.text;
   }
+  session.BizEdLoginMode = session.SeravaEdition = false;
+  Put("BizTitle", "Weight Club");
+  EXPECT_EQ(ApplicationTitle(session), QStringLiteral("Trimlog Pro 2.7"));
+  session.SeravaEdition = true;
+  EXPECT_EQ(ApplicationTitle(session), QStringLiteral("Trimlog Pro SERAVA Edition 2.7"));
+  session.BizEdLoginMode = true;
+  EXPECT_EQ(ApplicationTitle(session), QStringLiteral("Weight Club"));
+  Put("BizTitle", "");
+  EXPECT_EQ(ApplicationTitle(session), QStringLiteral("Trimlog Pro SERAVA Edition 2.7"));
   const QString handheld = settingsRoot + QStringLiteral("\\PPC");
   LoadHandheldSettings(session);
   EXPECT_FALSE(session.HandheldSupport);

@@ -1,4 +1,5 @@
 #include <QCloseEvent>
+#include <QDir>
 #include <QTest>
 
 #include "frame_fixture.h"
@@ -22,8 +23,10 @@ TEST_F(Frame, CannotRunWithoutItsDataFile) {
   session.boxes.Expect(QStringLiteral("Trimlog"), QStringLiteral("The program was unable to find the data file: "));
   Load();
   EXPECT_FALSE(loaded);
-  EXPECT_TRUE(
-      session.boxes.Shown()[0].text.endsWith(QStringLiteral("tlg.dat.  The program cannot start without this file.")));
+  EXPECT_EQ(session.boxes.Shown()[0].text,
+            QStringLiteral("The program was unable to find the data file: %1.  The program cannot start without this "
+                           "file.")
+                .arg(QDir::toNativeSeparators(session->DataFilePath())));
 }
 
 TEST_F(Frame, EachFormBringsItsMenus) {
@@ -234,6 +237,23 @@ TEST_F(Frame, WizardComesByItselfOnlyForTheFirstProfile) {
   session->CurrentPersonID = QStringLiteral("2");
   Load();
   EXPECT_EQ(runs.size(), 1);
+}
+
+TEST_F(Frame, NobodyIsLoadedForWhomNothingCouldBeSaved) {
+  session.Data().Execute(QStringLiteral("DELETE people.* FROM people WHERE (people.PersonID>0);"));
+  navigator.StartWiz = [](bool) { return false; };  // closed before its end
+  for (bool reload : {false, true}) {
+    session->CurrentPersonID = QStringLiteral("1");
+    session->ReloadInProgress = reload;
+    Load();
+    EXPECT_EQ(session->CurrentPersonID, QStringLiteral("-2"));
+    EXPECT_TRUE(ProfileEntry(QStringLiteral("Sample Profile 1"))->isChecked());
+    EXPECT_TRUE(Visible("mnuEditReset"));
+  }
+  session.boxes.Expect(QStringLiteral("Reset Weight Loss Data"), QStringLiteral("cannot get it back"), BoxButton::Yes);
+  session.boxes.Expect({}, QStringLiteral("All weight loss data has been deleted successfully."));
+  Choose("mnuEditOtherReset");
+  EXPECT_EQ(session->CurrentPersonID, QStringLiteral("-2"));
 }
 
 TEST_F(Frame, ResettingWeightsTakesProfileOnesWhicheverIsLoaded) {

@@ -92,7 +92,9 @@ std::vector<FrameCommand> FrameCommands(frmMDI &frame, Session &session, const N
       content("mnuEditGotoPrevious", &ContentWindow::GotoPreviousMonth),
       content("mnuEditGotoNext", &ContentWindow::GotoNextMonth),
       {"mnuEditOtherReset", "", {}, saved([&] {
-         if (ResetWeightLossData(session)) frame.LoadData(QStringLiteral("1"));
+         if (!ResetWeightLossData(session)) return;
+         const QString first = QStringLiteral("1");
+         frame.LoadData(ProfileExists(session, first) ? first : session.CurrentPersonID);
        })},
       {"mnuEditReset", "", {}, saved([&] {
          if (!AskResetSampleProfile(session)) return;

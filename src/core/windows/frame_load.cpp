@@ -1,7 +1,9 @@
 // The main window's way from nothing to the first screen.
 #include <QApplication>
+#include <QDir>
 #include <QFile>
 
+#include "core/edition.h"
 #include "core/failure_guard.h"
 #include "core/frame_data.h"
 #include "core/product.h"
@@ -18,7 +20,7 @@ bool frmMDI::MDIForm_Load() {
         QStringLiteral("Trimlog"),
         QStringLiteral("The program was unable to find the data file: %1.  The program cannot start "
                        "without this file.")
-            .arg(session_.programDirectory + QStringLiteral("\\tlg.dat")));
+            .arg(QDir::toNativeSeparators(session_.DataFilePath())));
     return false;
   }
   const FailureExit failure{QStringLiteral("frmMDI"), QStringLiteral("MDIForm_Load"),
@@ -57,9 +59,7 @@ bool frmMDI::MDIForm_Load() {
 }
 
 void frmMDI::SetTitle() {
-  const QString title = session_.SeravaEdition
-                            ? QStringLiteral("%1 %2 %3").arg(product::name, product::seravaEdition, product::version)
-                            : QStringLiteral("%1 %2").arg(product::name, product::version);
+  const QString title = ApplicationTitle(session_);
   QApplication::setApplicationDisplayName(title);
   setWindowTitle(title);
 }
@@ -85,8 +85,12 @@ void frmMDI::SignIn() {
 }
 
 void frmMDI::StartWizardIfNeeded() {
-  if (session_.ReloadInProgress || session_.CurrentPersonID.toInt() != 1 || !navigator_.StartWiz) return;
-  if (navigator_.StartWiz(false)) SwitchTo(session_.CurrentPersonID);
+  if (session_.CurrentPersonID.toInt() != 1) return;
+  if (!session_.ReloadInProgress && navigator_.StartWiz && navigator_.StartWiz(false)) {
+    SwitchTo(session_.CurrentPersonID);
+  } else if (!ProfileExists(session_, session_.CurrentPersonID)) {
+    SwitchTo(sampleProfile1);  // a wizard that was closed made nobody for whom anything could be saved
+  }
 }
 
 void frmMDI::ShowHandheldMenus() {
