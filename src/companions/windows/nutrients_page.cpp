@@ -111,7 +111,11 @@ void NutrientsPage::Enter(const WizardAnswers &answers) {
 
 QWidget *NutrientsPage::FirstField() const { return grdNutrients; }
 
-bool NutrientsPage::Check(const WizardAnswers &) { return grdNutrients->CommitRow() && CheckWizardNutrients(session_); }
+bool NutrientsPage::Check(const WizardAnswers &) {
+  if (grdNutrients->CommitRow()) return CheckWizardNutrients(session_);
+  grdNutrients->setFocus();
+  return false;
+}
 
 void NutrientsPage::UpdateNutrientCount() {
   GuardedQuietly([this] { lblNutrientCount->setText(WizardCountText(CountWizardNutrients(session_))); });

@@ -28,6 +28,7 @@ WizardBanner::WizardBanner(const QStringList &steps, QWidget *parent) : QWidget(
 
 void WizardBanner::ShowStep(int number) {
   current_ = number;
+  setAccessibleDescription(steps_[number - 1]);
   update();
 }
 
