@@ -286,6 +286,23 @@ TEST(FrmData, StoresWhatIsShownAtOnce) {
   EXPECT_EQ(stored("NutrientID"), "101");
 }
 
+// What the window announces itself must not make it read the month again: the next loss would lose its second decimal,
+// and every typed weight would cost another month.
+TEST(FrmData, ShowsWhatTypingAWeightComputed) {
+  Calendar c;
+  c.session->settings.UomID = 2;
+  c.session->settings.ShowLoss = true;
+  WeightLog(*c.session).Insert({QDate(2026, 2, 28), 90, 0});
+  WeightLog(*c.session).Insert({QDate(2026, 3, 3), 88, 2});
+  c.Open();
+  c.Type("89.35");
+  c.Press(Qt::Key_Tab);
+  EXPECT_EQ(c.Text("txtLoss(1)"), "0.7");
+  EXPECT_EQ(c.Text("txtLoss(3)"), "1.35");
+  EXPECT_EQ(c.Text("txtTotal(1)"), "2.05");
+  EXPECT_EQ(c.Text("txtTotalMonth"), "2.05");
+}
+
 TEST(FrmData, FollowsWhatOthersChangeAndKeepsWhatIsBeingTyped) {
   Calendar c;
   c.Open();

@@ -222,7 +222,7 @@ void frmData::DeleteWeight() {
 }
 
 void frmData::OnData(const DataChange &change) {
-  if (saving_ || (!change.personID.isEmpty() && change.personID != session_.CurrentPersonID)) return;
+  if (entry_->IsSaving() || (!change.personID.isEmpty() && change.personID != session_.CurrentPersonID)) return;
   if (change.table.isEmpty() || change.table == QStringLiteral("weight_loss")) {
     model_.Refresh();
   } else {

@@ -83,7 +83,6 @@ class frmData : public ContentWindow {
   MonthGrid *grid_ = nullptr;
   std::unique_ptr<WeightEntry> entry_;
   std::optional<RewardNotice> reward_;
-  bool saving_ = false;
   bool printing_ = false;
 };
 

@@ -62,13 +62,20 @@ bool WeightEntry::TryLeave() {
   if (PendingCell() == 0) return true;
   QLineEdit *field = grid_.Field(entered_);
   const QString text = field->text();
-  if (!model_.ValidateWeight(text) || !model_.SaveWeight(text)) {
+  if (!model_.ValidateWeight(text) || !Save(text)) {
     Refuse(field);
     return false;
   }
   field->setText(model_.EntryText());
   Q_EMIT Saved();
   return true;
+}
+
+bool WeightEntry::Save(const QString &text) {
+  saving_ = true;
+  const bool saved = model_.SaveWeight(text);
+  saving_ = false;
+  return saved;
 }
 
 void WeightEntry::Refuse(QLineEdit *field) {
