@@ -158,7 +158,7 @@ TEST_F(SetupWindow, EveryChoiceStoresItsOwnSetting) {
   }
   for (int type = 8; type >= 1; --type) {
     cases.append({SetupTab::Charts,
-                  QStringLiteral("optBodyType(%1)").arg(type),
+                  QStringLiteral("optBodyType(%1)").arg(type - 1),
                   {},
                   QStringLiteral("BodyMeasDefault"),
                   QString::number(type)});

@@ -84,8 +84,9 @@ frmPassword::frmPassword(Session &session, const QString &personID, bool atStart
 }
 
 void frmPassword::AddProfile(QFormLayout *fields) {
+  cboPassword = MakeProfileList(session_, personID_, this);
+  cboPassword->setVisible(atStartup_);
   if (atStartup_) {
-    cboPassword = MakeProfileList(session_, personID_, this);
     connect(cboPassword, &QComboBox::activated, this, [this] { txtPassword->clear(); });
     fields->addRow(QStringLiteral("&Profile:"), cboPassword);
     return;
@@ -96,14 +97,11 @@ void frmPassword::AddProfile(QFormLayout *fields) {
   fields->addRow(QStringLiteral("Profile:"), name);
 }
 
-QString frmPassword::SelectedPersonID() const {
-  return cboPassword ? cboPassword->currentData().toString() : personID_;
-}
+QString frmPassword::SelectedPersonID() const { return atStartup_ ? cboPassword->currentData().toString() : personID_; }
 
 bool frmPassword::event(QEvent *event) {
   // A profile without a password asks for nothing: its choice is the sign-in.
-  if (event->type() == QEvent::WindowActivate && cboPassword &&
-      StoredPassword(session_, SelectedPersonID()).isEmpty()) {
+  if (event->type() == QEvent::WindowActivate && atStartup_ && StoredPassword(session_, SelectedPersonID()).isEmpty()) {
     QTimer::singleShot(0, this, &frmPassword::OnOk);
   }
   return QDialog::event(event);

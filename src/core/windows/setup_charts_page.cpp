@@ -94,7 +94,7 @@ QWidget *SetupChartsPage::MakeBodyTypes() {
   optBodyType = new QButtonGroup(this);
   for (const OptionChoice &type : BodyTypes()) {
     auto *option = new QRadioButton(type.text, group);
-    option->setObjectName(QStringLiteral("optBodyType(%1)").arg(type.value));
+    option->setObjectName(QStringLiteral("optBodyType(%1)").arg(type.value - 1));
     optBodyType->addButton(option, type.value);
     layout->addWidget(option, (type.value - 1) / bodyTypesInARow, (type.value - 1) % bodyTypesInARow);
   }
