@@ -172,12 +172,18 @@ bool BoundGrid::Refresh() {
   return RunGuarded(GridAction::Load, [this] { KeepingPlace([this] { model_->Refresh(); }); });
 }
 
+// The cell that a person would begin with: the first that shows something.
+int BoundGrid::FirstColumn() const {
+  const GridColumns &columns = model_->Columns();
+  const auto first = std::find_if(columns.begin(), columns.end(),
+                                  [](const GridColumn &column) { return column.visible && !column.field.isEmpty(); });
+  return first == columns.end() ? 0 : static_cast<int>(first - columns.begin());
+}
+
 void BoundGrid::GoToFirstRow() {
   PrefetchVisible();
-  int column = 0;
-  while (column < model_->columnCount() && isColumnHidden(column)) ++column;
   if (model_->rowCount() > 0) {
-    selectionModel()->setCurrentIndex(model_->index(0, std::min(column, model_->columnCount() - 1)),
+    selectionModel()->setCurrentIndex(model_->index(0, FirstColumn()),
                                       QItemSelectionModel::ClearAndSelect | QItemSelectionModel::Rows);
     scrollToTop();
   }
@@ -289,9 +295,8 @@ bool BoundGrid::GoToKey(qint64 key, bool atTop) {
   if (!model_->IsOpen()) return false;
   const int row = model_->RowOfKey(key);
   if (row < 0) return false;
-  int column = std::max(0, currentIndex().column());
-  while (column < model_->columnCount() - 1 && isColumnHidden(column)) ++column;
-  const QModelIndex cell = model_->index(row, column);
+  const int column = currentIndex().column();
+  const QModelIndex cell = model_->index(row, column < 0 || isColumnHidden(column) ? FirstColumn() : column);
   selectionModel()->setCurrentIndex(cell, QItemSelectionModel::ClearAndSelect | QItemSelectionModel::Rows);
   scrollTo(cell, atTop ? QAbstractItemView::PositionAtTop : QAbstractItemView::EnsureVisible);
   return CurrentKey() == key;

@@ -106,6 +106,7 @@ class BoundGrid : public QTableView {
   Place TakePlace() const;
   void KeepingPlace(const std::function<void()> &work);
   void RestorePlace(const Place &place);
+  int FirstColumn() const;
   void GoToFirstRow();
   void TellCurrentRow();
   std::vector<int> MarkedRowNumbers() const;
