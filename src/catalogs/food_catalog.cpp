@@ -20,6 +20,16 @@ double StoredValue(const FoodRecord &food, const Nutrients &nutrients, int nutri
   return Val(Format(food.nutrients.OrZero(nutrientID), GetNutrientFormat(Definition(nutrients, nutrientID).fieldName)));
 }
 
+/// No description that this program stores holds a double quote; one that does came from elsewhere, and its copy would
+/// be a food that every other place writes differently.
+void RefuseDoubleQuotes(Session &session, int mealID) {
+  const QString description =
+      GetDataValue(session.Data(), QStringLiteral("MealDesc"), mealsList, QStringLiteral("MealID=%1").arg(mealID));
+  if (description.contains(QLatin1Char('"'))) {
+    throw Error(error_number::invalidSql, QStringLiteral("The description holds a double quote: ") + description);
+  }
+}
+
 QString CustomName(const Nutrients &nutrients, int nutrientID) {
   for (const SelectedNutrient &position : nutrients.SelectedNutrients) {
     if (position.NutrientID == nutrientID) return position.description;
@@ -80,6 +90,7 @@ void SaveFood(Session &session, const FoodRecord &food) {
 
 int CopyFood(Session &session, int mealID) {
   Transaction transaction(session.Data());
+  RefuseDoubleQuotes(session, mealID);
   const int newID = GetNextID(session.Data(), mealsList).toInt();
   QStringList fields;
   for (const NutrientDef &definition : session.nutrients.NutrientDefs) fields.append(definition.fieldName);
@@ -95,6 +106,7 @@ int CopyFood(Session &session, int mealID) {
 }
 
 std::vector<qint64> PasteFoods(Session &session, const QList<QVariantMap> &rows) {
+  Transaction transaction(session.Data());
   std::vector<qint64> keys;
   for (QVariantMap row : rows) {
     row[QStringLiteral("MealID")] = GetNextID(session.Data(), mealsList).toInt();
@@ -103,6 +115,8 @@ std::vector<qint64> PasteFoods(Session &session, const QList<QVariantMap> &rows)
     session.Data().Execute(insert.sql, insert.params);
     keys.push_back(row[QStringLiteral("MealID")].toLongLong());
   }
+  transaction.Commit();
+  session.changes.Announce({mealsList, {}, {}});
   return keys;
 }
 

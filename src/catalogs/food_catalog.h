@@ -32,11 +32,10 @@ int AddFood(Session &session, const FoodRecord &food);
 void SaveFood(Session &session, const FoodRecord &food);
 
 /// Copies a pre-loaded food to "My Foods": description, group and the 35 nutrients; serving, glycemic value and source
-/// key stay behind. Returns the new key. One transaction.
+/// key stay behind. Returns the new key. One transaction. Throws invalidSql for a description with a double quote.
 int CopyFood(Session &session, int mealID);
 
-/// Adds rows copied from a food grid to "My Foods", each under a key of its own; returns the keys. Runs in the caller's
-/// transaction.
+/// Adds rows copied from a food grid to "My Foods", each under a key of its own; returns the keys. One transaction.
 std::vector<qint64> PasteFoods(Session &session, const QList<QVariantMap> &rows);
 
 /// "Copy the following food: ... to your personal "My Foods" list?"

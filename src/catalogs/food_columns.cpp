@@ -32,13 +32,14 @@ QString CheckNetCarbs(const Value &value) {
   return QStringLiteral("Please enter a number from 0 to 32,767.");
 }
 
-GridColumn GroupColumn(Session &session) {
+GridColumn GroupColumn(Session &session, const QString &dropDown) {
   GridColumn column{.name = QStringLiteral("MealGroupID"),
                     .caption = QStringLiteral("Food Group"),
                     .field = QStringLiteral("MealGroupID"),
                     .type = GridType::Choice,
                     .width = 20,
-                    .editable = true};
+                    .editable = true,
+                    .dropDown = dropDown};
   for (const FoodChoice &group : FoodGroupChoices(session)) {
     if (group.key != allFoodGroups) column.choices.append({group.key, group.text});
   }
@@ -63,7 +64,7 @@ GridColumn HiddenColumn(const QString &field, GridType type) {
 
 }  // namespace
 
-GridColumns FoodColumns(Session &session) {
+GridColumns FoodColumns(Session &session, const QString &groupsDropDown) {
   GridColumns columns = {
       {.name = QStringLiteral("Qlt"), .width = 2},
       {.name = QStringLiteral("MealDesc"),
@@ -79,7 +80,7 @@ GridColumns FoodColumns(Session &session) {
        .width = 18,
        .editable = true,
        .maxLength = textLength},
-      GroupColumn(session),
+      GroupColumn(session, groupsDropDown),
       {.name = QStringLiteral("GIValue"),
        .caption = QStringLiteral("GI\nValue"),
        .field = QStringLiteral("GIValue"),
@@ -131,11 +132,11 @@ bool ConfirmDeleteFoods(Session &session, const std::vector<qint64> &keys) {
                            BoxButton::No);
 }
 
-FailureExit FoodGridFailure(GridAction action) {
+FailureExit FoodGridFailure(GridAction action, const QString &loadProcedure) {
   FailureExit exit{QStringLiteral("frmSetupFoods"), {}, {}, {}, true};
   switch (action) {
     case GridAction::Load:
-      exit.procedure = QStringLiteral("Form_Activate");
+      exit.procedure = loadProcedure;
       exit.title = QStringLiteral("Error Loading Setup Info");
       exit.text = QStringLiteral("An error occurred while loading your setup information.");
       exit.appendDescription = false;

@@ -11,8 +11,8 @@
 namespace trimlog {
 
 /// The columns of both food grids, with their checks: description, serving, group, glycemic value and the ten shown
-/// nutrients. A position that shows no nutrient is hidden.
-GridColumns FoodColumns(Session &session);
+/// nutrients. A position that shows no nutrient is hidden. `groupsDropDown` names the list of food groups in a cell.
+GridColumns FoodColumns(Session &session, const QString &groupsDropDown);
 
 /// Before a changed food is stored: it counts as modified from now on, double quotes leave its texts, and its nutrients
 /// are rounded to what is shown. Returns why the row is refused, or "".
@@ -24,7 +24,7 @@ bool IsPreLoadedFood(const std::function<Value(const QString &field)> &field);
 /// May these foods be deleted? Asks once, or says that pre-loaded foods stay.
 bool ConfirmDeleteFoods(Session &session, const std::vector<qint64> &keys);
 
-/// The failure exits of the food grids.
-FailureExit FoodGridFailure(GridAction action);
+/// The failure exits of the food grids; a failed reading is logged under `loadProcedure`.
+FailureExit FoodGridFailure(GridAction action, const QString &loadProcedure);
 
 }  // namespace trimlog

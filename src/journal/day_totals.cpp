@@ -56,8 +56,7 @@ CalorieSums ReadCalorieSums(Database &database, const QString &personID, const Q
 std::array<double, shownNutrients> SumDay(const DayRows &rows, const QDate &date, const QLocale &locale) {
   std::array<double, shownNutrients> sums{};
   const int current = rows.CurrentRow();
-  if (current < 0) return sums;
-  Add(sums, CellsOf(rows, current, locale));
+  if (current >= 0) Add(sums, CellsOf(rows, current, locale));
   for (int row = current - 1; row >= 0 && rows.DateOf(row) == date; --row) Add(sums, CellsOf(rows, row, locale));
   for (int row = current + 1; row < rows.RowCount() && rows.DateOf(row) == date; ++row) {
     Add(sums, CellsOf(rows, row, locale));

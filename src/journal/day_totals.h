@@ -37,7 +37,7 @@ struct CalorieSums {
 CalorieSums ReadCalorieSums(Database &database, const QString &personID, const QDate &date, EntryKind kind);
 
 /// The running sums of the ten shown cells over the rows of one day: from the current row up and down while the date
-/// holds.
+/// holds; from the first row down when no row is current.
 std::array<double, shownNutrients> SumDay(const DayRows &rows, const QDate &date, const QLocale &locale);
 
 /// The texts of the totals row. Percent positions are taken from `sums`, since shares do not add up; positions without

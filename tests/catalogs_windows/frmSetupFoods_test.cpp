@@ -3,6 +3,8 @@
 #include <QTabWidget>
 
 #include "catalogs/food_catalog.h"
+#include "catalogs/nutrient_selection.h"
+#include "core/windows/grid_menu.h"
 #include "food_windows_fixture.h"
 
 namespace trimlog {
@@ -32,6 +34,21 @@ class SetupFoodsTest : public FoodWindowTest {
     field.setText(words);
     QTest::keyClick(&field, Qt::Key_Return);
   }
+  /// Opens the grids' menu on a cell and runs a command of it.
+  void RunFromMenu(BoundGrid &grid, int row, const QString &column, const char *command) {
+    grid.setCurrentIndex(grid.Model().index(row, grid.Model().ColumnByName(column)));
+    Q_EMIT grid.MenuWanted({});
+    GridMenu &menu = *window.findChild<GridMenu *>();
+    menu.hide();
+    QAction *action = menu.findChild<QAction *>(QLatin1String(command));
+    ASSERT_TRUE(action && action->isEnabled()) << command;
+    action->trigger();
+  }
+  void ShowNutrient(std::size_t position, int nutrientID) {
+    NutrientSelection selection = ReadNutrientSelection(*session);
+    selection[position] = {nutrientID, QStringLiteral("New"), true, {}};
+    SaveNutrientSelection(*session, selection);
+  }
   bool Enabled(const QString &button) { return Find<QPushButton>(window, button).isEnabled(); }
 
   frmSetupFoods window{*session, navigator, nullptr};
@@ -39,6 +56,7 @@ class SetupFoodsTest : public FoodWindowTest {
 
 TEST_F(SetupFoodsTest, ListsSortsAndJumps) {
   EXPECT_EQ(List().Model().RecordCount(), 8791);
+  EXPECT_EQ(List().CurrentColumn(), "MealDesc") << "not the empty column before it";
   EXPECT_EQ(Find<QLabel>(window, "lblFoods").text(), "Food Description                        8791 Foods Displayed");
   Choose("cboMealGroups", 7);
   EXPECT_TRUE(List().isColumnHidden(List().Model().ColumnByName("MealGroupID")));
@@ -60,6 +78,74 @@ TEST_F(SetupFoodsTest, ListsSortsAndJumps) {
   EXPECT_EQ(Find<QPushButton>(window, "cmdAplha").text(), "A - Z  <<");
   Find<QAbstractButton>(window, "pshAplha(16)").click();
   EXPECT_TRUE(Name(List(), List().currentIndex().row()).startsWith("Q", Qt::CaseInsensitive));
+}
+
+TEST_F(SetupFoodsTest, ArrowKeysPassTheSeparators) {
+  QComboBox &sort = Find<QComboBox>(window, "cboSort");
+  QTest::keyClick(&sort, Qt::Key_Down);
+  EXPECT_EQ(sort.currentData(), "Calories");
+  EXPECT_EQ(ReadFood(*session, static_cast<int>(*List().Model().KeyOfRow(0))).nutrients.OrZero(1), 0);
+  QTest::keyClick(&sort, Qt::Key_Up);
+  EXPECT_EQ(sort.currentData(), "0");
+}
+
+TEST_F(SetupFoodsTest, ANutrientThatIsNotShownAnyMoreOrdersNothing) {
+  Choose("cboSort", "-Protein");
+  Search("cheddar");
+  EXPECT_TRUE(Found().SortBy("Nut9", true));  // protein
+  ShowNutrient(0, 7);
+  EXPECT_EQ(Find<QComboBox>(window, "cboSort").currentData(), "-Protein") << "still shown";
+  ShowNutrient(8, 12);
+  EXPECT_EQ(Find<QComboBox>(window, "cboSort").currentData(), "0");
+  EXPECT_EQ(Find<QComboBox>(window, "cboSort").findData("-Protein"), -1);
+  for (const BoundGrid *grid : {&List(), &Found()}) {
+    EXPECT_EQ(grid->Model().Source().order.first().field, "MealDesc");
+    EXPECT_EQ(grid->Model().headerData(grid->Model().ColumnByName("Nut9"), Qt::Horizontal).toString(), "New\n(mg)");
+  }
+  ShowNutrient(8, 0);
+  EXPECT_TRUE(List().isColumnHidden(List().Model().ColumnByName("Nut9")));
+}
+
+TEST_F(SetupFoodsTest, RowsOfOneGridArePastedIntoTheOther) {
+  Search("cheddar");
+  const QString name = Name(Found(), 1);
+  RunFromMenu(Found(), 1, "MealDesc", "mnuPM1CopyRowNormal");
+  Choose("cboRecordTypeMeals", 2);
+  AddOwn("Zzz");
+  RunFromMenu(List(), 0, "MealDesc", "mnuPM1PasteRow");
+  ASSERT_EQ(List().Model().RecordCount(), 2);
+  EXPECT_EQ(Name(List(), 0), name);
+  EXPECT_EQ(Find<QLabel>(window, "lblFoods").text().right(17), "2 Foods Displayed");
+  EXPECT_EQ(Found().Model().RecordCount(), 38) << "the search sees the new food too";
+
+  session->rowClipboard.kind = "datLinks";
+  session.boxes.Expect("Unable to Copy Data",
+                       "The data that was last copied was not of this type.  Please select and copy the corresponding "
+                       "data that you would like to paste first.");
+  RunFromMenu(List(), 0, "MealDesc", "mnuPM1PasteRow");
+  EXPECT_EQ(List().Model().RecordCount(), 2);
+}
+
+TEST_F(SetupFoodsTest, ADoubleQuoteInADescriptionBreaksTheCopy) {
+  session.Data().Execute("UPDATE meals_list SET MealDesc = ? WHERE (MealID=1);", {"A 5\" pie"});
+  List().Refresh();
+  List().GoToKey(1);
+  session.boxes.Expect("Copy Selected Food?", "", BoxButton::Yes);
+  session.boxes.Expect("Error Copying Food", "An error occurred while trying to copy this food.");
+  Click(window, "cmdCopyMeal");
+  EXPECT_EQ(session.ValueOf("MealID", "meals_list", "RecordTypeID=2"), "");
+}
+
+TEST_F(SetupFoodsTest, WithoutItsTablesTheWindowSaysSoAndCloses) {
+  session.Data().Execute("DROP TABLE meal_groups;");
+  session.boxes.Expect("Error Loading Setup Info", "An error occurred while loading your setup information.");
+  frmSetupFoods broken(*session, navigator, nullptr);
+  broken.show();
+  EXPECT_FALSE(Find<QPushButton>(broken, "cmdNewMeal").isEnabled());
+  Click(broken, "pnlFoodInfo");
+  EXPECT_EQ(helpTopics, QStringList{"68"});
+  Click(broken, "cmdOK");
+  EXPECT_FALSE(broken.isVisible());
 }
 
 TEST_F(SetupFoodsTest, RecentFoodsKnowNoGroups) {

@@ -165,6 +165,9 @@ TEST(DayTotals, SumTheRowsOfTheCurrentDayAndNoOthers) {
 
   rows.current = -1;
   EXPECT_EQ(TotalsRow(nutrients, SumDay(rows, today, english), {}, english)[0], "0");
+  rows.dates = std::vector<QDate>(6, today);
+  EXPECT_EQ(TotalsRow(nutrients, SumDay(rows, today, english), {}, english)[0], "13600")
+      << "on the row for new entries the day's rows still count";
 }
 
 TEST(DayTotals, SharesComeFromTheStoredSums) {

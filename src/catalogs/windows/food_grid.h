@@ -5,11 +5,18 @@
 
 namespace trimlog {
 
-/// A grid of foods with the columns, checks and questions that both tabs share. `objectName` is grdMealsList or
-/// grdMealsSearch.
-BoundGrid *MakeFoodGrid(const QString &objectName, const QString &label, Session &session, QWidget *parent);
+/// What tells the two food grids apart.
+struct FoodGridNames {
+  QString grid;           ///< grdMealsList or grdMealsSearch
+  QString label;          ///< what a screen reader says
+  QString dropDown;       ///< the list of food groups in a cell
+  QString loadProcedure;  ///< under which a failed reading is logged
+};
+
+/// A grid of foods with the columns, checks and questions that both tabs share.
+BoundGrid *MakeFoodGrid(const FoodGridNames &names, Session &session, QWidget *parent);
 
 /// Binds the ten nutrient columns to the nutrients shown now.
-void ShowSelectedNutrients(BoundGrid &grid, Session &session);
+void ShowSelectedNutrients(BoundGrid &grid, const FoodGridNames &names, Session &session);
 
 }  // namespace trimlog

@@ -1,7 +1,9 @@
 #include "catalogs/windows/food_list_page.h"
 
+#include <QAbstractItemView>
 #include <QComboBox>
 #include <QGridLayout>
+#include <QKeyEvent>
 #include <QLabel>
 #include <QPushButton>
 #include <QVBoxLayout>
@@ -13,6 +15,11 @@
 namespace trimlog {
 
 namespace {
+
+FoodGridNames ListGridNames() {
+  return {QStringLiteral("grdMealsList"), QStringLiteral("Foods"), QStringLiteral("ddnMealGroups"),
+          QStringLiteral("Form_Activate")};
+}
 
 QComboBox *AddCombo(QGridLayout *layout, int column, const QString &name, const QString &caption, QWidget *parent) {
   auto *label = new QLabel(caption, parent);
@@ -47,12 +54,13 @@ FoodListPage::FoodListPage(Session &session, QWidget *parent) : QWidget(parent),
   lblFoods = new QLabel(this);
   lblFoods->setObjectName(QStringLiteral("lblFoods"));
   layout->addWidget(lblFoods);
-  grdMealsList = MakeFoodGrid(QStringLiteral("grdMealsList"), QStringLiteral("Foods"), session_, this);
+  grdMealsList = MakeFoodGrid(ListGridNames(), session_, this);
   layout->addWidget(grdMealsList, 1);
 
   AddChoices();
   connect(cboRecordTypeMeals, &QComboBox::currentIndexChanged, this, &FoodListPage::FillList);
   connect(cboMealGroups, &QComboBox::currentIndexChanged, this, &FoodListPage::FillList);
+  cboSort->installEventFilter(this);
   connect(cboSort, &QComboBox::activated, this, &FoodListPage::OnSort);
   connect(cmdAplha, &QPushButton::clicked, this, &FoodListPage::OnAlphabet);
   connect(alphabet_, &AlphabetBar::LetterChosen, this, &FoodListPage::GoToLetter);
@@ -65,9 +73,28 @@ void FoodListPage::AddChoices() {
 }
 
 void FoodListPage::FillSorts() {
+  const QString chosen = cboSort->currentData().toString();
   cboSort->clear();
   for (const FoodSortChoice &sort : FoodSortChoices(session_.nutrients)) cboSort->addItem(sort.text, sort.key);
-  cboSort->setProperty("chosen", 0);
+  // A sort by a nutrient that is not shown any more gives way to the sort by name.
+  chosenSort_ = std::max(0, cboSort->findData(chosen));
+  cboSort->setCurrentIndex(chosenSort_);
+}
+
+bool FoodListPage::IsSeparator(int sort) const {
+  return FoodSortChoice{cboSort->itemData(sort).toString(), {}}.IsSeparator();
+}
+
+// The arrow keys step over the separators; choosing one with the mouse is ignored.
+bool FoodListPage::eventFilter(QObject *object, QEvent *event) {
+  if (object == cboSort && event->type() == QEvent::KeyPress && !cboSort->view()->isVisible()) {
+    const int key = static_cast<QKeyEvent *>(event)->key();
+    const int step = key == Qt::Key_Down ? 1 : key == Qt::Key_Up ? -1 : 0;
+    if (step != 0 && IsSeparator(cboSort->currentIndex() + step)) {
+      cboSort->setCurrentIndex(cboSort->currentIndex() + step);
+    }
+  }
+  return QWidget::eventFilter(object, event);
 }
 
 int FoodListPage::ChosenGroup() const { return std::max(0, cboMealGroups->currentData().toInt()); }
@@ -88,7 +115,7 @@ void FoodListPage::FillList() {
     return;
   }
   cboMealGroups->setEnabled(!recent);
-  const bool filled = Guarded(session_, FoodGridFailure(GridAction::Load), [&] {
+  const bool filled = Guarded(session_, FoodGridFailure(GridAction::Load, ListGridNames().loadProcedure), [&] {
     if (recent) FillRecentFoods(session_);
     grdMealsList->ShowColumn(QStringLiteral("MealGroupID"), ChosenGroup() == 0);
   });
@@ -106,18 +133,17 @@ void FoodListPage::UpdateHeading() {
 }
 
 void FoodListPage::NutrientsChanged() {
-  ShowSelectedNutrients(*grdMealsList, session_);
+  ShowSelectedNutrients(*grdMealsList, ListGridNames(), session_);
   FillSorts();
   FillList();
 }
 
 void FoodListPage::OnSort(int index) {
-  const QString key = cboSort->itemData(index).toString();
-  if (FoodSortChoice{key, {}}.IsSeparator()) {
-    cboSort->setCurrentIndex(cboSort->property("chosen").toInt());
+  if (IsSeparator(index)) {
+    cboSort->setCurrentIndex(chosenSort_);
     return;
   }
-  cboSort->setProperty("chosen", index);
+  chosenSort_ = index;
   FillList();
 }
 

@@ -29,9 +29,13 @@ class FoodListPage : public QWidget {
   void NutrientsChanged();
   void UpdateHeading();
 
+ protected:
+  bool eventFilter(QObject *object, QEvent *event) override;
+
  private:
   void AddChoices();
   void FillSorts();
+  bool IsSeparator(int sort) const;
   void OnSort(int index);
   void OnAlphabet();
   void GoToLetter(QChar letter);
@@ -45,6 +49,7 @@ class FoodListPage : public QWidget {
   AlphabetBar *alphabet_;
   QLabel *lblFoods;
   BoundGrid *grdMealsList;
+  int chosenSort_ = 0;
 };
 
 }  // namespace trimlog

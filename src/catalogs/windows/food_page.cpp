@@ -5,6 +5,7 @@
 #include <QGridLayout>
 #include <QLabel>
 #include <QPushButton>
+#include <QScreen>
 #include <QScrollArea>
 #include <QVBoxLayout>
 
@@ -74,8 +75,9 @@ void FoodPage::Build() {
   grid->setHorizontalSpacing(10);
   AddNutrients(grid);
   scroll->setWidget(panel);
-  scroll->setMinimumWidth(panel->sizeHint().width() + 24);
-  scroll->setMinimumHeight(std::min(panel->sizeHint().height() + 4, 420));
+  // All fields in sight where the screen has room for them; the rest of the dialog takes about the margin.
+  const QSize room = screen()->availableSize() - QSize(60, 300);
+  scroll->setMinimumSize((panel->sizeHint() + QSize(24, 4)).boundedTo(room));
   layout->addWidget(scroll, 1);
   AddCommands(layout);
   if (!IsNew()) ShowFood();

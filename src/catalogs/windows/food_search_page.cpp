@@ -14,6 +14,11 @@ namespace trimlog {
 
 namespace {
 
+FoodGridNames SearchGridNames() {
+  return {QStringLiteral("grdMealsSearch"), QStringLiteral("Foods found"), QStringLiteral("ddnMealGroupsSearch"),
+          QStringLiteral("cmdFindFirst_Click")};
+}
+
 /// The wait cursor, for as long as it lives.
 class WaitCursor {
  public:
@@ -42,7 +47,7 @@ FoodSearchPage::FoodSearchPage(Session &session, QWidget *parent) : QWidget(pare
   lblFoodsFound = new QLabel(FoodsFoundHeading(0), this);
   lblFoodsFound->setObjectName(QStringLiteral("lblFoodsFound"));
   layout->addWidget(lblFoodsFound);
-  grdMealsSearch = MakeFoodGrid(QStringLiteral("grdMealsSearch"), QStringLiteral("Foods found"), session_, this);
+  grdMealsSearch = MakeFoodGrid(SearchGridNames(), session_, this);
   layout->addWidget(grdMealsSearch, 1);
   setFocusProxy(txtFind);
 
@@ -66,8 +71,9 @@ void FoodSearchPage::UpdateHeading() {
 }
 
 void FoodSearchPage::NutrientsChanged() {
-  ShowSelectedNutrients(*grdMealsSearch, session_);
-  grdMealsSearch->Refresh();
+  ShowSelectedNutrients(*grdMealsSearch, SearchGridNames(), session_);
+  // A column that is not shown any more orders nothing: the foods stand by their names again.
+  grdMealsSearch->SetSource(FoodSearchSource(searched_), true);
 }
 
 }  // namespace trimlog

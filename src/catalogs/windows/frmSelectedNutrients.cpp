@@ -93,8 +93,7 @@ void frmSelectedNutrients::ShowSelection(const NutrientSelection &selection) {
 
 void frmSelectedNutrients::OnChosen(int position) {
   PositionRow &row = Row(position);
-  const NutrientChoice &choice = choices_.at(row.cboNutrient->currentIndex());
-  row.txtNutrient->setText(choice.NutrientID == 0 ? QString() : choice.shortDescription);
+  row.txtNutrient->setText(choices_.at(row.cboNutrient->currentIndex()).shortDescription);
 }
 
 NutrientSelection frmSelectedNutrients::Chosen() const {

@@ -2,6 +2,7 @@
 
 #include <QHBoxLayout>
 #include <QPushButton>
+#include <QScreen>
 #include <QTabWidget>
 #include <QVBoxLayout>
 
@@ -12,6 +13,7 @@
 #include "catalogs/windows/food_search_page.h"
 #include "core/failure_guard.h"
 #include "core/windows/add_rec_page.h"
+#include "core/windows/grid_menu.h"
 #include "platform/windows/bound_grid.h"
 #include "platform/windows/grid_printer.h"
 
@@ -46,52 +48,75 @@ frmSetupFoods::frmSetupFoods(Session &session, const Navigator &navigator, QWidg
   layout->addLayout(buttons);
   AddButtons(buttons);
 
-  Guarded(session_, LoadFailure(), [&] {
+  // As many nutrients side by side as the screen has room for.
+  resize(QSize(1120, 640).boundedTo(screen()->availableSize() * 9 / 10));
+  const bool loaded = Guarded(session_, LoadFailure(), [&] {
     listPage_ = new FoodListPage(session_, SSTab1);
     searchPage_ = new FoodSearchPage(session_, SSTab1);
     SSTab1->addTab(listPage_, QStringLiteral("Foods by Group/List   "));
     SSTab1->addTab(searchPage_, QStringLiteral("  Find Food by Name Search    "));
-    ConnectGrid(listPage_->Grid());
-    ConnectGrid(searchPage_->Grid());
+    auto *gridMenu = new GridMenu(session_, navigator_, this);
+    for (BoundGrid *grid : {listPage_->Grid(), searchPage_->Grid()}) {
+      ConnectGrid(grid);
+      gridMenu->Attach(*grid);
+    }
     listPage_->FillList();
   });
+  if (!loaded) {
+    for (QPushButton *button : {cmdNewMeal, cmdDeleteMeal, cmdCopyMeal, cmdAllNutrients, cmdPrintMeals}) {
+      button->setEnabled(false);
+    }
+    return;
+  }
   ConnectButtons();
   connect(SSTab1, &QTabWidget::currentChanged, this, &frmSetupFoods::OnTabChanged);
   connect(&session_.changes, &DataChanges::Changed, this, &frmSetupFoods::OnChanged);
-  resize(sizeHint().expandedTo({860, 520}));
   listPage_->Grid()->setFocus();
   UpdateRowState();
 }
 
 QPushButton *frmSetupFoods::AddButton(QVBoxLayout *layout, const QString &name, const QString &caption,
-                                      const QString &tip) {
+                                      const QString &tip, Qt::Key key) {
   auto *button = new QPushButton(caption, this);
   button->setObjectName(name);
   button->setToolTip(tip);
+  if (key != Qt::Key_unknown) {
+    // The captions carry no access key of their own.
+    button->setShortcut(Qt::ALT | key);
+    button->setToolTip(tip + QStringLiteral(" (%1)").arg(button->shortcut().toString(QKeySequence::NativeText)));
+  }
   button->setAutoDefault(false);  // Enter belongs to the grid and to the search
   layout->addWidget(button);
   return button;
 }
 
 void frmSetupFoods::AddButtons(QVBoxLayout *layout) {
-  cmdNewMeal = AddButton(layout, QStringLiteral("cmdNewMeal"), QStringLiteral("&New"),
-                         QStringLiteral("Adds a food of your own."));
-  cmdDeleteMeal = AddButton(layout, QStringLiteral("cmdDeleteMeal"), QStringLiteral("&Delete"),
-                            QStringLiteral("Deletes the marked foods and their journal entries."));
-  cmdCopyMeal = AddButton(layout, QStringLiteral("cmdCopyMeal"), QStringLiteral("&Copy Food"),
-                          QStringLiteral("Copies a pre-loaded food to My Foods, where you can change it."));
-  cmdAllNutrients = AddButton(layout, QStringLiteral("cmdAllNutrients"), QStringLiteral("&All Nutrients..."),
-                              QStringLiteral("Shows all 35 nutrients of the food."));
-  cmdPrintMeals = AddButton(layout, QStringLiteral("cmdPrintMeals"), QStringLiteral("&Print Foods"),
-                            QStringLiteral("Prints the foods listed here."));
-  cmdRecipes = AddButton(layout, QStringLiteral("cmdRecipes"), QStringLiteral("&Recipes..."), {});
+  cmdNewMeal = AddButton(layout, QStringLiteral("cmdNewMeal"), QStringLiteral("New"),
+                         QStringLiteral("Adds a food of your own."), Qt::Key_N);
+  cmdDeleteMeal = AddButton(layout, QStringLiteral("cmdDeleteMeal"), QStringLiteral("Delete"),
+                            QStringLiteral("Deletes the marked foods and their journal entries."), Qt::Key_D);
+  cmdCopyMeal = AddButton(layout, QStringLiteral("cmdCopyMeal"), QStringLiteral("Copy Food"),
+                          QStringLiteral("Copies a pre-loaded food to My Foods, where you can change it."), Qt::Key_C);
+  cmdAllNutrients = AddButton(layout, QStringLiteral("cmdAllNutrients"), QStringLiteral("All Nutrients..."),
+                              QStringLiteral("Shows all 35 nutrients of the food."), Qt::Key_A);
+  cmdPrintMeals = AddButton(layout, QStringLiteral("cmdPrintMeals"), QStringLiteral("Print Foods"),
+                            QStringLiteral("Prints the foods listed here."), Qt::Key_P);
+  cmdRecipes = AddButton(layout, QStringLiteral("cmdRecipes"), QStringLiteral("Recipes..."),
+                         QStringLiteral("Opens your recipes."), Qt::Key_R);
   layout->addStretch();
+  pnlFoodInfo = AddButton(layout, QStringLiteral("pnlFoodInfo"), QStringLiteral("Food Info..."),
+                          QStringLiteral("Tells where the foods and their nutrients come from."), Qt::Key_F);
   cmdTipsFoods = AddButton(layout, QStringLiteral("cmdTipsFoods"), QStringLiteral("&Tips..."), {});
   cmdHelp = AddButton(layout, QStringLiteral("cmdHelp"), QStringLiteral("&Help"), {});
   cmdOK = AddButton(layout, QStringLiteral("cmdOK"), QStringLiteral("&OK"), {});
   cmdRecipes->setEnabled(static_cast<bool>(navigator_.OpenRecipes));
-  cmdTipsFoods->setEnabled(static_cast<bool>(navigator_.ShowHelp));
-  cmdHelp->setEnabled(static_cast<bool>(navigator_.ShowHelp));
+  for (QPushButton *help : {pnlFoodInfo, cmdTipsFoods, cmdHelp}) {
+    help->setEnabled(static_cast<bool>(navigator_.ShowHelp));
+  }
+  connect(cmdOK, &QPushButton::clicked, this, &frmSetupFoods::accept);
+  connect(pnlFoodInfo, &QPushButton::clicked, this, [this] { navigator_.ShowHelp(QStringLiteral("68")); });
+  connect(cmdTipsFoods, &QPushButton::clicked, this, [this] { navigator_.ShowHelp(QStringLiteral("tips_foods")); });
+  connect(cmdHelp, &QPushButton::clicked, this, [this] { navigator_.ShowHelp(QStringLiteral("foods")); });
 }
 
 void frmSetupFoods::ConnectGrid(BoundGrid *grid) {
@@ -106,9 +131,6 @@ void frmSetupFoods::ConnectButtons() {
   connect(cmdAllNutrients, &QPushButton::clicked, this, &frmSetupFoods::OnAllNutrients);
   connect(cmdPrintMeals, &QPushButton::clicked, this, &frmSetupFoods::OnPrint);
   connect(cmdRecipes, &QPushButton::clicked, this, [this] { navigator_.OpenRecipes(this); });
-  connect(cmdTipsFoods, &QPushButton::clicked, this, [this] { navigator_.ShowHelp(QStringLiteral("tips_foods")); });
-  connect(cmdHelp, &QPushButton::clicked, this, [this] { navigator_.ShowHelp(QStringLiteral("foods")); });
-  connect(cmdOK, &QPushButton::clicked, this, &frmSetupFoods::accept);
 }
 
 bool frmSetupFoods::OnSearchTab() const { return SSTab1->currentWidget() == searchPage_; }
@@ -193,7 +215,10 @@ void frmSetupFoods::OnChanged(const DataChange &change) {
 }
 
 void frmSetupFoods::done(int result) {
-  if (listPage_->Grid()->CommitRow() && searchPage_->Grid()->CommitRow()) QDialog::done(result);
+  for (BoundGrid *grid : findChildren<BoundGrid *>()) {
+    if (!grid->CommitRow()) return;
+  }
+  QDialog::done(result);
 }
 
 }  // namespace trimlog

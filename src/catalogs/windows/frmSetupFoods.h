@@ -26,7 +26,8 @@ class frmSetupFoods : public QDialog {
   void done(int result) override;
 
  private:
-  QPushButton *AddButton(QVBoxLayout *layout, const QString &name, const QString &caption, const QString &tip);
+  QPushButton *AddButton(QVBoxLayout *layout, const QString &name, const QString &caption, const QString &tip,
+                         Qt::Key key = Qt::Key_unknown);
   void AddButtons(QVBoxLayout *layout);
   void ConnectGrid(BoundGrid *grid);
   void ConnectButtons();
@@ -45,14 +46,15 @@ class frmSetupFoods : public QDialog {
   Session &session_;
   const Navigator &navigator_;
   QTabWidget *SSTab1;
-  FoodListPage *listPage_;
-  FoodSearchPage *searchPage_;
+  FoodListPage *listPage_ = nullptr;
+  FoodSearchPage *searchPage_ = nullptr;
   QPushButton *cmdNewMeal = nullptr;
   QPushButton *cmdDeleteMeal = nullptr;
   QPushButton *cmdCopyMeal = nullptr;
   QPushButton *cmdAllNutrients = nullptr;
   QPushButton *cmdPrintMeals = nullptr;
   QPushButton *cmdRecipes = nullptr;
+  QPushButton *pnlFoodInfo = nullptr;
   QPushButton *cmdTipsFoods = nullptr;
   QPushButton *cmdHelp = nullptr;
   QPushButton *cmdOK = nullptr;
