@@ -17,6 +17,7 @@ namespace trimlog {
 BodyFatPage::BodyFatPage(Session &session, const ToolsProfile &profile, QWidget *parent)
     : QWidget(parent), session_(session), profile_(profile) {
   setObjectName(QStringLiteral("pnlBodyFat"));
+  GreyDisabledLabels(this);
   auto *layout = new QVBoxLayout(this);
   AddHeading(layout, QStringLiteral("lblBodyFatTitle"), QStringLiteral("Estimating Your Percentage of Body Fat"));
   AddInputs(layout);
@@ -65,6 +66,7 @@ void BodyFatPage::AddInputs(QLayout *layout) {
   for (const QRadioButton *option :
        {optBodyFatCurrentWeight, optBodyFatGoalWeight, optBodyFatCurrentWaist, optBodyFatOtherWaist}) {
     connect(option, &QRadioButton::toggled, this, &BodyFatPage::StartOver);
+    connect(option, &QRadioButton::clicked, this, &BodyFatPage::StartOver);  // also the one that is chosen already
   }
   connect(txtBodyFatGoal, &QLineEdit::textChanged, this, &BodyFatPage::StartOver);
   connect(txtBodyFatWaist, &QLineEdit::textChanged, this, &BodyFatPage::StartOver);

@@ -29,13 +29,15 @@ QLabel *KeepPlaceWhenHidden(QLabel *label) {
 CaloricNeedsPage::CaloricNeedsPage(Session &session, const ToolsProfile &profile, QWidget *parent)
     : QWidget(parent), session_(session), profile_(profile) {
   setObjectName(QStringLiteral("pnlBMR"));
+  GreyDisabledLabels(this);
   auto *layout = new QVBoxLayout(this);
   AddHeading(layout, QStringLiteral("lblBMRTitle"), QStringLiteral("Estimating Your Caloric Needs:"));
   AddInputs(layout);
   AddResults(layout);
   chart_ = new ActivityChart(ToolColours(session_), this);
   layout->addWidget(chart_);
-  pnlBMRSummary = AddResultText(layout, QStringLiteral("pnlBMRSummary"), QStringLiteral("Summary"), 6);
+  pnlBMRSummary =
+      KeepPlaceWhenHidden(AddResultText(layout, QStringLiteral("pnlBMRSummary"), QStringLiteral("Summary"), 6));
   connect(chart_, &ActivityChart::ChoiceMade, this, &CaloricNeedsPage::UpdateBMRSummary);
   SetToolFields();
   ClearBMRResults();
@@ -74,6 +76,7 @@ void CaloricNeedsPage::AddInputs(QLayout *layout) {
   optBMRCurrentAge->setChecked(true);
   for (const QRadioButton *option : {optBMRCurrentWeight, optBMRGoalWeight, optBMRCurrentAge, optBMROtherAge}) {
     connect(option, &QRadioButton::toggled, this, &CaloricNeedsPage::StartOver);
+    connect(option, &QRadioButton::clicked, this, &CaloricNeedsPage::StartOver);  // also the one that is chosen already
   }
   connect(txtBMRAge, &QLineEdit::textChanged, this, &CaloricNeedsPage::ClearBMRResults);
   connect(txtBMRGoal, &QLineEdit::textChanged, this, &CaloricNeedsPage::ClearBMRResults);
@@ -152,6 +155,7 @@ void CaloricNeedsPage::Calculate() {
 
 void CaloricNeedsPage::UpdateBMRSummary() {
   const int chosen = chart_->Chosen();
+  pnlBMRSummary->setVisible(chosen >= 0);
   pnlBMRSummary->setText(chosen < 0 ? QString() : SummarizeCaloricNeeds(needs_, chosen, optBMRGoalWeight->isChecked()));
 }
 

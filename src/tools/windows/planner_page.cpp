@@ -44,6 +44,19 @@ PlannerPage::PlannerPage(Session &session, const ToolsProfile &profile, QWidget 
   ConnectPrompts();
 }
 
+namespace {
+
+/// Holds what the profile has stored; nobody sees it.
+QLabel *AddCarrier(QWidget *panel, const QString &name) {
+  auto *carrier = new QLabel(panel);
+  carrier->setObjectName(name);
+  carrier->setTextFormat(Qt::PlainText);
+  carrier->hide();
+  return carrier;
+}
+
+}  // namespace
+
 QFrame *PlannerPage::AddStep(QLayout *layout, const QString &name, const QString &caption) {
   auto *panel = new QFrame(this);
   panel->setObjectName(name);
@@ -60,6 +73,7 @@ void PlannerPage::AddGoalStep(QLayout *layout) {
   QLabel *question = AddLabel(row, QStringLiteral("Label1"), QStringLiteral("What is your desired goal weight?"));
   txtGoal = AddNumber(row, QStringLiteral("txtGoal"), question->text(), session_.locale);
   question->setBuddy(txtGoal);
+  txtGoal1 = AddCarrier(panel, QStringLiteral("txtGoal1"));
   lblGoalUOM = AddLabel(row, QStringLiteral("lblGoalUOM"), session_.UomDisplay);
   row->addStretch();
   checks_[0] =
@@ -94,6 +108,7 @@ void PlannerPage::AddMethodStep(QLayout *layout) {
   dateRow->addStretch();
   checks_[2] = new LeaveCheck(txtGoalMethodDate, session_.boxes,
                               [this](const QString &text) { return CheckGoalMethodDate(text, session_.locale); });
+  txtGoalMethod = AddCarrier(panel, QStringLiteral("txtGoalMethod"));
   GroupOptions(panel, {optGoalLbs, optGoalDate});
   AlignOptions({optGoalLbs, optGoalDate});
   optGoalDate->setChecked(true);
@@ -147,7 +162,8 @@ void PlannerPage::ShowWeights() {
 }
 
 void PlannerPage::ShowStoredPlan() {
-  txtGoal->setText(profile_.Goal);
+  txtGoal1->setText(profile_.Goal);
+  txtGoal->setText(txtGoal1->text());
   txtGoalMethodLbsWeek->setText(profile_.GoalMethodLbsWeek);
   txtGoalMethodDate->SetDate(profile_.GoalMethodDate);
   (profile_.method == GoalMethod::ByRate ? optGoalLbs : optGoalDate)->setChecked(true);
@@ -173,6 +189,7 @@ GoalMethod PlannerPage::Method() const { return optGoalLbs->isChecked() ? GoalMe
 
 void PlannerPage::SetToolFields() {
   const bool byRate = Method() == GoalMethod::ByRate;
+  txtGoalMethod->setText(QString::number(static_cast<int>(Method())));
   txtGoalMethodLbsWeek->setEnabled(byRate);
   lblGoalMethodLbsWeek2->setEnabled(byRate);
   txtGoalMethodDate->setEnabled(!byRate);

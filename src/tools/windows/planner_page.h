@@ -59,8 +59,10 @@ class PlannerPage : public QWidget {
   const ToolsProfile &profile_;
   std::array<QFrame *, 4> stepPanels_{};  ///< goal, method, start, result
   int highlighted_ = 0;
+  QLabel *txtGoal1 = nullptr;
   NumberField *txtGoal = nullptr;
   QLabel *lblGoalUOM = nullptr;
+  QLabel *txtGoalMethod = nullptr;
   QRadioButton *optGoalLbs = nullptr;
   NumberField *txtGoalMethodLbsWeek = nullptr;
   QLabel *lblGoalMethodLbsWeek2 = nullptr;

@@ -15,6 +15,10 @@ std::array<QColor, 3> ToolColours(const Session &session) {
 
 void PaintToolPanel(QWidget *panel, const QColor &background) {
   PaintPanel(panel, BgrFromColor(background));
+  GreyDisabledLabels(panel);
+}
+
+void GreyDisabledLabels(QWidget *panel) {
   QPalette palette = panel->palette();
   palette.setColor(QPalette::Disabled, QPalette::WindowText, QColor(0x80, 0x80, 0x80));
   panel->setPalette(palette);

@@ -17,4 +17,7 @@ bool FewColours(const Session &session);
 /// Gives a panel its colour, text that reads well on it, and grey for what is disabled.
 void PaintToolPanel(QWidget *panel, const QColor &background);
 
+/// Disabled labels on the panel are grey, whatever shade the desktop has for them.
+void GreyDisabledLabels(QWidget *panel);
+
 }  // namespace trimlog
