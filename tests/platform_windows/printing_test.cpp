@@ -114,6 +114,15 @@ TEST(ListPrinting, EveryRowStandsOnceUnderRepeatedCaptions) {
   EXPECT_TRUE(all.endsWith(QStringLiteral("|Daily Totals|12|34")));
 }
 
+TEST(ListPrinting, APrintMadeSmallerBreaksNoWord) {
+  RecordingOutput output;
+  QueuedBoxes boxes;
+  ASSERT_TRUE(PrintList(Words(5, 14, QStringLiteral("Bread")), boxes, nullptr, &output));
+  for (int column = 0; column < 14; ++column) {
+    EXPECT_TRUE(output.TextOf(0).contains(QStringLiteral("|Caption%1|").arg(column))) << output.TextOf(0).toStdString();
+  }
+}
+
 TEST(ListPrinting, NothingIsCutOff) {
   struct Case {
     const char *what;

@@ -118,12 +118,15 @@ void ListDocument::FitColumns(double available) {
   }
 }
 
+// The gap shrinks with the print, so that what fitted before fits after.
+double ListDocument::TextWidth(size_t column) const { return widths_[column] - gap * bodySize_ / ordinarySize; }
+
 ListDocument::Lines ListDocument::RowLines(int row) const {
   const QFont font = BodyFont(IsClosing(row));
   const QFontMetricsF metrics(font);
   Lines lines;
   for (size_t column = 0; column < widths_.size(); ++column) {
-    lines.push_back(Wrap(CellText(row, static_cast<int>(column)), widths_[column] - gap, font, metrics));
+    lines.push_back(Wrap(CellText(row, static_cast<int>(column)), TextWidth(column), font, metrics));
   }
   return lines;
 }
@@ -133,7 +136,7 @@ ListDocument::Lines ListDocument::CaptionLines() const {
   const QFontMetricsF metrics(font);
   Lines lines;
   for (size_t column = 0; column < widths_.size(); ++column) {
-    lines.push_back(Wrap(list_.columns[column].caption, widths_[column] - gap, font, metrics));
+    lines.push_back(Wrap(list_.columns[column].caption, TextWidth(column), font, metrics));
   }
   return lines;
 }
@@ -180,7 +183,7 @@ void ListDocument::DrawLine(QPainter &painter, const Lines &lines, int line, dou
   painter.setFont(BodyFont(bold));
   double left = 0;
   for (size_t column = 0; column < widths_.size(); ++column) {
-    const QRectF place(left, top, widths_[column] - gap, LineHeight());
+    const QRectF place(left, top, TextWidth(column), LineHeight());
     const Qt::Alignment side = list_.columns[column].toTheRight ? Qt::AlignRight : Qt::AlignLeft;
     painter.drawText(place, static_cast<int>(side | Qt::AlignVCenter) | Qt::TextSingleLine | Qt::TextDontClip,
                      lines[column].value(line));

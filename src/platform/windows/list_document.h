@@ -45,6 +45,7 @@ class ListDocument final : public PagedDocument {
 
   std::vector<double> WishedWidths();
   void FitColumns(double available);
+  double TextWidth(size_t column) const;
   int RowCount() const { return list_.rows + static_cast<int>(list_.closing.size()); }
   QString CellText(int row, int column) const;
   bool IsClosing(int row) const { return row >= list_.rows; }
