@@ -201,7 +201,8 @@ void PlannerPage::HighlightStep(Step step) {
   if (highlighted_ == step) return;
   highlighted_ = step;
   const QColor accent = ColorFromBgr(session_.BackColor);
-  const QColor plain = palette().color(QPalette::Base);
+  // On a dark desktop fields and options are drawn in the base colour and would vanish on it.
+  const QColor plain = palette().color(IsDark(palette()) ? QPalette::Button : QPalette::Base);
   constexpr std::array<Step, 4> stepOfPanel = {GoalStep, MethodStep, MethodStep, ResultStep};
   for (size_t i = 0; i < stepPanels_.size(); ++i) {
     PaintToolPanel(stepPanels_[i], stepOfPanel[i] == step ? accent : plain);
