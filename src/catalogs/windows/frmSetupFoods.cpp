@@ -215,8 +215,12 @@ void frmSetupFoods::OnChanged(const DataChange &change) {
 }
 
 void frmSetupFoods::done(int result) {
-  for (BoundGrid *grid : findChildren<BoundGrid *>()) {
-    if (!grid->CommitRow()) return;
+  for (QWidget *page : {static_cast<QWidget *>(listPage_), static_cast<QWidget *>(searchPage_)}) {
+    BoundGrid *grid = page ? page->findChild<BoundGrid *>() : nullptr;
+    if (!grid || grid->CommitRow()) continue;
+    SSTab1->setCurrentWidget(page);
+    grid->setFocus();  // there stands what was refused; Esc takes it back
+    return;
   }
   QDialog::done(result);
 }
