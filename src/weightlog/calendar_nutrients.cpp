@@ -91,8 +91,8 @@ std::map<QDate, QString> NetCaloriesTexts(const Session &session, const QDate &f
 
 }  // namespace
 
-std::vector<NutrientChoice> CalendarNutrientChoices(const Nutrients &nutrients) {
-  std::vector<NutrientChoice> choices{{caloriesID, QStringLiteral("Calories Consumed (kcal)")},
+std::vector<CalendarNutrient> CalendarNutrientChoices(const Nutrients &nutrients) {
+  std::vector<CalendarNutrient> choices{{caloriesID, QStringLiteral("Calories Consumed (kcal)")},
                                       {caloriesBurnedID, QStringLiteral("Calories Burned (kcal)")},
                                       {netCaloriesID, QStringLiteral("Net Calories (kcal)")}};
   for (int id = caloriesID + 1; id <= nutrientCount; ++id) {

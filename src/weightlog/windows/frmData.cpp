@@ -147,7 +147,7 @@ QWidget *frmData::MakeFooter() {
 }
 
 void frmData::FillNutrients() {
-  for (const NutrientChoice &choice : CalendarNutrientChoices(session_.nutrients)) {
+  for (const CalendarNutrient &choice : CalendarNutrientChoices(session_.nutrients)) {
     cboNutrientID->addItem(choice.description, choice.NutrientID);
   }
 }

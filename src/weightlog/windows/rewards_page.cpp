@@ -32,16 +32,16 @@ QWidget *RewardsPage::MakeRuleGroup() {
   fraRewards->setObjectName(QStringLiteral("fraRewards"));
   auto *grid = new QGridLayout(fraRewards);
   options_ = new QButtonGroup(this);
-  auto *never = new QRadioButton(QStringLiteral("Ne&ver"), fraRewards);
+  auto *never = new QRadioButton(QStringLiteral("Never"), fraRewards);
   never->setObjectName(QStringLiteral("optRewardNone"));
   options_->addButton(never, static_cast<int>(RewardType::Never));
   grid->addWidget(never, 0, 0);
-  daily_ = AddAmount(grid, RewardType::Daily, QStringLiteral("RewardDaily"), QStringLiteral("Dail&y, if I Lose:"),
+  daily_ = AddAmount(grid, RewardType::Daily, QStringLiteral("RewardDaily"), QStringLiteral("Daily, if I Lose:"),
                      QStringLiteral("Loss since the last weigh-in"));
-  weekly_ = AddAmount(grid, RewardType::Weekly, QStringLiteral("RewardWeekly"), QStringLiteral("&Weekly, if I Lose:"),
+  weekly_ = AddAmount(grid, RewardType::Weekly, QStringLiteral("RewardWeekly"), QStringLiteral("Weekly, if I Lose:"),
                       QStringLiteral("Loss of the week"));
   weight_ = AddAmount(grid, RewardType::PersonalWeight, QStringLiteral("RewardWeight"),
-                      QStringLiteral("When I Reach the &Following Weight:"), QStringLiteral("Weight to reach"));
+                      QStringLiteral("When I Reach the Following Weight:"), QStringLiteral("Weight to reach"));
   grid->setColumnStretch(3, 1);
   connect(options_, &QButtonGroup::idClicked, this, [this](int type) { OnChosen(static_cast<RewardType>(type)); });
   return fraRewards;
