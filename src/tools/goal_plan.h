@@ -15,7 +15,7 @@ struct GoalQuestion {
   GoalMethod method = GoalMethod::ByDate;
   QString rate;                      ///< weight a week; counts for ByRate
   QString date;                      ///< counts for ByDate
-  std::optional<WeightEntry> start;  ///< none: no weight is recorded
+  std::optional<DatedWeight> start;  ///< none: no weight is recorded
 };
 
 /// The planner's answer: by which date at this rate, or at which rate by this date, and the index of the goal.

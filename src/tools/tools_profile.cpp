@@ -13,7 +13,7 @@ QString StoredNumberText(const QString &stored, const QLocale &locale) {
   return value ? NumberText(*value, locale) : stored;
 }
 
-QString WeightCaption(const QString &caption, const std::optional<WeightEntry> &entry, const QString &UomDisplay,
+QString WeightCaption(const QString &caption, const std::optional<DatedWeight> &entry, const QString &UomDisplay,
                       const QLocale &locale) {
   if (!entry) return caption;
   return caption + QStringLiteral(" of ") + NumberText(entry->ThisWeight, locale) + QLatin1Char(' ') + UomDisplay;
@@ -36,7 +36,7 @@ void ReadWeights(ToolsProfile &profile, const Session &session) {
       {session.CurrentPersonID.toInt()});
   if (weights.Eof()) return;
   const auto entry = [&weights] {
-    return WeightEntry{weights.Field(QStringLiteral("ThisDate")).toDate(),
+    return DatedWeight{weights.Field(QStringLiteral("ThisDate")).toDate(),
                        weights.Number(QStringLiteral("ThisWeight"))};
   };
   profile.initialWeight = entry();

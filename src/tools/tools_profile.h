@@ -10,7 +10,7 @@
 
 namespace trimlog {
 
-struct WeightEntry {
+struct DatedWeight {
   QDate ThisDate;
   double ThisWeight = 0;  ///< in the unit in force when it was typed
 };
@@ -24,8 +24,8 @@ struct ToolsProfile {
   GoalMethod method = GoalMethod::ByDate;
   QDate GoalMethodDate;                      ///< invalid: none stored
   QString GoalMethodLbsWeek;                 ///< in the locale's form; empty: none stored
-  std::optional<WeightEntry> initialWeight;  ///< the earliest; none: no weight is recorded
-  std::optional<WeightEntry> currentWeight;  ///< the latest
+  std::optional<DatedWeight> initialWeight;  ///< the earliest; none: no weight is recorded
+  std::optional<DatedWeight> currentWeight;  ///< the latest
   std::optional<double> LatestWaist;         ///< of the latest measurements; none: no measurement, or no waist in it
 };
 ToolsProfile ReadToolsProfile(const Session &session);

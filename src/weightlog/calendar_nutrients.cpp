@@ -93,8 +93,8 @@ std::map<QDate, QString> NetCaloriesTexts(const Session &session, const QDate &f
 
 std::vector<CalendarNutrient> CalendarNutrientChoices(const Nutrients &nutrients) {
   std::vector<CalendarNutrient> choices{{caloriesID, QStringLiteral("Calories Consumed (kcal)")},
-                                      {caloriesBurnedID, QStringLiteral("Calories Burned (kcal)")},
-                                      {netCaloriesID, QStringLiteral("Net Calories (kcal)")}};
+                                        {caloriesBurnedID, QStringLiteral("Calories Burned (kcal)")},
+                                        {netCaloriesID, QStringLiteral("Net Calories (kcal)")}};
   for (int id = caloriesID + 1; id <= nutrientCount; ++id) {
     const QString description = Description(nutrients, id);
     if (!description.isEmpty()) choices.push_back({id, description});

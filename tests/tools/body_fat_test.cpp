@@ -43,7 +43,7 @@ TEST(BodyFatBarPlace, FollowsThePercentageAndStaysOnTheBar) {
 BodyFatAssessment Assess(double weight, double waist, int gender, double feet, double inches) {
   ToolsProfile profile;
   profile.body = {gender, {}, feet, inches};
-  profile.currentWeight = WeightEntry{QDate(2026, 2, 10), weight};
+  profile.currentWeight = DatedWeight{QDate(2026, 2, 10), weight};
   profile.LatestWaist = waist;
   return AssessBodyFat({}, profile, 1, QStringLiteral("Lbs"), us);
 }

@@ -13,7 +13,7 @@ const QDate today(2026, 3, 1);
 ToolsProfile Woman() {
   ToolsProfile profile;
   profile.body = {2, QDate(1990, 6, 1), 5, 6};
-  profile.currentWeight = WeightEntry{QDate(2026, 2, 10), 150};
+  profile.currentWeight = DatedWeight{QDate(2026, 2, 10), 150};
   return profile;
 }
 

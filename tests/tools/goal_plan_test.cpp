@@ -9,13 +9,13 @@ const QLocale us(QLocale::English, QLocale::UnitedStates);
 const QLocale german(QLocale::German, QLocale::Germany);
 const BodyProfile tall{2, QDate(1990, 1, 1), 5, 6};     // 5 feet 6
 const BodyProfile metric{2, QDate(1990, 1, 1), 1, 70};  // 1.70 m
-const WeightEntry start{QDate(2026, 2, 2), 170};        // a Monday
+const DatedWeight start{QDate(2026, 2, 2), 170};        // a Monday
 
-GoalPlan ByRate(const char *goal, const char *rate, const std::optional<WeightEntry> &from = start) {
+GoalPlan ByRate(const char *goal, const char *rate, const std::optional<DatedWeight> &from = start) {
   return PlanGoal({QString::fromLatin1(goal), GoalMethod::ByRate, QString::fromLatin1(rate), {}, from}, tall, 1,
                   QStringLiteral("Lbs"), us);
 }
-GoalPlan ByDate(const char *goal, const char *date, const std::optional<WeightEntry> &from = start) {
+GoalPlan ByDate(const char *goal, const char *date, const std::optional<DatedWeight> &from = start) {
   return PlanGoal({QString::fromLatin1(goal), GoalMethod::ByDate, {}, QString::fromLatin1(date), from}, tall, 1,
                   QStringLiteral("Lbs"), us);
 }
@@ -69,7 +69,7 @@ TEST(GoalPlanner, ADateGivesTheRateByCalendarWeeks) {
         << c.goal << " by " << c.date;
   }
   // From a Saturday to the next day is one week.
-  EXPECT_EQ(MethodPart(ByDate("150", "2/8/2026", WeightEntry{QDate(2026, 2, 7), 170})),
+  EXPECT_EQ(MethodPart(ByDate("150", "2/8/2026", DatedWeight{QDate(2026, 2, 7), 170})),
             "In order to reach your goal weight by 2/8/2026, you will need to lose 20.0 lbs/week.");
 }
 
@@ -100,7 +100,7 @@ TEST(GoalPlanner, JudgesTheGoalByItsIndex) {
 
 TEST(GoalPlanner, SpeaksMetricAndTheLocalesOwnNumbers) {
   const GoalPlan plan = PlanGoal(
-      {QStringLiteral("72,5"), GoalMethod::ByRate, QStringLiteral("0,5"), {}, WeightEntry{QDate(2026, 2, 2), 77.5}},
+      {QStringLiteral("72,5"), GoalMethod::ByRate, QStringLiteral("0,5"), {}, DatedWeight{QDate(2026, 2, 2), 77.5}},
       metric, 2, QStringLiteral("Kg"), german);
   // 5 kg at 0.5 kg are 10 weeks; 72.5 / 2.89 = 25.09; 21 and 23 x 2.89 = 60.69 and 66.47
   EXPECT_EQ(

@@ -96,13 +96,13 @@ TEST_F(CalendarNutrients, HiddenFiguresAreNotReadAndAnUnknownNutrientShowsNothin
 }
 
 TEST_F(CalendarNutrients, ChoicesNameEachFigureOnce) {
-  const std::vector<NutrientChoice> choices = CalendarNutrientChoices(calendar.session->nutrients);
+  const std::vector<CalendarNutrient> choices = CalendarNutrientChoices(calendar.session->nutrients);
   ASSERT_GT(choices.size(), 30U);
   EXPECT_EQ(choices[0].description, QStringLiteral("Calories Consumed (kcal)"));
   EXPECT_EQ(choices[1].NutrientID, caloriesBurnedID);
   EXPECT_EQ(choices[2].description, QStringLiteral("Net Calories (kcal)"));
   std::map<int, int> times;
-  for (const NutrientChoice &choice : choices) {
+  for (const CalendarNutrient &choice : choices) {
     EXPECT_FALSE(choice.description.isEmpty());
     EXPECT_EQ(++times[choice.NutrientID], 1) << choice.NutrientID;
   }
