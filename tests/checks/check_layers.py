@@ -44,6 +44,18 @@ def faults(root):
                 yield f"{at}: a window holds SQL"
 
 
+def shared_names(root):
+    """Types of one name in two headers: the linker would take one's members for the other's."""
+    homes = {}
+    for path in sorted((root / "src").rglob("*.h")):
+        for name in re.findall(r"^(?:class|struct|enum class) (\w+)[^;{]*\{", path.read_text("utf-8"), re.M):
+            homes.setdefault(name, []).append(str(path.relative_to(root)))
+    for name, headers in homes.items():
+        # Database::Internals and the like are told apart by their first word only.
+        if len(headers) > 1 and not any(header.endswith("_internals.h") for header in headers):
+            yield f"{' and '.join(headers)}: both define {name}"
+
+
 def linked_widgets(root, build):
     """Logic targets whose compile commands see the Qt Widgets headers."""
     commands = json.loads((build / "compile_commands.json").read_text())
@@ -56,7 +68,7 @@ def linked_widgets(root, build):
 
 def main():
     root, build = pathlib.Path(sys.argv[1]), pathlib.Path(sys.argv[2])
-    found = list(faults(root)) + sorted(set(linked_widgets(root, build)))
+    found = list(faults(root)) + list(shared_names(root)) + sorted(set(linked_widgets(root, build)))
     print("\n".join(found) or "The layers hold.")
     return 1 if found else 0
 
