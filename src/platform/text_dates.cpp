@@ -168,11 +168,13 @@ QDate ParseDate(const QString &text, const QLocale &locale) {
   const TypedPart &c = parts[2];
   if (a.digits > 2) return MakeDate(a, b, c);
   if (a.digits == 0) return MakeDate(c, a, b);  // March 1, 2026
-  if (b.digits == 0 && PartOrder(locale).startsWith(u'y')) return MakeDate(a, b, c);
-  if (b.digits == 0) return MakeDate(c, b, a);  // 1. März 2026
   const QString order = PartOrder(locale);
   // A whole year at the end rules out an order that begins with it.
-  const QString used = order.startsWith(u'y') && c.digits > 2 ? QStringLiteral("dmy") : order;
+  const bool yearFirst = order.startsWith(u'y') && c.digits <= 2;
+  if (b.digits == 0) return yearFirst ? MakeDate(a, b, c) : MakeDate(c, b, a);  // 26 March 1, 1. März 2026
+  // A machine without a locale writes its dates in the American order.
+  const QString yearLast = locale.language() == QLocale::C ? QStringLiteral("mdy") : QStringLiteral("dmy");
+  const QString used = order.startsWith(u'y') && !yearFirst ? yearLast : order;
   return MakeDate(parts[used.indexOf(u'y')], parts[used.indexOf(u'm')], parts[used.indexOf(u'd')]);
 }
 

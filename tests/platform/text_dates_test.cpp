@@ -92,6 +92,10 @@ TEST(ParseDate, TypedForms) {
       {"1/1/30", us, QDate(1930, 1, 1)},
       {"1/1/0100", us, QDate(100, 1, 1)},
       {"2/29/2024", us, QDate(2024, 2, 29)},
+      {"1 Mar 2026", QLocale::c(), day},
+      {"3/1/2026", QLocale::c(), day},
+      {"1/3/2026", swedish, day},
+      {"26-03-01", swedish, day},
   };
   for (const Case &c : cases) EXPECT_EQ(ParseDate(QString::fromUtf8(c.text), c.locale), c.date) << c.text;
 }
