@@ -1,6 +1,7 @@
 // The food catalog beside bare SQLite, with the shipped foods and with ten times as many. At the end stand the ratios,
 // with the limit that each should keep.
 #include <benchmark/benchmark.h>
+#include <malloc.h>
 #include <sqlite3.h>
 
 #include <QApplication>
@@ -9,6 +10,7 @@
 #include <QLineEdit>
 #include <QTabWidget>
 #include <QTemporaryDir>
+#include <QTest>
 #include <cstdio>
 #include <map>
 
@@ -17,6 +19,7 @@
 #include "core/navigator.h"
 #include "core/nutrients.h"
 #include "platform/grid_model.h"
+#include "platform/windows/bound_grid.h"
 #include "ratio_reporter.h"
 #include "support/test_session.h"
 
@@ -153,6 +156,41 @@ BENCHMARK(SortShippedBare)->Unit(benchmark::kMillisecond);
 BENCHMARK(SortTenTimes)->Unit(benchmark::kMillisecond);
 BENCHMARK(SortTenTimesBare)->Unit(benchmark::kMillisecond);
 
+// ---- Memory: a food costs its key and its place in the scroll bar until it is seen
+
+double Megabytes() { return static_cast<double>(mallinfo2().uordblks + mallinfo2().hblkhd) / 1e6; }
+
+struct WindowMemory {
+  double opened = 0;
+  double scrolled = 0;  ///< after 50 pages of the list
+};
+
+WindowMemory MemoryOf(Size size) {
+  Catalog &catalog = Of(size);
+  const double before = Megabytes();
+  frmSetupFoods window(*catalog.session, catalog.navigator, nullptr);
+  window.show();
+  BoundGrid &grid = *window.findChild<BoundGrid *>(QStringLiteral("grdMealsList"));
+  while (!grid.Model().AllKeysLoaded()) QApplication::processEvents(QEventLoop::AllEvents, 20);
+  WindowMemory memory{Megabytes() - before, 0};
+  for (int page = 0; page < 50; ++page) QTest::keyClick(&grid, Qt::Key_PageDown);
+  memory.scrolled = Megabytes() - before;
+  return memory;
+}
+
+bool PrintMemory() {
+  MemoryOf(Size::Ten);  // fonts and styles, once
+  const WindowMemory ten = MemoryOf(Size::Ten), shipped = MemoryOf(Size::Shipped), tenTimes = MemoryOf(Size::TenTimes);
+  std::printf("\nthe open window, megabytes: ten foods %.1f; 8,791 foods %.1f; 87,910 foods %.1f\n", ten.opened,
+              shipped.opened, tenTimes.opened);
+  std::printf("after 50 pages: 8,791 foods %.1f; 87,910 foods %.1f\n", shipped.scrolled, tenTimes.scrolled);
+  const double bytesPerFood = (tenTimes.opened - shipped.opened) * 1e6 / (87910 - 8791);
+  constexpr double most = 32;
+  std::printf("a food that was not seen takes %.0f bytes (at most %.0f)%s\n", bytesPerFood, most,
+              bytesPerFood > most ? "  EXCEEDED" : "");
+  return bytesPerFood <= most;
+}
+
 }  // namespace
 
 int main(int count, char **arguments) {
@@ -167,5 +205,6 @@ int main(int count, char **arguments) {
       {"sort by protein, 87,910 foods / the bare ORDER BY", "SortTenTimes", "SortTenTimesBare", 1.5},
   });
   benchmark::RunSpecifiedBenchmarks(&reporter);
-  return reporter.PrintRatios() ? 0 : 1;
+  const bool ratiosKept = reporter.PrintRatios();
+  return PrintMemory() && ratiosKept ? 0 : 1;
 }

@@ -52,8 +52,9 @@ class Call {
     if (sqlite3_value_type(values_[i]) != SQLITE_TEXT) return {};
     const auto *text = reinterpret_cast<const char *>(sqlite3_value_text(values_[i]));
     const std::string_view bytes(text, static_cast<std::size_t>(sqlite3_value_bytes(values_[i])));
-    const bool ascii = std::none_of(bytes.begin(), bytes.end(), [](char c) { return c & 0x80; });
-    return ascii ? std::optional(bytes) : std::nullopt;
+    unsigned char all = 0;  // one pass without a way out is many letters at a time
+    for (const char c : bytes) all |= static_cast<unsigned char>(c);
+    return all < 0x80 ? std::optional(bytes) : std::nullopt;
   }
   void AnswerBytes(std::string_view bytes) {
     sqlite3_result_text64(context_, bytes.data(), bytes.size(), SQLITE_TRANSIENT, SQLITE_UTF8);
@@ -61,11 +62,15 @@ class Call {
   double Number(int i) const {
     return ToStored(Value(i), {ColumnType::Double, 0}, QStringLiteral("a function")).toDouble();
   }
-  qint64 Whole(int i) const { return static_cast<qint64>(std::nearbyint(Number(i))); }
+  qint64 Whole(int i) const {
+    if (sqlite3_value_type(values_[i]) == SQLITE_INTEGER) return sqlite3_value_int64(values_[i]);
+    return static_cast<qint64>(std::nearbyint(Number(i)));
+  }
   QDate Date(int i) const {
     return QDate::fromString(ToStored(Value(i), {ColumnType::Date, 0}, QStringLiteral("a function")).toString(),
                              Qt::ISODate);
   }
+  void AnswerWhole(qint64 number) { sqlite3_result_int64(context_, number); }
   void Answer(const QVariant &value) {
     const QVariant bound = ToBound(value);
     switch (bound.typeId()) {
@@ -122,7 +127,7 @@ void InStr(Call &call) {
     const auto found = std::search(ascii->begin() + (start - 1), ascii->end(), sought->begin(), sought->end(),
                                    [](char a, char b) { return AsciiLower(a) == AsciiLower(b); });
     const bool none = found == ascii->end() && !sought->empty();
-    return call.Answer(none ? 0 : static_cast<int>(found - ascii->begin()) + 1);
+    return call.AnswerWhole(none ? 0 : found - ascii->begin() + 1);
   }
   const QString text = call.Text(first);
   if (start > text.size()) return call.Answer(0);
