@@ -76,8 +76,8 @@ void PlannerPage::AddGoalStep(QLayout *layout) {
   txtGoal1 = AddCarrier(panel, QStringLiteral("txtGoal1"));
   lblGoalUOM = AddLabel(row, QStringLiteral("lblGoalUOM"), session_.UomDisplay);
   row->addStretch();
-  checks_[0] =
-      new LeaveCheck(txtGoal, session_.boxes, [this](const QString &text) { return CheckGoal(text, session_.locale); });
+  checks_[0] = new LeaveCheck(txtGoal, session_.boxes,
+                              [&session = session_](const QString &text) { return CheckGoal(text, session.locale); });
   txtGoal->installEventFilter(this);
 }
 
@@ -93,8 +93,9 @@ void PlannerPage::AddMethodStep(QLayout *layout) {
   lblGoalMethodLbsWeek2 = AddLabel(rateRow, QStringLiteral("lblGoalMethodLbsWeek2"), perWeek);
   lblGoalMethodLbsWeek2->setBuddy(txtGoalMethodLbsWeek);
   rateRow->addStretch();
-  checks_[1] = new LeaveCheck(txtGoalMethodLbsWeek, session_.boxes,
-                              [this](const QString &text) { return CheckGoalMethodRate(text, session_.locale); });
+  checks_[1] = new LeaveCheck(txtGoalMethodLbsWeek, session_.boxes, [&session = session_](const QString &text) {
+    return CheckGoalMethodRate(text, session.locale);
+  });
 
   QHBoxLayout *dateRow = AddRow(panel->layout());
   optGoalDate = AddOption(dateRow, QStringLiteral("optGoalDate"), QStringLiteral("By This Date"));
@@ -106,8 +107,9 @@ void PlannerPage::AddMethodStep(QLayout *layout) {
   cmdCalendar = AttachCalendar(session_, *txtGoalMethodDate, QStringLiteral("cmdCalendar"));
   dateRow->addWidget(cmdCalendar);
   dateRow->addStretch();
-  checks_[2] = new LeaveCheck(txtGoalMethodDate, session_.boxes,
-                              [this](const QString &text) { return CheckGoalMethodDate(text, session_.locale); });
+  checks_[2] = new LeaveCheck(txtGoalMethodDate, session_.boxes, [&session = session_](const QString &text) {
+    return CheckGoalMethodDate(text, session.locale);
+  });
   txtGoalMethod = AddCarrier(panel, QStringLiteral("txtGoalMethod"));
   GroupOptions(panel, {optGoalLbs, optGoalDate});
   AlignOptions({optGoalLbs, optGoalDate});
