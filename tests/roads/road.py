@@ -1,13 +1,34 @@
 """A person at the keyboard: starts the built program in a real window under Xvfb, types, takes pictures, quits, and looks
-at the data file afterwards. Nothing here knows the program's insides."""
+at the data file afterwards. Nothing here knows the program's insides.
+
+A road is a script that ends with `road.walk(function)`: the function gets an installation of its own, and the program
+directory and the folder of shipped files come from the command line."""
+import configparser
+import datetime
 import os
 import pathlib
 import shutil
 import signal
 import sqlite3
 import subprocess
+import sys
 import tempfile
 import time
+
+NOT_POSSIBLE_HERE = 77
+ROAD_SECONDS = 120
+TOOLS = ("Xvfb", "openbox", "xdotool", "import", "compare")
+
+
+def until(condition, seconds=15, pause=0.05):
+    """Waits for the condition and gives its value, or None when the time is over."""
+    end = time.monotonic() + seconds
+    while time.monotonic() < end:
+        value = condition()
+        if value:
+            return value
+        time.sleep(pause)
+    return None
 
 
 class Screen:
@@ -24,7 +45,12 @@ class Screen:
         self.environment = {"DISPLAY": self.display, "PATH": os.environ["PATH"], "QT_QPA_PLATFORM": "xcb"}
         self.manager = subprocess.Popen(["openbox", "--sm-disable"], env=self.environment | {"HOME": tempfile.gettempdir()},
                                         stdout=subprocess.DEVNULL, stderr=subprocess.DEVNULL)
-        time.sleep(0.5)
+        if not until(self._managed):
+            raise AssertionError("the window manager did not start")
+
+    def _managed(self):
+        # xdotool asks the manager for the number of desktops; without one the answer is an error.
+        return subprocess.run(["xdotool", "get_num_desktops"], env=self.environment, capture_output=True).returncode == 0
 
     def close(self):
         for process in (self.manager, self.server):
@@ -39,7 +65,8 @@ class Trimlog:
         self.screen = screen
         self.folder = pathlib.Path(tempfile.mkdtemp(prefix="trimlog-road-"))
         self.program_directory = self.folder / "app"
-        shutil.copytree(app_directory, self.program_directory, ignore=shutil.ignore_patterns("tlg.dat", "errorlog.txt"))
+        shutil.copytree(app_directory, self.program_directory,
+                        ignore=shutil.ignore_patterns("tlg.dat*", "errorlog.txt", ".*"))
         shutil.copy(pathlib.Path(shipped_directory) / "tlg.dat", self.program_directory / "tlg.dat")
         os.chmod(self.program_directory / "tlg.dat", 0o644)
         home = self.folder / "home"
@@ -48,45 +75,94 @@ class Trimlog:
             "HOME": str(home), "XDG_CONFIG_HOME": str(home / ".config"), "XDG_RUNTIME_DIR": str(self.folder),
             "LC_ALL": locale, "QT_ACCESSIBILITY": "0"}
         self.process = None
+        self.keystrokes = 0
+
+    def add_person(self, name="Ann", goal="150", weights=()):
+        """An ordinary profile without the wizard, with weights as (date, weight); the program must not be running."""
+        with self._open("rw") as file:
+            file.execute("INSERT INTO rewards (PersonID, RewardType) VALUES (1, 0)")  # no window comes in between
+            file.execute("INSERT INTO people (PersonID, PersonName, Goal, GoalMethodID, GoalMethodLbsWeek, BirthDate, "
+                         "HeightFeet, HeightInches, GenderID, BackColor, NutTargetID) "
+                         "VALUES (1, ?, ?, 1, 1.5, '1980-01-01', 5, 5, 2, 16769216, 30)", (name, goal))
+            before = None
+            for date, weight in weights:
+                file.execute("INSERT INTO weight_loss VALUES (1, ?, ?, ?)",
+                             (str(date), weight, 0 if before is None else round(before - weight, 2)))
+                before = weight
 
     def start(self):
-        self.process = subprocess.Popen([str(self.program_directory / "trimlog")], env=self.environment,
-                                        cwd=self.folder, stderr=subprocess.PIPE)
+        self.process = self.launch()
         return self
 
+    def launch(self):
+        """Starts one more copy."""
+        return subprocess.Popen([str(self.program_directory / "trimlog")], env=self.environment, cwd=self.folder,
+                                stderr=subprocess.PIPE)
+
     def wait_for_window(self, title, seconds=20):
-        """Waits until a window whose title matches is active."""
-        end = time.time() + seconds
-        while time.time() < end:
+        """Waits until a window whose title begins so is active, and has drawn itself."""
+
+        def active():
             if self.process.poll() is not None:
                 raise AssertionError(f"the program ended: {self.process.stderr.read().decode()[-2000:]}")
-            name = self._xdotool("getactivewindow", "getwindowname", check=False)
-            if title in name:
-                time.sleep(0.3)
-                return name
-            time.sleep(0.1)
-        self.picture(self.folder / "lost.png")
-        raise AssertionError(f"no window {title!r} became active; the active one is {name!r}; see {self.folder}/lost.png")
+            name = self.active_window()
+            return name if name.startswith(title) else None
+
+        name = until(active, seconds)
+        if name is None:
+            self._give_up(f"no window {title!r} became active; the active one is {self.active_window()!r}")
+        time.sleep(0.15)
+        return name
+
+    def active_window(self):
+        return self._xdotool("getactivewindow", "getwindowname", check=False)
 
     def keys(self, *names):
         """Presses keys by their X names: "Tab", "ctrl+q", "alt+f"."""
         for name in names:
             self._xdotool("key", "--clearmodifiers", name)
-            time.sleep(0.08)
+            self.keystrokes += 1
+            time.sleep(0.02)
 
     def type(self, text):
-        self._xdotool("type", "--clearmodifiers", "--delay", "15", text)
-        time.sleep(0.15)
+        self._xdotool("type", "--clearmodifiers", "--delay", "12", text)
+        self.keystrokes += len(text)
 
-    def picture(self, path):
+    def picture(self, name):
+        """A picture of the window in front, in the road's folder or at a path."""
+        path = self.folder / name
         window = self._xdotool("getactivewindow", check=False).strip()
         subprocess.run(["import", "-window", window or "root", str(path)], env=self.environment, check=True)
         return path
 
+    def settled_picture(self, name):
+        """A picture of the window once two in a row are alike."""
+        path = self.picture(name)
+        if not until(lambda: same_picture(path, self._picture_after(path)), pause=0.2):
+            self._give_up("the window does not come to rest")
+        return path
+
+    def _picture_after(self, path):
+        former = path.with_suffix(".former.png")
+        path.rename(former)
+        self.picture(path)
+        return former
+
+    def expect_picture(self, wanted, what):
+        """The window in front comes to look like an earlier picture of it, pixel by pixel (a text cursor blinks)."""
+        if not until(lambda: same_picture(wanted, self.picture("now.png")), seconds=6, pause=0.2):
+            self._give_up(f"{what}: the window looks otherwise than {wanted}; see {self.folder}/now.png")
+
+    def expect_change(self, former, what):
+        """The window in front comes to look otherwise than in an earlier picture, by more than a text cursor."""
+        if not until(lambda: different_pixels(former, self.picture("now.png")) > 100, seconds=6, pause=0.2):
+            self._give_up(f"{what}: the window still looks like {former}")
+
     def quit(self, seconds=15):
         """Closes the window in front as a person would, and waits for the end of the program."""
         self.keys("alt+F4")
-        return self.process.wait(timeout=seconds)
+        code = self.process.wait(timeout=seconds)
+        check(code, 0, "exit code")
 
     def kill(self):
         if self.process and self.process.poll() is None:
@@ -95,8 +171,23 @@ class Trimlog:
 
     def rows(self, sql, *values):
         """Reads the data file as any other tool would; the program must have ended."""
-        with sqlite3.connect(f"file:{self.program_directory}/tlg.dat?mode=ro", uri=True) as file:
+        with self._open("rw") as file:  # a journal left by a killed program is rolled back by whoever comes next
             return file.execute(sql, values).fetchall()
+
+    def weights(self, person=1):
+        return {date: (weight, loss) for date, weight, loss in self.rows(
+            "SELECT ThisDate, ThisWeight, ThisLoss FROM weight_loss WHERE PersonID = ? ORDER BY ThisDate", person)}
+
+    def setting(self, name):
+        """A value of the settings as they stand in the user's configuration folder."""
+        for path in self.folder.glob("home/.config/**/*.ini"):
+            ini = configparser.ConfigParser(interpolation=None)
+            ini.optionxform = str
+            ini.read(path)
+            for group in ini.sections():
+                if name in ini[group]:
+                    return ini[group][name]
+        return None
 
     def log(self):
         path = self.program_directory / "errorlog.txt"
@@ -106,12 +197,76 @@ class Trimlog:
         self.kill()
         shutil.rmtree(self.folder, ignore_errors=True)
 
+    def _give_up(self, sentence):
+        subprocess.run(["import", "-window", "root", str(self.folder / "lost.png")], env=self.environment)
+        raise AssertionError(f"{sentence}; the screen is in {self.folder}/lost.png")
+
+    def _open(self, mode):
+        return _Closing(sqlite3.connect(f"file:{self.program_directory}/tlg.dat?mode={mode}", uri=True))
+
     def _xdotool(self, *arguments, check=True):
         return subprocess.run(["xdotool", *arguments], env=self.environment, check=check, capture_output=True,
                               text=True).stdout.strip()
 
 
+class _Closing:
+    """A connection that commits and closes at the end of its block."""
+
+    def __init__(self, connection):
+        self.connection = connection
+
+    def __enter__(self):
+        return self.connection
+
+    def __exit__(self, kind, *_):
+        if kind is None:
+            self.connection.commit()
+        self.connection.close()
+
+
+def different_pixels(one, other):
+    answer = subprocess.run(["compare", "-metric", "AE", str(one), str(other), "null:"], capture_output=True, text=True)
+    try:
+        return float(answer.stderr.split()[0])
+    except (ValueError, IndexError):
+        return float("inf")  # of different sizes
+
+
 def same_picture(one, other):
     """True when two pictures differ in no pixel."""
-    answer = subprocess.run(["compare", "-metric", "AE", str(one), str(other), "null:"], capture_output=True, text=True)
-    return answer.returncode == 0
+    return different_pixels(one, other) == 0
+
+
+def check(found, wanted, what):
+    if found != wanted:
+        raise AssertionError(f"{what}: {found!r}, not {wanted!r}")
+
+
+def first_of_last_month():
+    return (datetime.date.today().replace(day=1) - datetime.timedelta(days=1)).replace(day=1)
+
+
+def _too_long(*_):
+    raise AssertionError(f"the road takes more than {ROAD_SECONDS} seconds")
+
+
+def walk(road, keep_on_failure=True, **screen):
+    """Runs a road as a test: `script.py APP_DIRECTORY SHIPPED_DIRECTORY`. What it left lies on where it failed."""
+    if not all(shutil.which(tool) for tool in TOOLS):
+        print("needs", ", ".join(TOOLS))
+        sys.exit(NOT_POSSIBLE_HERE)
+    display = Screen(**screen)
+    trimlog = Trimlog(display, *sys.argv[1:3])
+    passed = False
+    signal.signal(signal.SIGALRM, _too_long)
+    signal.alarm(ROAD_SECONDS)
+    try:
+        road(trimlog)
+        check(trimlog.log(), "", "errorlog.txt")
+        passed = True
+    finally:
+        signal.alarm(0)
+        trimlog.kill()
+        if passed or not keep_on_failure:
+            trimlog.remove()
+        display.close()
