@@ -1,7 +1,7 @@
 # Sourced by ./run, ./test and .ci/run: brings a fresh Debian 12 machine to the point where the project builds.
 # Installs only what is missing, and says what.
 
-build_packages=(g++ cmake ninja-build ccache qt6-base-dev qt6-base-dev-tools qt6-multimedia-dev libqt6svg6-dev
+build_packages=(g++ cmake ninja-build ccache qt6-base-dev qt6-base-dev-tools qt6-multimedia-dev qt6-svg-dev
   libsqlitecpp-dev libsqlite3-dev)
 test_packages=(libgtest-dev libbenchmark-dev python3 sqlite3 xvfb openbox xdotool imagemagick locales)
 check_packages=(clang-format clang-tidy libasan8 libubsan1)
