@@ -73,6 +73,19 @@ TEST_F(GridTest, TicksAndListsAreChangedByKeys) {
   EXPECT_EQ(Stored(QStringLiteral("GroupID"), 3).toStdString(), "1");
 }
 
+TEST_F(GridTest, JumpKeysMarkTheRowTheyComeTo) {
+  GoTo(20, "Nut1");
+  Press(Qt::Key_Home, Qt::ControlModifier);
+  EXPECT_EQ(grid.CurrentKey(), 1);
+  EXPECT_EQ(grid.CurrentColumn().toStdString(), "FoodDesc") << "not the empty column before it";
+  EXPECT_EQ(grid.MarkedKeys(), std::vector<qint64>{1});
+  Press(Qt::Key_End, Qt::ControlModifier);
+  EXPECT_EQ(grid.MarkedKeys(), std::vector<qint64>{40});
+  Press(Qt::Key_Tab, Qt::ControlModifier);
+  EXPECT_EQ(grid.CurrentKey(), 40) << "Ctrl+Tab is for the pages around the grid";
+  EXPECT_EQ(grid.CurrentColumn().toStdString(), "IsModified");
+}
+
 TEST_F(GridTest, LeavingTheGridSavesTheRow) {
   QWidget window;
   auto *other = new QLineEdit(&window);
@@ -307,6 +320,25 @@ TEST_F(GridTest, WidthsOfThePersonComeBack) {
   other.KeepWidths(*store, key);
   EXPECT_EQ(other.columnWidth(1), 333);
   EXPECT_EQ(other.columnWidth(2), ordinary);
+}
+
+TEST_F(GridTest, AHiddenColumnGivesItsRoomAway) {
+  QTemporaryDir folder;
+  const auto store = OpenSettingsFile(folder.filePath(QStringLiteral("settings.ini")));
+  const QString key = settingsRoot + QStringLiteral("\\grdFoods");
+  grid.KeepWidths(*store, key);
+  const int taker = grid.columnWidth(1);
+  const int giver = grid.columnWidth(2);
+  const QString name = grid.Model().Columns()[2].name;
+  grid.GiveRoom(name, grid.Model().Columns()[1].name);
+  grid.ShowColumn(name, false);
+  grid.ShowColumn(name, false);
+  EXPECT_EQ(grid.columnWidth(1), taker + giver);
+  grid.setColumnWidth(1, taker + giver + 50);  // what the person adds is kept, the room given is not
+  grid.hide();
+  grid.ShowColumn(name, true);
+  EXPECT_EQ(grid.columnWidth(1), taker + 50);
+  EXPECT_EQ(store->GetSettingLong(key, grid.Model().Columns()[1].name, 0), taker + 50);
 }
 
 class LongGridTest : public GridTest {

@@ -37,6 +37,8 @@ class BoundGrid : public QTableView {
   void SetColumns(GridColumns columns);
   void RebindColumn(const QString &name, const QString &field, const QString &caption, const QString &pattern = {});
   void ShowColumn(const QString &name, bool visible);
+  /// From now on another column is wider by this one's width while this one is hidden. At most one pair.
+  void GiveRoom(const QString &from, const QString &to);
   /// Column widths come from and go to this place of the store (value name: the column's).
   void KeepWidths(SettingsStore &store, const QString &key);
 
@@ -94,6 +96,7 @@ class BoundGrid : public QTableView {
   void changeEvent(QEvent *event) override;
   void closeEditor(QWidget *editor, QAbstractItemDelegate::EndEditHint hint) override;
   QModelIndex moveCursor(CursorAction action, Qt::KeyboardModifiers modifiers) override;
+  QItemSelectionModel::SelectionFlags selectionCommand(const QModelIndex &index, const QEvent *event) const override;
   void currentChanged(const QModelIndex &current, const QModelIndex &previous) override;
   void scrollContentsBy(int dx, int dy) override;
   void paintEvent(QPaintEvent *event) override;
@@ -128,6 +131,7 @@ class BoundGrid : public QTableView {
   void ApplyWidths();
   void SaveWidths();
   int WidthOf(const GridColumn &column) const;
+  int RoomGivenTo(const GridColumn &column) const;
   bool SortsBy(const GridColumn &column) const;
   void SortByClick(int section);
   void ShowSortIndicator();
@@ -135,6 +139,8 @@ class BoundGrid : public QTableView {
   GridModel *model_;
   SettingsStore *store_ = nullptr;
   QString widthsKey_;
+  QString roomFrom_;
+  QString roomTo_;
   QTimer saveWidthsLater_;
   QTimer readKeysLater_;
   QString typedAhead_;

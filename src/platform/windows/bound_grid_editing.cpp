@@ -121,9 +121,22 @@ QModelIndex BoundGrid::moveCursor(CursorAction action, Qt::KeyboardModifiers mod
     if (!target.isValid()) target = currentIndex();
   } else {
     target = QTableView::moveCursor(action, modifiers);
+    if (action == MoveHome && target.isValid()) target = target.siblingAtColumn(FirstColumn());
   }
   const QModelIndex left = LeaveRowFor(target);
   return left.isValid() ? left : currentIndex();
+}
+
+QItemSelectionModel::SelectionFlags BoundGrid::selectionCommand(const QModelIndex &index, const QEvent *event) const {
+  if (event && event->type() == QEvent::KeyPress) {
+    const auto *key = static_cast<const QKeyEvent *>(event);
+    // Ctrl+Home and Ctrl+End go to a row; with Ctrl alone the view would leave the mark on the row that was left.
+    const bool jump = key->key() == Qt::Key_Home || key->key() == Qt::Key_End;
+    if (jump && key->modifiers() == Qt::ControlModifier) {
+      return QItemSelectionModel::ClearAndSelect | QItemSelectionModel::Rows;
+    }
+  }
+  return QTableView::selectionCommand(index, event);
 }
 
 bool BoundGrid::HandleEditingKey(QKeyEvent *event) {
@@ -142,6 +155,7 @@ bool BoundGrid::HandleEditingKey(QKeyEvent *event) {
     case Qt::Key_Tab:
     case Qt::Key_Backtab: {
       const bool tab = event->key() == Qt::Key_Tab || event->key() == Qt::Key_Backtab;
+      if (tab && event->modifiers().testFlag(Qt::ControlModifier)) return false;  // turns the pages of a window
       if (!tab && !CanChange(cell)) return ActivateRow();
       const QModelIndex next = LeaveRowFor(NextEditable(event->key() != Qt::Key_Backtab));
       if (!next.isValid()) return !tab && CommitRow();
