@@ -110,7 +110,8 @@ void MonthGrid::Arrange() {
     const int top = header + room * row / rows_;
     const int bottom = header + room * (row + 1) / rows_;
     for (int day = 0; day < days; ++day) {
-      cells_[static_cast<size_t>(row * days + day)]->setGeometry(day * column, top, column, bottom - top);
+      const int cell = row * days + day;
+      cells_[static_cast<size_t>(cell)]->setGeometry(day * column, top, column, bottom - top);
     }
     FitLabel *box = lblTotal_[static_cast<size_t>(row)];
     box->setGeometry(left, top, width() - left, bottom - top);
