@@ -55,6 +55,7 @@ FoodListPage::FoodListPage(Session &session, QWidget *parent) : QWidget(parent),
   lblFoods->setObjectName(QStringLiteral("lblFoods"));
   layout->addWidget(lblFoods);
   grdMealsList = MakeFoodGrid(ListGridNames(), session_, this);
+  grdMealsList->GiveRoom(QStringLiteral("MealGroupID"), QStringLiteral("MealDesc"));
   layout->addWidget(grdMealsList, 1);
 
   AddChoices();

@@ -70,6 +70,7 @@ void FoodPage::Build() {
   auto *scroll = new QScrollArea(this);
   scroll->setWidgetResizable(true);
   scroll->setFrameShape(QFrame::NoFrame);
+  scroll->setFocusPolicy(Qt::NoFocus);  // Tab goes from field to field
   auto *panel = new QWidget(scroll);
   auto *grid = new QGridLayout(panel);
   grid->setHorizontalSpacing(10);
@@ -88,6 +89,10 @@ void FoodPage::Build() {
 void FoodPage::AddTexts(QFormLayout *form) {
   txtMealDesc = new TextField(QStringLiteral("txtMealDesc"), QStringLiteral("Description"), textLength, this);
   form->addRow(QStringLiteral("&Description:"), txtMealDesc);
+  if (IsNew()) {
+    txtAmount = new TextField(QStringLiteral("txtAmount"), QStringLiteral("Serving size"), textLength, this);
+    form->addRow(QStringLiteral("Ser&ving size:"), txtAmount);
+  }
   cboMealGroups = new QComboBox(this);
   cboMealGroups->setObjectName(QStringLiteral("cboMealGroups"));
   cboMealGroups->setAccessibleName(QStringLiteral("Food group"));
@@ -97,10 +102,6 @@ void FoodPage::AddTexts(QFormLayout *form) {
     }
   });
   cboMealGroups->setCurrentIndex(cboMealGroups->findData(food_.MealGroupID));
-  if (IsNew()) {
-    txtAmount = new TextField(QStringLiteral("txtAmount"), QStringLiteral("Serving size"), textLength, this);
-    form->addRow(QStringLiteral("Ser&ving size:"), txtAmount);
-  }
   form->addRow(QStringLiteral("Food &group:"), cboMealGroups);
   if (IsNew()) {
     txtGIValue =
@@ -140,7 +141,7 @@ void FoodPage::AddCommands(QVBoxLayout *layout) {
   connect(add(QStringLiteral("cmdCalcCal"), QStringLiteral("&Calculate Calories and Percentages"),
               QStringLiteral("Works out the calories from fat, carbs and protein, and their shares.")),
           &QPushButton::clicked, this, &FoodPage::OnCalculateCalories);
-  connect(add(QStringLiteral("cmdCalcDV"), QStringLiteral("Convert from &% of Daily Value..."),
+  connect(add(QStringLiteral("cmdCalcDV"), QStringLiteral("Convert &from % of Daily Value..."),
               QStringLiteral("Turns the percentages of a food label into amounts.")),
           &QPushButton::clicked, this, &FoodPage::OnDailyValues);
   row->addStretch();

@@ -71,6 +71,7 @@ frmSetupFoods::frmSetupFoods(Session &session, const Navigator &navigator, QWidg
   ConnectButtons();
   connect(SSTab1, &QTabWidget::currentChanged, this, &frmSetupFoods::OnTabChanged);
   connect(&session_.changes, &DataChanges::Changed, this, &frmSetupFoods::OnChanged);
+  setTabOrder(cmdOK, SSTab1->tabBar());  // from the grid on to the buttons
   listPage_->Grid()->setFocus();
   UpdateRowState();
 }

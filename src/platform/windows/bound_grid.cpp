@@ -92,10 +92,24 @@ void BoundGrid::RebindColumn(const QString &name, const QString &field, const QS
 void BoundGrid::ShowColumn(const QString &name, bool visible) {
   const int column = model_->ColumnByName(name);
   if (column < 0) return;
+  const int taker = name == roomFrom_ ? model_->ColumnByName(roomTo_) : -1;
+  const int before = taker < 0 ? 0 : RoomGivenTo(model_->Columns()[taker]);
   model_->SetColumnVisible(name, visible);
   applyingWidths_ = true;
   setColumnHidden(column, !visible);
+  if (taker >= 0) setColumnWidth(taker, columnWidth(taker) - before + RoomGivenTo(model_->Columns()[taker]));
   applyingWidths_ = false;
+}
+
+void BoundGrid::GiveRoom(const QString &from, const QString &to) {
+  roomFrom_ = from;
+  roomTo_ = to;
+  ApplyWidths();
+}
+
+int BoundGrid::RoomGivenTo(const GridColumn &column) const {
+  const int giver = column.name == roomTo_ ? model_->ColumnByName(roomFrom_) : -1;
+  return giver < 0 || model_->Columns()[giver].visible ? 0 : WidthOf(model_->Columns()[giver]);
 }
 
 void BoundGrid::KeepWidths(SettingsStore &store, const QString &key) {
@@ -120,7 +134,7 @@ void BoundGrid::ApplyWidths() {
   for (size_t column = 0; column < model_->Columns().size(); ++column) {
     const GridColumn &shown = model_->Columns()[column];
     setColumnHidden(static_cast<int>(column), !shown.visible);
-    setColumnWidth(static_cast<int>(column), WidthOf(shown));
+    setColumnWidth(static_cast<int>(column), WidthOf(shown) + RoomGivenTo(shown));
   }
   applyingWidths_ = false;
 }
@@ -128,8 +142,8 @@ void BoundGrid::ApplyWidths() {
 void BoundGrid::SaveWidths() {
   saveWidthsLater_.stop();
   for (size_t column = 0; store_ && column < model_->Columns().size(); ++column) {
-    const int width = columnWidth(static_cast<int>(column));
     const GridColumn &shown = model_->Columns()[column];
+    const int width = columnWidth(static_cast<int>(column)) - RoomGivenTo(shown);
     if (width > 0 && width != WidthOf(shown)) store_->SaveSettingLong(widthsKey_, shown.name, width);
   }
 }
