@@ -1,5 +1,8 @@
 #include "journal/servings_rule.h"
 
+#include <cmath>
+
+#include "platform/error.h"
 #include "platform/rounding.h"
 #include "platform/text_format.h"
 
@@ -7,8 +10,16 @@ namespace trimlog {
 
 namespace {
 
+/// What no number can hold is told, not stored as something else.
+double Finite(double value) {
+  if (!std::isfinite(value)) throw Error(error_number::overflow, QStringLiteral("Overflow"));
+  return value;
+}
+
 /// The value as the display pattern of its column leaves it.
-double Rounded(double value, const QString &fieldName) { return Val(Format(value, GetNutrientFormat(fieldName))); }
+double Rounded(double value, const QString &fieldName) {
+  return Val(Format(Finite(value), GetNutrientFormat(fieldName)));
+}
 
 const QString &FieldName(const Nutrients &nutrients, int nutrientID) {
   return nutrients.NutrientDefs.at(static_cast<std::size_t>(nutrientID - 1)).fieldName;
@@ -65,7 +76,7 @@ ShownCells AdjustNutrientValues(const Nutrients &nutrients, const FoodValues &fo
     } else if (position.NutTotal && !IsPercentOfCalories(id)) {
       value *= servings;
     }
-    adjusted[i] = Format(value, GetNutrientFormat(FieldName(nutrients, id)), locale);
+    adjusted[i] = Format(Finite(value), GetNutrientFormat(FieldName(nutrients, id)), locale);
   }
   return adjusted;
 }

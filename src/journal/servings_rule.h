@@ -19,7 +19,8 @@ using ShownCells = std::array<QString, shownNutrients>;
 /// they scale as typed, rounded for display. Null net carbs count as computed. Throws overflow beyond 16 bits.
 double ScaledNetCarbs(const FoodValues &food, double servings);
 
-/// The 35 values that a new entry stores, by NutrientID - 1, each rounded by its display pattern.
+/// The 35 values that a new entry stores, by NutrientID - 1, each rounded by its display pattern. This and the next
+/// throw overflow for a value that no number can hold.
 using EntryValues = std::array<double, nutrientCount>;
 
 /// `shown` are the food list's own cells for the ten positions: what the person saw is what is stored. A custom

@@ -126,6 +126,19 @@ TEST_F(SetupFoodsTest, RowsOfOneGridArePastedIntoTheOther) {
   EXPECT_EQ(List().Model().RecordCount(), 2);
 }
 
+TEST_F(SetupFoodsTest, ARefusedRowIsCorrectedBeforeTheColumnsChange) {
+  int opened = 0;
+  navigator.OpenNutrientSelection = [&opened](QWidget *) { ++opened; };
+  AddOwn("Aaa own");
+  Choose("cboRecordTypeMeals", 2);
+  List().Model().setData(List().Model().index(0, List().Model().ColumnByName("Nut2")), QStringLiteral("abc"));
+  RunFromMenu(List(), 0, "MealDesc", "mnuPM1Nutrients");
+  EXPECT_EQ(opened, 0);
+  List().UndoRow();
+  RunFromMenu(List(), 0, "MealDesc", "mnuPM1Nutrients");
+  EXPECT_EQ(opened, 1);
+}
+
 TEST_F(SetupFoodsTest, ADoubleQuoteInADescriptionBreaksTheCopy) {
   session.Data().Execute("UPDATE meals_list SET MealDesc = ? WHERE (MealID=1);", {"A 5\" pie"});
   List().Refresh();

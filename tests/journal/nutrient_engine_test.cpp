@@ -151,6 +151,13 @@ TEST(NutrientColumns, CarryFieldCaptionAndPattern) {
   EXPECT_TRUE(columns[3].dataField.isEmpty() && columns[3].caption.isEmpty());
 }
 
+TEST(NewEntry, WhatNoNumberCanHoldIsTold) {
+  const Nutrients nutrients = Vocabulary({{1}});
+  const FoodValues food = Food({{1, 500}, {2, 60}});
+  EXPECT_THROW(NewEntryValues(nutrients, food, {"500"}, 1e308, english), Error);
+  EXPECT_THROW(AdjustNutrientValues(nutrients, food, {"500"}, 1e308, false, english), Error);
+}
+
 TEST(DayTotals, SumTheRowsOfTheCurrentDayAndNoOthers) {
   const Nutrients nutrients = Vocabulary({{1}, {7}, {28, false}, {0}, {2}});
   Rows rows;

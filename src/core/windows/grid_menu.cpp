@@ -40,10 +40,13 @@ GridMenu::GridMenu(Session &session, const Navigator &navigator, QWidget *parent
   sortDescending_ = Add(*this, "mnuPM1SortDescending", tr("Sort Descending"),
                         [this](BoundGrid &grid) { grid.SortBy(column_, true); });
   addSeparator();
-  targets_ = Add(*this, "mnuPM1Targets", tr("Nutritional Targets..."),
-                 [this](BoundGrid &grid) { navigator_.OpenTargets(grid.window()); });
-  nutrients_ = Add(*this, "mnuPM1Nutrients", tr("Nutrient Selections..."),
-                   [this](BoundGrid &grid) { navigator_.OpenNutrientSelection(grid.window()); });
+  // These windows may give the grid other columns: what is being typed is saved first.
+  targets_ = Add(*this, "mnuPM1Targets", tr("Nutritional Targets..."), [this](BoundGrid &grid) {
+    if (grid.CommitRow()) navigator_.OpenTargets(grid.window());
+  });
+  nutrients_ = Add(*this, "mnuPM1Nutrients", tr("Nutrient Selections..."), [this](BoundGrid &grid) {
+    if (grid.CommitRow()) navigator_.OpenNutrientSelection(grid.window());
+  });
 }
 
 QAction *GridMenu::Add(QMenu &menu, const char *name, const QString &caption, Act act) {
