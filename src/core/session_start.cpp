@@ -60,7 +60,25 @@ void ChooseProfile(Session &session) {
   session.NutTargetID = profile.NutTargetID.isEmpty() ? defaultTargetSet : profile.NutTargetID.toInt();
 }
 
+namespace {
+
+bool HasDateTableForToday(Session &session) {
+  bool has = false;
+  GuardedQuietly([&] {
+    const Recordset today = session.Data().OpenRecordset(
+        QStringLiteral("SELECT temp_alldates.PersonID, temp_alldates.ThisIndex FROM temp_alldates "
+                       "WHERE ((temp_alldates.ThisDate)=?);"),
+        {session.Today()});
+    has = !today.Eof();
+  });
+  return has;
+}
+
+}  // namespace
+
 void RecreateDateTable(Session &session) {
+  // A start that has nothing to make anew waits for no disk before its first window.
+  if (HasDateTableForToday(session)) return;
   GuardedQuietly([&session] {
     Transaction transaction(session.Data());
     if (session.Data().HasTable(QStringLiteral("temp_alldates"))) {

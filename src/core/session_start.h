@@ -13,7 +13,8 @@ void LoadDecimalComma(Session &session);
 /// The saved profile when it still exists, else the lowest PersonID above 0, else "1"; with its colour scheme and its
 /// target set. Samples are never chosen.
 void ChooseProfile(Session &session);
-/// Makes temp_alldates afresh with one row, which fixes its column types. Failures are ignored.
+/// Makes temp_alldates afresh with one row, which fixes its column types, unless it has a row for today already.
+/// Failures are ignored.
 void RecreateDateTable(Session &session);
 /// The nutrient vocabulary, the ten shown nutrients, and the targets of the chosen set.
 void LoadNutrients(Session &session);

@@ -38,11 +38,13 @@ class IniStore final : public SettingsStore {
   }
   bool SaveSettingString(const QString &key, const QString &valueName, const QString &value) override {
     ini_.setValue(PathOf(key, valueName), value);
+    changed_ = true;
     return Written();
   }
   bool DeleteValue(const QString &key, const QString &valueName) override {
     if (!ini_.contains(PathOf(key, valueName))) return false;
     ini_.remove(PathOf(key, valueName));
+    changed_ = true;
     return Written();
   }
   bool DeleteKey(const QString &key) override {
@@ -50,7 +52,7 @@ class IniStore final : public SettingsStore {
     for (const QString &group : ini_.childGroups()) {
       if (group != Escaped(key) && !group.startsWith(Escaped(key + u'\\'))) continue;
       ini_.remove(group);
-      any = true;
+      any = changed_ = true;
     }
     return any && Written();
   }
@@ -72,13 +74,17 @@ class IniStore final : public SettingsStore {
   }
   bool Written() {
     if (batches_ > 0) return true;
-    ini_.sync();
-    FlushFolder(QFileInfo(ini_.fileName()).absolutePath());
-    return ini_.status() == QSettings::NoError;
+    if (changed_) {  // a batch that found nothing to write costs no waiting for the disk
+      ini_.sync();
+      FlushFolder(QFileInfo(ini_.fileName()).absolutePath());
+    }
+    changed_ = ini_.status() != QSettings::NoError;
+    return !changed_;
   }
 
   QSettings ini_;
   int batches_ = 0;
+  bool changed_ = false;  ///< something is not on the disk yet
 };
 
 #ifdef Q_OS_WIN

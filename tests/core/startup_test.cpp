@@ -7,8 +7,10 @@
 #include <unistd.h>
 
 #include "core/data_access.h"
+#include "core/session_start.h"
 #include "core/start_bench.h"
 #include "platform/error.h"
+#include "platform/text_format.h"
 
 namespace trimlog {
 namespace {
@@ -267,6 +269,20 @@ TEST_F(Start, TheDateTableHoldsTodayAlone) {
               QStringLiteral("1"));
     bench.session.Data().Execute(QStringLiteral("UPDATE temp_alldates SET temp_alldates.ThisDate = #1/1/1999#;"));
   }
+}
+
+TEST_F(Start, ASecondStartOfTheDayWritesNothing) {
+  EXPECT_EQ(bench.application.Main(), Outcome::Running);
+  const qint64 before = bench.session.Data().Counts().commits;
+  RecreateDateTable(bench.session);
+  EXPECT_EQ(bench.session.Data().Counts().commits, before);
+  bench.session.Data().Execute(QStringLiteral("DROP TABLE temp_alldates;"));
+  bench.session.Data().Execute(
+      QStringLiteral("SELECT %1 AS ThisDate, 1 As PersonID INTO temp_alldates;").arg(SQLDate(bench.session.Today())));
+  RecreateDateTable(bench.session);
+  EXPECT_EQ(GetDataValue(bench.session.Data(), QStringLiteral("ThisIndex"), QStringLiteral("temp_alldates")),
+            QStringLiteral("1"))
+      << "a table of another shape is made anew";
 }
 
 TEST_F(Start, TheDecimalSignOfTheLocale) {
