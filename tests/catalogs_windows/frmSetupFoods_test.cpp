@@ -89,6 +89,14 @@ TEST_F(SetupFoodsTest, ArrowKeysPassTheSeparators) {
   EXPECT_EQ(sort.currentData(), "0");
 }
 
+TEST_F(SetupFoodsTest, TheSortBoxFollowsAClickOnACaption) {
+  const QComboBox &sort = Find<QComboBox>(window, "cboSort");
+  EXPECT_TRUE(List().SortBy("Nut2", true));
+  EXPECT_EQ(sort.currentData(), "-Fat");
+  EXPECT_TRUE(List().SortBy("MealDesc", false));
+  EXPECT_EQ(sort.currentData(), "0");
+}
+
 TEST_F(SetupFoodsTest, ANutrientThatIsNotShownAnyMoreOrdersNothing) {
   Choose("cboSort", "-Protein");
   Search("cheddar");

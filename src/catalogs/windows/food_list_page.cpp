@@ -3,6 +3,7 @@
 #include <QAbstractItemView>
 #include <QComboBox>
 #include <QGridLayout>
+#include <QHeaderView>
 #include <QKeyEvent>
 #include <QLabel>
 #include <QPushButton>
@@ -63,6 +64,7 @@ FoodListPage::FoodListPage(Session &session, QWidget *parent) : QWidget(parent),
   connect(cboMealGroups, &QComboBox::currentIndexChanged, this, &FoodListPage::FillList);
   cboSort->installEventFilter(this);
   connect(cboSort, &QComboBox::activated, this, &FoodListPage::OnSort);
+  connect(grdMealsList->horizontalHeader(), &QHeaderView::sortIndicatorChanged, this, &FoodListPage::ShowSort);
   connect(cmdAplha, &QPushButton::clicked, this, &FoodListPage::OnAlphabet);
   connect(alphabet_, &AlphabetBar::LetterChosen, this, &FoodListPage::GoToLetter);
 }
@@ -146,6 +148,17 @@ void FoodListPage::OnSort(int index) {
   }
   chosenSort_ = index;
   FillList();
+}
+
+// A click on a caption sorts too: the box names that order, where it has a name for it.
+void FoodListPage::ShowSort() {
+  const GridOrder &order = grdMealsList->Model().Source().order.first();
+  QString key = order.field == QStringLiteral("MealDesc") ? QStringLiteral("0") : order.field;
+  if (order.descending) key.prepend(QLatin1Char('-'));
+  const int index = cboSort->findData(key);
+  if (index < 0) return;
+  chosenSort_ = index;
+  cboSort->setCurrentIndex(index);
 }
 
 void FoodListPage::OnAlphabet() {

@@ -37,6 +37,7 @@ class FoodListPage : public QWidget {
   void FillSorts();
   bool IsSeparator(int sort) const;
   void OnSort(int index);
+  void ShowSort();
   void OnAlphabet();
   void GoToLetter(QChar letter);
   FoodSelection Selection() const;
