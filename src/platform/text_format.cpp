@@ -76,11 +76,14 @@ QString DecimalPart(const DecimalDigits &number, const NumberPattern &pattern) {
   return text;
 }
 
+/// What a Double holds beyond 15 digits is dust of binary arithmetic: 0.1 + 0.2 reads 0.3.
+double InFifteenDigits(double value) { return QString::number(value, 'e', 14).toDouble(); }
+
 }  // namespace
 
 QString Format(double value, const QString &pattern, const QLocale &locale) {
   if (pattern.isEmpty() || pattern.compare(QLatin1String("General Number"), Qt::CaseInsensitive) == 0) {
-    return PlainText(value).replace(u'.', DecimalSign(locale));
+    return PlainText(InFifteenDigits(value)).replace(u'.', DecimalSign(locale));
   }
   const NumberPattern shape = ReadPattern(pattern);
   DecimalDigits number = DigitsOf(value);

@@ -107,7 +107,7 @@ TypedWeight ReadTypedWeight(const QString &text, const QLocale &locale) {
 }
 
 QString WeightText(double weight, const QLocale &locale) {
-  return Format(weight, QStringLiteral("General Number"), locale);
+  return Format(RoundHalfAway(weight, 2), QStringLiteral("General Number"), locale);
 }
 
 }  // namespace trimlog

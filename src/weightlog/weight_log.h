@@ -61,7 +61,7 @@ struct TypedWeight {
 };
 TypedWeight ReadTypedWeight(const QString &text, const QLocale &locale);
 
-/// A weight as text in the person's locale: "182.5", "93,5".
+/// A weight as text in the person's locale, with the file's two decimals at most: "182.5", "93,5".
 QString WeightText(double weight, const QLocale &locale);
 
 }  // namespace trimlog

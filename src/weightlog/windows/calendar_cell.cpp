@@ -54,23 +54,27 @@ const QPalette &CalendarLook::PaletteOf(const CalendarCell &cell) const {
   return cell.background == calendar_colour::white ? day : active;
 }
 
-CalendarFonts::CalendarFonts(const QFont &base, int cellHeight) : small(base), weight(base) {
-  const double size = QFontInfo(base).pointSizeF();
+CalendarFonts::CalendarFonts(const QFont &base, int cellHeight) {
   const double room = static_cast<double>(cellHeight) / LeastHeight(base);
-  const double growth = std::clamp(1 + (room - 1) * 0.4, 1.0, largestGrowth);
+  *this = Grown(base, std::clamp(1 + (room - 1) * 0.4, 1.0, largestGrowth));
+}
+
+CalendarFonts CalendarFonts::Grown(const QFont &base, double growth) {
+  const double size = QFontInfo(base).pointSizeF();
   // Whole steps, so that dragging the frame's edge does not set 168 fonts at every pixel.
   const auto step = [](double points) { return std::round(points * 2) / 2; };
-  small.setPointSizeF(step(size * smallShare * std::sqrt(growth)));
-  weight.setPointSizeF(step(size * weightShare * growth));
-  weight.setWeight(QFont::DemiBold);
+  CalendarFonts fonts;
+  fonts.small = fonts.weight = base;
+  fonts.small.setPointSizeF(step(size * smallShare * std::sqrt(growth)));
+  fonts.weight.setPointSizeF(step(size * weightShare * growth));
+  fonts.weight.setWeight(QFont::DemiBold);
+  return fonts;
 }
 
 int CalendarFonts::LeastHeight(const QFont &base) {
-  QFont small(base);
-  small.setPointSizeF(QFontInfo(base).pointSizeF() * smallShare);
-  QFont weight(base);
-  weight.setPointSizeF(QFontInfo(base).pointSizeF() * weightShare);
-  return 2 * QFontMetrics(small).height() + QFontMetrics(weight).height() + 2;
+  // With the very fonts of the smallest cells: a font of its own would cost every start a millisecond.
+  const CalendarFonts least = Grown(base, 1);
+  return 2 * QFontMetrics(least.small).height() + QFontMetrics(least.weight).height() + 2;
 }
 
 CalendarCellView::CalendarCellView(int i, QWidget *parent)

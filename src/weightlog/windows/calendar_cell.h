@@ -29,6 +29,10 @@ struct CalendarFonts {
   CalendarFonts(const QFont &base, int cellHeight);
   /// The least height in which three lines stand uncut.
   static int LeastHeight(const QFont &base);
+
+ private:
+  CalendarFonts() = default;
+  static CalendarFonts Grown(const QFont &base, double growth);
 };
 
 /// One day, lblGrid(i): it paints the background and holds the weight field and the texts around it.

@@ -9,6 +9,7 @@ namespace trimlog {
 namespace {
 
 constexpr double smallestShare = 0.7;  ///< of the font's size
+constexpr double shrinkStep = 0.25;    ///< points
 
 }  // namespace
 
@@ -38,10 +39,12 @@ void FitLabel::UseFont(const QFont &font) {
 
 QFont FitLabel::FittingFont() const {
   QFont fitting = DrawnFont();
-  const int wanted = QFontMetrics(fitting).horizontalAdvance(text());
-  if (wanted > width() && wanted > 0) {
-    const double share = std::max(smallestShare, static_cast<double>(width()) / wanted);
-    fitting.setPointSizeF(QFontInfo(fitting).pointSizeF() * share);
+  double size = QFontInfo(fitting).pointSizeF();
+  const double least = size * smallestShare;
+  // Step by step: widths are rounded to whole pixels and do not shrink in proportion.
+  while (size > least && QFontMetrics(fitting).horizontalAdvance(text()) > width()) {
+    size = std::max(least, size - shrinkStep);
+    fitting.setPointSizeF(size);
   }
   return fitting;
 }
