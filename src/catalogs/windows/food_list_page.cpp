@@ -27,6 +27,8 @@ QComboBox *AddCombo(QGridLayout *layout, int column, const QString &name, const 
   auto *combo = new QComboBox(parent);
   combo->setObjectName(name);
   combo->setAccessibleName(QString(caption).remove(QLatin1Char('&')).remove(QLatin1Char(':')));
+  combo->setSizeAdjustPolicy(QComboBox::AdjustToMinimumContentsLengthWithIcon);
+  combo->setMinimumContentsLength(14);
   label->setBuddy(combo);
   layout->addWidget(label, 0, column);
   layout->addWidget(combo, 1, column);
@@ -54,6 +56,7 @@ FoodListPage::FoodListPage(Session &session, QWidget *parent) : QWidget(parent),
   layout->addWidget(alphabet_);
   lblFoods = new QLabel(this);
   lblFoods->setObjectName(QStringLiteral("lblFoods"));
+  lblFoods->setSizePolicy(QSizePolicy::Ignored, QSizePolicy::Preferred);  // its blanks shall not widen the window
   layout->addWidget(lblFoods);
   grdMealsList = MakeFoodGrid(ListGridNames(), session_, this);
   grdMealsList->GiveRoom(QStringLiteral("MealGroupID"), QStringLiteral("MealDesc"));
