@@ -7,10 +7,10 @@
 
 namespace trimlog {
 
-/// Formats a number by a display pattern: "0", "0.0", "0.00", "0.000", "0.###", "#", "General Number" (up to 15 digits),
-/// "Standard" (two decimals, grouped), "Fixed" (two decimals), "Percent" (times 100, two decimals and %). Halves go away
-/// from zero. The decimal sign and the grouping sign are the locale's; the default is the plain form for files and
-/// statements. Throws invalidSql (unknown pattern).
+/// Formats a number by a display pattern: "0", "0.0", "0.00", "0.000", "0.###", "#", "General Number" (up to 15
+/// digits), "Standard" (two decimals, grouped), "Fixed" (two decimals), "Percent" (times 100, two decimals and %).
+/// Halves go away from zero. The decimal sign and the grouping sign are the locale's; the default is the plain form for
+/// files and statements. Throws invalidSql (unknown pattern).
 QString Format(double value, const QString &pattern, const QLocale &locale = QLocale::c());
 
 /// Formats a date: "short date" (the locale's), "mmmm, yyyy", "mmm", "d", "dd", "m", "mm", "yy", "yyyy", "ddd", "dddd",
