@@ -1,11 +1,13 @@
 #include <QApplication>
 
+#include "platform/windows/font_warmth.h"
 #include "platform/windows/qt_boxes.h"
 #include "platform/windows/qt_machine.h"
 #include "program.h"
 
 int main(int argc, char **argv) {
   using namespace trimlog;
+  const FontWarmth warmth;
   QApplication application(argc, argv);
   QApplication::setApplicationName(QStringLiteral("trimlog"));
   // Only closing the main window ends the program: a sign-in window or a box before it must not.
