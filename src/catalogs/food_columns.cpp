@@ -4,6 +4,7 @@
 #include "catalogs/food_lists.h"
 #include "core/data_access.h"
 #include "journal/nutrient_columns.h"
+#include "platform/grid_blocks.h"
 #include "platform/grid_row_edit.h"
 #include "platform/text_format.h"
 
@@ -60,6 +61,22 @@ GridColumn NutrientGridColumn(int position, const NutrientColumn &nutrient) {
 
 GridColumn HiddenColumn(const QString &field, GridType type) {
   return {.name = field, .field = field, .type = type, .visible = false};
+}
+
+bool HoldsPreLoadedFood(Session &session, const std::vector<qint64> &keys) {
+  constexpr size_t keysInOneQuestion = 500;
+  bool held = false;
+  InBlocks(keys, keysInOneQuestion, [&](const std::vector<qint64> &block) {
+    if (held) return;
+    QStringList list;
+    for (const qint64 key : block) list.append(QString::number(key));
+    held = !GetDataValue(session.Data(), QStringLiteral("MealID"), QStringLiteral("meals_list"),
+                         QStringLiteral("RecordTypeID=%1 AND MealID IN (%2)")
+                             .arg(food_kind::preLoaded)
+                             .arg(list.join(QStringLiteral(", "))))
+                .isEmpty();
+  });
+  return held;
 }
 
 }  // namespace
@@ -119,11 +136,7 @@ bool IsPreLoadedFood(const std::function<Value(const QString &field)> &field) {
 }
 
 bool ConfirmDeleteFoods(Session &session, const std::vector<qint64> &keys) {
-  const auto preLoaded = [&session](qint64 key) {
-    return GetDataValue(session.Data(), QStringLiteral("RecordTypeID"), QStringLiteral("meals_list"),
-                        QStringLiteral("MealID=%1").arg(key)) == QString::number(food_kind::preLoaded);
-  };
-  if (std::any_of(keys.begin(), keys.end(), preLoaded)) {
+  if (HoldsPreLoadedFood(session, keys)) {
     session.boxes.Critical(QStringLiteral("Unable to Delete Meal"),
                            QStringLiteral("The Pre-Loaded meals cannot be deleted."));
     return false;
