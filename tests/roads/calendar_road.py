@@ -40,23 +40,29 @@ def change_options(trimlog):
     trimlog.keys("ctrl+comma")
     trimlog.wait_for_window("Program Options")
     trimlog.keys("alt+u", "alt+l", "alt+m", "Down", "Return")
-    trimlog.wait_for_window("Trimlog Pro")
+    trimlog.wait_for_window("Trimlog Pro 2")
     trimlog.expect_change(before, "losses shown, kilograms")
 
 
 def visit_sample(trimlog):
     before = trimlog.settled_picture("own.png")
     trimlog.keys("alt+p", "Down", "Return")
-    trimlog.expect_change(before, "the sample profile")
-    trimlog.type("150")  # the sample's weights restore themselves at the end
+    trimlog.wait_for_window("Welcome to Sample Profile 1")
     trimlog.keys("Return")
+    trimlog.wait_for_window("Trimlog Pro 2")
+    trimlog.expect_change(before, "the sample profile")
+    before = trimlog.settled_picture("sample.png")
+    trimlog.keys("Left")
+    trimlog.type("250")  # no reward for that; the sample's weights restore themselves at the end
+    trimlog.keys("Return")
+    trimlog.expect_change(before, "a weight in the sample profile")
     trimlog.keys("alt+p", "Return")
 
 
 def calendar_road(trimlog):
     first = road.first_of_last_month()
     trimlog.add_person(weights=[(first - datetime.timedelta(days=3), START)])
-    trimlog.start().wait_for_window("Trimlog Pro")
+    trimlog.start().wait_for_window("Trimlog Pro 2")
     type_week(trimlog)
     month = trimlog.settled_picture("month.png")
     trimlog.keys("Next")
@@ -77,7 +83,7 @@ def calendar_road(trimlog):
                    trimlog.rows("SELECT * FROM weight_loss_sample WHERE PersonID = ? ORDER BY ThisDate", sample),
                    "the sample profile's weights")
 
-    trimlog.start().wait_for_window("Trimlog Pro")
+    trimlog.start().wait_for_window("Trimlog Pro 2")
     trimlog.keys("Prior")
     go_to_first_day(trimlog)
     trimlog.expect_picture(end, "after a new start")

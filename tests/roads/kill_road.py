@@ -10,7 +10,7 @@ def kill_road(trimlog):
     trimlog.add_person(weights=[(first - datetime.timedelta(days=1), 190.0)])
     left = {}
     for round_, open_text in enumerate(["", "1", "17"]):
-        trimlog.start().wait_for_window("Trimlog Pro")
+        trimlog.start().wait_for_window("Trimlog Pro 2")
         trimlog.keys("Prior", *["Left"] * 31, *["Right"] * len(left))
         for day in range(len(left), len(left) + 4):
             weight = 189.5 - day * 0.3

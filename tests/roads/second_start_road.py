@@ -23,7 +23,7 @@ def cover_with_another_window(trimlog):
 
 def second_start_road(trimlog):
     trimlog.add_person(weights=[(road.first_of_last_month(), 183.4)])
-    trimlog.start().wait_for_window("Trimlog Pro")
+    trimlog.start().wait_for_window("Trimlog Pro 2")
     trimlog.type("180.2")
     trimlog.keys("Return")
     month = trimlog.settled_picture("month.png")
@@ -32,16 +32,16 @@ def second_start_road(trimlog):
     before = fingerprint(trimlog)
     second = trimlog.launch()
     road.check(second.wait(timeout=10), 0, "exit code of the second start")
-    trimlog.wait_for_window("Trimlog Pro")
+    trimlog.wait_for_window("Trimlog Pro 2")
     if cover:
         cover.terminate()
         cover.wait()
-        trimlog.wait_for_window("Trimlog Pro")
+        trimlog.wait_for_window("Trimlog Pro 2")
     road.check(fingerprint(trimlog), before, "the data file after a second start")
     trimlog.expect_picture(month, "the first window, in front again")
 
     trimlog.kill()
-    trimlog.start().wait_for_window("Trimlog Pro")
+    trimlog.start().wait_for_window("Trimlog Pro 2")
     trimlog.quit()
     road.check(len(trimlog.weights()), 2, "weights after a kill and a new start")
 
