@@ -5,11 +5,11 @@ set -euo pipefail
 cd "$(dirname "$(readlink -f "$0")")/../.."
 mkdir -p build/tidy
 python3 - <<'PY'
-import json, re
+import json, os, re
 commands = json.load(open("build/compile_commands.json"))
 kept = []
 for c in commands:
-    if "/src/" not in c["file"] or not c["file"].endswith(".cpp"):
+    if not c["file"].startswith(os.getcwd() + "/src/") or not c["file"].endswith(".cpp"):
         continue
     c["command"] = re.sub(r"-Winvalid-pch|-include \S*cmake_pch\.hxx|-Wshadow=local|^\S*ccache ", "", c["command"])
     kept.append(c)
