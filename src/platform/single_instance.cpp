@@ -7,7 +7,13 @@
 #include <QLocalSocket>
 #include <QThread>
 #ifdef Q_OS_UNIX
+#include <fcntl.h>
+#include <sys/file.h>
 #include <unistd.h>
+
+#include <QFile>
+#else
+#include <QLockFile>
 #endif
 
 namespace trimlog {
@@ -35,10 +41,51 @@ QString NameFor(const QString &programDirectory) {
 
 }  // namespace
 
+/// What the first copy holds. It ends with its process, however that died.
+class SingleInstance::Lock {
+ public:
+  enum class State { Held, Taken, Impossible };
+  bool IsHeld() const { return state_ == State::Held; }
+  State Try();
+
+#ifdef Q_OS_UNIX
+  /// The directory itself is locked: nothing is written, and nothing stale can be left behind.
+  Lock(const QString &programDirectory, const QString &)
+      : directory_(open(QFile::encodeName(programDirectory).constData(), O_RDONLY | O_DIRECTORY | O_CLOEXEC)) {}
+  ~Lock() {
+    if (directory_ >= 0) close(directory_);
+  }
+  Lock(const Lock &) = delete;
+  Lock &operator=(const Lock &) = delete;
+
+ private:
+  const int directory_;
+#else
+  Lock(const QString &programDirectory, const QString &name)
+      : file_(QDir(programDirectory).filePath(u'.' + name + QStringLiteral(".lock"))) {
+    file_.setStaleLockTime(0);  // only a process that is gone gives its lock up, not one that runs for long
+  }
+
+ private:
+  QLockFile file_;
+#endif
+  State state_ = State::Impossible;
+};
+
+SingleInstance::Lock::State SingleInstance::Lock::Try() {
+#ifdef Q_OS_UNIX
+  const bool held = directory_ >= 0 && flock(directory_, LOCK_EX | LOCK_NB) == 0;
+  const bool taken = directory_ >= 0 && errno == EWOULDBLOCK;
+#else
+  const bool held = file_.tryLock();
+  const bool taken = file_.error() == QLockFile::LockFailedError;
+#endif
+  state_ = held ? State::Held : taken ? State::Taken : State::Impossible;
+  return state_;
+}
+
 SingleInstance::SingleInstance(const QString &programDirectory)
-    : name_(NameFor(programDirectory)),
-      lock_(std::make_unique<QLockFile>(QDir(programDirectory).filePath(u'.' + name_ + QStringLiteral(".lock")))) {
-  lock_->setStaleLockTime(0);  // only a process that is gone gives its lock up, not one that runs for long
+    : name_(NameFor(programDirectory)), lock_(std::make_unique<Lock>(programDirectory, name_)) {
   connect(&server_, &QLocalServer::newConnection, this, [this] {
     while (QLocalSocket *caller = server_.nextPendingConnection()) caller->deleteLater();
     Q_EMIT RaiseRequested();
@@ -48,14 +95,12 @@ SingleInstance::SingleInstance(const QString &programDirectory)
 SingleInstance::~SingleInstance() = default;
 
 bool SingleInstance::ActivatePrevInstance() {
-  if (lock_->isLocked()) return false;
-  if (lock_->tryLock()) {
-    Listen();
-    return false;
-  }
-  // Where no lock can be written nobody else holds one; and where nobody answers, this copy goes on, to say that the
-  // data file is in use rather than to end without a word.
-  return lock_->error() == QLockFile::LockFailedError && AskToRaise();
+  if (lock_->IsHeld()) return false;
+  const Lock::State state = lock_->Try();
+  if (state == Lock::State::Held) Listen();
+  // Where no lock can be had nobody else holds one; and where nobody answers, this copy goes on, to say that the data
+  // file is in use rather than to end without a word.
+  return state == Lock::State::Taken && AskToRaise();
 }
 
 void SingleInstance::Listen() {

@@ -1,7 +1,6 @@
 #pragma once
 
 #include <QLocalServer>
-#include <QLockFile>
 #include <QObject>
 #include <QString>
 #include <memory>
@@ -25,11 +24,13 @@ class SingleInstance : public QObject {
   void RaiseRequested();
 
  private:
+  class Lock;
+
   void Listen();
   bool AskToRaise() const;
 
   QString name_;
-  std::unique_ptr<QLockFile> lock_;
+  std::unique_ptr<Lock> lock_;
   QLocalServer server_;
 };
 
