@@ -25,6 +25,7 @@ struct Box {
 class Boxes {
  public:
   virtual ~Boxes() = default;
+  QString programTitle = {};  ///< what an empty title means
   virtual BoxButton Show(const Box &box) = 0;
   /// A line of text, or nothing when cancelled.
   virtual std::optional<QString> AskText(const QString &title, const QString &prompt, const QString &initial) = 0;

@@ -60,7 +60,7 @@ bool frmMDI::MDIForm_Load() {
 
 void frmMDI::SetTitle() {
   const QString title = ApplicationTitle(session_);
-  QApplication::setApplicationDisplayName(title);
+  session_.boxes.programTitle = title;
   setWindowTitle(title);
 }
 

@@ -46,9 +46,9 @@ QMessageBox::StandardButton StandardButtonOf(BoxButton button) {
   return QMessageBox::No;
 }
 
-QString TitleOf(const QString &title) { return title.isEmpty() ? QGuiApplication::applicationDisplayName() : title; }
-
 }  // namespace
+
+QString QtBoxes::TitleOf(const QString &title) const { return title.isEmpty() ? programTitle : title; }
 
 BoxButton QtBoxes::Show(const Box &box) {
   QMessageBox message(Owner());

@@ -12,6 +12,9 @@ class QtBoxes final : public Boxes {
   QString ChooseOpenFile(const QString &title, const QStringList &filters, const QString &folder) override;
   QString ChooseSaveFile(const QString &title, const QStringList &filters, const QString &proposed) override;
   QString ChooseFolder(const QString &title, const QString &folder) override;
+
+ private:
+  QString TitleOf(const QString &title) const;
 };
 
 }  // namespace trimlog
