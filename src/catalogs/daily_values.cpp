@@ -11,7 +11,7 @@ QString DailyValueLabel(const Nutrients &nutrients, int nutrientID) {
 }
 
 QString AmountFromDailyValue(Session &session, int nutrientID, double percent) {
-  const QString &field = session.nutrients.NutrientDefs.at(static_cast<std::size_t>(nutrientID - 1)).fieldName;
+  const QString &field = Definition(session.nutrients, nutrientID).fieldName;
   const QString reference = GetDataValue(session.Data(), field, QStringLiteral("nutrition_targets"),
                                          QStringLiteral("((nutrition_targets.TargetID) = 1)"));
   return Format(Val(reference) * (percent / 100), GetNutrientFormat(field), session.locale);

@@ -11,10 +11,6 @@ namespace {
 
 const QString mealsList = QStringLiteral("meals_list");
 
-const NutrientDef &Definition(const Nutrients &nutrients, int nutrientID) {
-  return nutrients.NutrientDefs.at(static_cast<std::size_t>(nutrientID - 1));
-}
-
 /// What is stored is what is shown: rounded by the display pattern. A nutrient that was left empty is 0.
 double StoredValue(const FoodRecord &food, const Nutrients &nutrients, int nutrientID) {
   return Val(Format(food.nutrients.OrZero(nutrientID), GetNutrientFormat(Definition(nutrients, nutrientID).fieldName)));
@@ -28,13 +24,6 @@ void RefuseDoubleQuotes(Session &session, int mealID) {
   if (description.contains(QLatin1Char('"'))) {
     throw Error(error_number::invalidSql, QStringLiteral("The description holds a double quote: ") + description);
   }
-}
-
-QString CustomName(const Nutrients &nutrients, int nutrientID) {
-  for (const SelectedNutrient &position : nutrients.SelectedNutrients) {
-    if (position.NutrientID == nutrientID) return position.description;
-  }
-  return Definition(nutrients, nutrientID).description;
 }
 
 }  // namespace
@@ -177,7 +166,10 @@ QString NutrientLabel(const Nutrients &nutrients, int nutrientID) {
                                                                  "Net Carbs* (g):",
                                                                  "Sugar Alc (g):",
                                                                  "Trans Fat (g):"};
-  if (IsCustomNutrient(nutrientID)) return CustomName(nutrients, nutrientID) + QLatin1Char(':');
+  if (IsCustomNutrient(nutrientID)) {
+    const QString given = CustomNutrientName(nutrients, nutrientID);
+    return (given.isEmpty() ? Definition(nutrients, nutrientID).description : given) + QLatin1Char(':');
+  }
   return QString::fromLatin1(labels.at(static_cast<std::size_t>(nutrientID - 1)));
 }
 

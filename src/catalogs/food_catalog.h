@@ -9,6 +9,10 @@
 
 namespace trimlog {
 
+inline constexpr int foodTextLength = 255;          ///< of a description and of a serving
+inline constexpr double highestNutrient = 1000000;  ///< what the grids and the food page take
+inline constexpr int highestNetCarbs = 32767;       ///< net carbs are kept in 16 bits
+
 /// A food as the full nutrient dialog shows and a new one is made.
 struct FoodRecord {
   int MealID = 0;  ///< 0: not stored yet

@@ -12,10 +12,6 @@ namespace trimlog {
 
 namespace {
 
-constexpr int textLength = 255;
-constexpr double highestNutrient = 1000000;
-constexpr int highestNetCarbs = 32767;
-
 QString CheckDescription(const Value &value) {
   if (!value.toString().trimmed().isEmpty()) return {};
   return QStringLiteral("Please enter a description for this food or meal.");
@@ -89,14 +85,14 @@ GridColumns FoodColumns(Session &session, const QString &groupsDropDown) {
        .field = QStringLiteral("MealDesc"),
        .width = 44,
        .editable = true,
-       .maxLength = textLength,
+       .maxLength = foodTextLength,
        .validate = CheckDescription},
       {.name = QStringLiteral("Amount"),
        .caption = QStringLiteral("Serving Size"),
        .field = QStringLiteral("Amount"),
        .width = 18,
        .editable = true,
-       .maxLength = textLength},
+       .maxLength = foodTextLength},
       GroupColumn(session, groupsDropDown),
       {.name = QStringLiteral("GIValue"),
        .caption = QStringLiteral("GI\nValue"),

@@ -26,7 +26,7 @@ const QString listed = QStringLiteral("((meals_list.RecordTypeID) <> 0) And ((me
 void AppendSorts(QList<FoodSortChoice> &choices, const Nutrients &nutrients, bool highest) {
   for (const SelectedNutrient &position : nutrients.SelectedNutrients) {
     if (position.NutrientID == 0) continue;
-    const QString &field = nutrients.NutrientDefs.at(static_cast<std::size_t>(position.NutrientID - 1)).fieldName;
+    const QString &field = Definition(nutrients, position.NutrientID).fieldName;
     choices.append({highest ? QLatin1Char('-') + field : field,
                     position.description + (highest ? QStringLiteral(" (Highest)") : QStringLiteral(" (Lowest)"))});
   }

@@ -22,7 +22,6 @@ struct Navigator {
   std::function<void(QWidget *owner)> OpenFoodSetup;
   std::function<void(QWidget *owner)> OpenNutrientSelection;
   std::function<void(QWidget *owner)> OpenTargets;  ///< nutrition targets
-  std::function<void(QWidget *owner)> OpenDailyValues;
   std::function<void(QWidget *owner)> OpenRecipes;
   std::function<void(QWidget *owner)> OpenExercises;
   std::function<void(QWidget *owner)> OpenQuickJournal;

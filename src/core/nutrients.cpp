@@ -27,6 +27,30 @@ const QHash<QString, QString> &Patterns() {
 
 }  // namespace
 
+bool IsPercentOfCalories(int nutrientID) {
+  return nutrientID == nutrient_id::calFromFatPct || nutrientID == nutrient_id::calFromProteinPct ||
+         nutrientID == nutrient_id::calFromCarbPct;
+}
+
+bool IsCustomNutrient(int nutrientID) {
+  return nutrientID >= nutrient_id::firstCustom && nutrientID <= nutrient_id::lastCustom;
+}
+
+const NutrientDef &Definition(const Nutrients &nutrients, int nutrientID) {
+  if (nutrientID < 1 || nutrientID > nutrientCount) {
+    throw Error(error_number::outOfBounds, QStringLiteral("There is no nutrient %1.").arg(nutrientID));
+  }
+  return nutrients.NutrientDefs[static_cast<std::size_t>(nutrientID - 1)];
+}
+
+QString CustomNutrientName(const Nutrients &nutrients, int nutrientID) {
+  if (!IsCustomNutrient(nutrientID)) return {};
+  for (const SelectedNutrient &position : nutrients.SelectedNutrients) {
+    if (position.NutrientID == nutrientID) return position.description;
+  }
+  return {};
+}
+
 void FillNutrientDefinitions(Nutrients &nutrients, Database &database) {
   std::array<NutrientDef, nutrientCount> definitions;
   Recordset rows = database.OpenRecordset(QStringLiteral("SELECT nutrients.* FROM nutrients;"));

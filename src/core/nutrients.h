@@ -37,6 +37,35 @@ struct Nutrients {
   Nutrients() { NutrientTargets.fill(-1); }
 };
 
+/// Nutrients that the rules treat apart, by NutrientID.
+namespace nutrient_id {
+inline constexpr int calories = 1;
+inline constexpr int carbs = 2;
+inline constexpr int fat = 3;
+inline constexpr int protein = 4;
+inline constexpr int fiber = 5;
+inline constexpr int calFromFatPct = 23;
+inline constexpr int calFromProteinPct = 25;
+inline constexpr int calFromCarbPct = 27;
+inline constexpr int firstCustom = 28;
+inline constexpr int lastCustom = 32;
+inline constexpr int netCarbs = 33;
+inline constexpr int sugarAlcohols = 34;
+inline constexpr int transFat = 35;
+// Figures of a day that are no nutrient, offered beside them for the calendar and the charts.
+inline constexpr int caloriesBurned = 101;
+inline constexpr int netCalories = 102;
+}  // namespace nutrient_id
+
+/// A share of the calories: it neither scales with the servings nor adds up over a day.
+bool IsPercentOfCalories(int nutrientID);
+bool IsCustomNutrient(int nutrientID);
+
+/// The definition of NutrientID 1 to 35; throws outOfBounds beyond.
+const NutrientDef &Definition(const Nutrients &nutrients, int nutrientID);
+/// The name that the person gave a custom nutrient where it is shown; "" for one that is not, and for all others.
+QString CustomNutrientName(const Nutrients &nutrients, int nutrientID);
+
 /// Reads the 35 definitions. Throws outOfBounds for an id above 35.
 void FillNutrientDefinitions(Nutrients &nutrients, Database &database);
 /// Reads the ten shown positions; one selection holds for the whole file.

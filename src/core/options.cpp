@@ -48,15 +48,14 @@ QList<OptionChoice> UnitChoices(Session &session) {
   return units;
 }
 
-QList<OptionChoice> NutrientChoices(Session &session) {
-  QList<OptionChoice> choices = {{caloriesConsumedID, QStringLiteral("Calories Consumed (kcal)")},
-                                 {caloriesBurnedID, QStringLiteral("Calories Burned (kcal)")},
-                                 {netCaloriesID, QStringLiteral("Net Calories (kcal)")}};
-  Recordset rows = session.Data().OpenRecordset(
-      QStringLiteral("SELECT nutrients.* FROM nutrients WHERE (nutrients.NutrientID > 1) ORDER BY "
-                     "nutrients.NutSortOrder;"));
-  for (; !rows.Eof(); rows.MoveNext()) {
-    choices.append({rows.Integer(QStringLiteral("NutrientID")), rows.Text(QStringLiteral("NutDescPlusUoM"))});
+QList<OptionChoice> NutrientChoices(const Nutrients &nutrients) {
+  QList<OptionChoice> choices = {{nutrient_id::calories, QStringLiteral("Calories Consumed (kcal)")},
+                                 {nutrient_id::caloriesBurned, QStringLiteral("Calories Burned (kcal)")},
+                                 {nutrient_id::netCalories, QStringLiteral("Net Calories (kcal)")}};
+  for (int id = nutrient_id::calories + 1; id <= nutrientCount; ++id) {
+    const QString given = CustomNutrientName(nutrients, id);
+    const QString name = given.isEmpty() ? Definition(nutrients, id).descriptionPlusUnit : given;
+    if (!name.isEmpty()) choices.append({id, name});
   }
   return choices;
 }

@@ -19,13 +19,9 @@ const QList<OptionChoice> &BodyTypes();   ///< setting BodyMeasDefault, 1 to 8
 const QList<QString> &ChartNames();       ///< charts 1 to 4, at 0 to 3
 /// The two unit systems of the data file.
 QList<OptionChoice> UnitChoices(Session &session);
-/// What the calendar's figure of the day can be: calories consumed (1), burned (101), net (102), then every other
-/// nutrient with its unit.
-QList<OptionChoice> NutrientChoices(Session &session);
-
-inline constexpr int caloriesConsumedID = 1;
-inline constexpr int caloriesBurnedID = 101;
-inline constexpr int netCaloriesID = 102;
+/// What the calendar's figure of the day can be: calories consumed, burned and net, then every other nutrient by its
+/// id, with its unit; a custom one under the name that the person gave it.
+QList<OptionChoice> NutrientChoices(const Nutrients &nutrients);
 
 /// The words of a unit system.
 struct UnitLabels {

@@ -34,7 +34,7 @@ QString TotalText(const Nutrients &nutrients, const SelectedNutrient &position, 
     const bool known = sums.found && sums.calories != 0;
     return Format(known ? PercentOf(position.NutrientID, sums) : sum, QStringLiteral("General Number"), locale);
   }
-  const QString &field = nutrients.NutrientDefs.at(static_cast<std::size_t>(position.NutrientID - 1)).fieldName;
+  const QString &field = Definition(nutrients, position.NutrientID).fieldName;
   return Format(sum, GetNutrientFormat(field), locale);
 }
 

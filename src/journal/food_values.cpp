@@ -26,13 +26,4 @@ std::optional<double> FoodValues::At(int nutrientID) const { return values_[Inde
 
 void FoodValues::Set(int nutrientID, std::optional<double> value) { values_[IndexOf(nutrientID)] = value; }
 
-bool IsPercentOfCalories(int nutrientID) {
-  return nutrientID == nutrient_id::calFromFatPct || nutrientID == nutrient_id::calFromProteinPct ||
-         nutrientID == nutrient_id::calFromCarbPct;
-}
-
-bool IsCustomNutrient(int nutrientID) {
-  return nutrientID >= nutrient_id::firstCustom && nutrientID <= nutrient_id::lastCustom;
-}
-
 }  // namespace trimlog

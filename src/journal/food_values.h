@@ -25,25 +25,4 @@ class FoodValues {
   std::array<std::optional<double>, nutrientCount> values_;
 };
 
-/// Nutrients that the rules treat apart, by NutrientID.
-namespace nutrient_id {
-inline constexpr int calories = 1;
-inline constexpr int carbs = 2;
-inline constexpr int fat = 3;
-inline constexpr int protein = 4;
-inline constexpr int fiber = 5;
-inline constexpr int calFromFatPct = 23;
-inline constexpr int calFromProteinPct = 25;
-inline constexpr int calFromCarbPct = 27;
-inline constexpr int firstCustom = 28;
-inline constexpr int lastCustom = 32;
-inline constexpr int netCarbs = 33;
-inline constexpr int sugarAlcohols = 34;
-inline constexpr int transFat = 35;
-}  // namespace nutrient_id
-
-/// A share of the calories: it neither scales with the servings nor adds up over a day.
-bool IsPercentOfCalories(int nutrientID);
-bool IsCustomNutrient(int nutrientID);
-
 }  // namespace trimlog

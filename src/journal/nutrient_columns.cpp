@@ -21,7 +21,7 @@ std::array<NutrientColumn, shownNutrients> SetMealFields(const Nutrients &nutrie
   for (std::size_t i = 0; i < shownNutrients; ++i) {
     const SelectedNutrient &position = nutrients.SelectedNutrients[i];
     if (position.NutrientID == 0) continue;
-    const NutrientDef &definition = nutrients.NutrientDefs.at(static_cast<std::size_t>(position.NutrientID - 1));
+    const NutrientDef &definition = Definition(nutrients, position.NutrientID);
     columns[i] = {definition.fieldName, Caption(position, definition), GetNutrientFormat(definition.fieldName)};
   }
   return columns;

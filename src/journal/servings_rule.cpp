@@ -22,7 +22,7 @@ double Rounded(double value, const QString &fieldName) {
 }
 
 const QString &FieldName(const Nutrients &nutrients, int nutrientID) {
-  return nutrients.NutrientDefs.at(static_cast<std::size_t>(nutrientID - 1)).fieldName;
+  return Definition(nutrients, nutrientID).fieldName;
 }
 
 double ShownValue(const SelectedNutrient &position, const FoodValues &food, const QString &cell, double servings,

@@ -202,7 +202,8 @@ bool CalendarModel::SaveWeight(const QString &text) {
   reward_ = EvaluateReward(session_, month_, month_.currentIndex);
   entryText_ = cell.data;
   // The basal rate goes by the latest weight, so the net calories of the days behind may follow.
-  if (session_.settings.NutrientID == netCaloriesID && session_.settings.NetCaloriesBMR) FillCalendarNutrients();
+  if (session_.settings.NutrientID == nutrient_id::netCalories && session_.settings.NetCaloriesBMR)
+    FillCalendarNutrients();
   session_.changes.Announce({QStringLiteral("weight_loss"), session_.CurrentPersonID, cell.date});
   return true;
 }

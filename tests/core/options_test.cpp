@@ -11,7 +11,8 @@ namespace {
 
 TEST(NutrientChoices, HoldTheThreeCalorieFiguresAndEveryNutrientOnce) {
   TestSession session;
-  const QList<OptionChoice> choices = NutrientChoices(*session);
+  session->nutrients.SelectedNutrients[3] = {nutrient_id::firstCustom, QStringLiteral("Caffeine"), true, {}};
+  const QList<OptionChoice> choices = NutrientChoices(session->nutrients);
   ASSERT_EQ(choices.size(), nutrientCount + 2);
   std::map<int, std::string> byID;
   for (const OptionChoice &choice : choices) byID[choice.value] = choice.text.toStdString();
@@ -20,6 +21,8 @@ TEST(NutrientChoices, HoldTheThreeCalorieFiguresAndEveryNutrientOnce) {
   EXPECT_EQ(byID[101], "Calories Burned (kcal)");
   EXPECT_EQ(byID[102], "Net Calories (kcal)");
   EXPECT_EQ(byID[4], "Protein (g)");
+  EXPECT_EQ(byID[28], "Caffeine") << "a custom nutrient goes by the name that the person gave it";
+  EXPECT_FALSE(byID[29].empty());
   EXPECT_FALSE(byID.contains(0));
 }
 

@@ -95,18 +95,5 @@ TEST_F(CalendarNutrients, HiddenFiguresAreNotReadAndAnUnknownNutrientShowsNothin
             QStringLiteral("0"));
 }
 
-TEST_F(CalendarNutrients, ChoicesNameEachFigureOnce) {
-  const std::vector<CalendarNutrient> choices = CalendarNutrientChoices(calendar.session->nutrients);
-  ASSERT_GT(choices.size(), 30U);
-  EXPECT_EQ(choices[0].description, QStringLiteral("Calories Consumed (kcal)"));
-  EXPECT_EQ(choices[1].NutrientID, caloriesBurnedID);
-  EXPECT_EQ(choices[2].description, QStringLiteral("Net Calories (kcal)"));
-  std::map<int, int> times;
-  for (const CalendarNutrient &choice : choices) {
-    EXPECT_FALSE(choice.description.isEmpty());
-    EXPECT_EQ(++times[choice.NutrientID], 1) << choice.NutrientID;
-  }
-}
-
 }  // namespace
 }  // namespace trimlog

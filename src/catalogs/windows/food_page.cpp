@@ -20,10 +20,7 @@ namespace trimlog {
 
 namespace {
 
-constexpr int textLength = 255;
 constexpr int nutrientRows = 12;
-constexpr double highestNutrient = 1000000;
-constexpr int highestNetCarbs = 32767;
 
 /// The fields that follow the grams of one nutrient.
 struct GramsRule {
@@ -87,10 +84,10 @@ void FoodPage::Build() {
 }
 
 void FoodPage::AddTexts(QFormLayout *form) {
-  txtMealDesc = new TextField(QStringLiteral("txtMealDesc"), QStringLiteral("Description"), textLength, this);
+  txtMealDesc = new TextField(QStringLiteral("txtMealDesc"), QStringLiteral("Description"), foodTextLength, this);
   form->addRow(QStringLiteral("&Description:"), txtMealDesc);
   if (IsNew()) {
-    txtAmount = new TextField(QStringLiteral("txtAmount"), QStringLiteral("Serving size"), textLength, this);
+    txtAmount = new TextField(QStringLiteral("txtAmount"), QStringLiteral("Serving size"), foodTextLength, this);
     form->addRow(QStringLiteral("Ser&ving size:"), txtAmount);
   }
   cboMealGroups = new QComboBox(this);
@@ -115,7 +112,7 @@ void FoodPage::AddNutrients(QGridLayout *grid) {
   for (const int id : NutrientDialogOrder()) {
     const QString label = NutrientLabel(session_.nutrients, id);
     auto *field = new NumberField(QStringLiteral("txtAddRec0(%1)").arg(id), label, session_.locale, this);
-    field->setProperty("DataField", session_.nutrients.NutrientDefs.at(static_cast<std::size_t>(id - 1)).fieldName);
+    field->setProperty("DataField", Definition(session_.nutrients, id).fieldName);
     field->SetRange(0, id == nutrient_id::netCarbs ? highestNetCarbs : highestNutrient);
     txtAddRec0.insert(id, field);
     auto *caption = new QLabel(label, this);
@@ -154,7 +151,7 @@ void FoodPage::ShowFood() {
   txtMealDesc->setText(food_.MealDesc);
   for (auto field = txtAddRec0.cbegin(); field != txtAddRec0.cend(); ++field) {
     if (const auto value = food_.nutrients.At(field.key())) {
-      const NutrientDef &definition = session_.nutrients.NutrientDefs.at(static_cast<std::size_t>(field.key() - 1));
+      const NutrientDef &definition = Definition(session_.nutrients, field.key());
       field.value()->SetNumber(*value, GetNutrientFormat(definition.fieldName));
     }
   }

@@ -31,7 +31,7 @@ QWidget *SetupCalendarPage::MakeCalendarGroup(Session &session) {
   auto *label = new QLabel(QStringLiteral("&Nutrient shown on the calendar and in the nutrients chart:"), group);
   cboNutrientID = new ChoiceCombo(QStringLiteral("cboNutrientID"),
                                   QStringLiteral("Nutrient shown on the calendar and in the nutrients chart"), group);
-  cboNutrientID->SetChoices(NutrientChoices(session));
+  cboNutrientID->SetChoices(NutrientChoices(session.nutrients));
   label->setBuddy(cboNutrientID);
   layout->addWidget(label);
   layout->addWidget(cboNutrientID, 0, Qt::AlignLeft);

@@ -10,12 +10,12 @@
 #include <QVBoxLayout>
 
 #include "core/failure_guard.h"
+#include "core/options.h"
 #include "core/session.h"
 #include "core/windows/art.h"
 #include "core/windows/theme.h"
 #include "platform/text_format.h"
 #include "platform/windows/window_printer.h"
-#include "weightlog/calendar_nutrients.h"
 #include "weightlog/windows/frmReward.h"
 #include "weightlog/windows/month_grid.h"
 #include "weightlog/windows/weight_entry.h"
@@ -147,8 +147,8 @@ QWidget *frmData::MakeFooter() {
 }
 
 void frmData::FillNutrients() {
-  for (const CalendarNutrient &choice : CalendarNutrientChoices(session_.nutrients)) {
-    cboNutrientID->addItem(choice.description, choice.NutrientID);
+  for (const OptionChoice &choice : NutrientChoices(session_.nutrients)) {
+    cboNutrientID->addItem(choice.text, choice.value);
   }
 }
 
