@@ -387,6 +387,17 @@ TEST(FrmData, IsPrintedWithoutColoursAndButtonsAndComesBackAsItWas) {
   EXPECT_EQ(before.size(), c.form->grab().size());
 }
 
+TEST(FrmData, OffersACustomNutrientUnderTheNameItWasGiven) {
+  Calendar c;
+  c.Open();
+  auto *figures = c.Find<QComboBox>("cboNutrientID");
+  const int chosen = figures->currentData().toInt();
+  c.session->nutrients.SelectedNutrients[0] = {nutrient_id::firstCustom, QStringLiteral("Caffeine"), true, {}};
+  c.session->changes.Announce({QStringLiteral("selected_nutrients"), {}, {}});
+  EXPECT_EQ(figures->itemText(figures->findData(nutrient_id::firstCustom)), QStringLiteral("Caffeine"));
+  EXPECT_EQ(figures->currentData().toInt(), chosen);
+}
+
 TEST(FrmData, ShowsEverythingUncutAtItsSmallestSize) {
   Calendar c;
   WeightLog(*c.session).Insert({QDate(2026, 3, 1), 188.88, 0});

@@ -147,6 +147,7 @@ QWidget *frmData::MakeFooter() {
 }
 
 void frmData::FillNutrients() {
+  cboNutrientID->clear();
   for (const OptionChoice &choice : NutrientChoices(session_.nutrients)) {
     cboNutrientID->addItem(choice.text, choice.value);
   }
@@ -222,6 +223,11 @@ void frmData::DeleteWeight() {
 }
 
 void frmData::OnData(const DataChange &change) {
+  if (change.table == QStringLiteral("selected_nutrients")) {  // a custom nutrient may have got another name
+    FillNutrients();
+    ShowSettings();
+    return;
+  }
   if (entry_->IsSaving() || (!change.personID.isEmpty() && change.personID != session_.CurrentPersonID)) return;
   if (change.table.isEmpty() || change.table == QStringLiteral("weight_loss")) {
     model_.Refresh();
