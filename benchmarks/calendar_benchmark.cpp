@@ -2,10 +2,7 @@
 // the end stand the ratios, with the limit that each should keep.
 #include <benchmark/benchmark.h>
 
-#include <algorithm>
-#include <cstdio>
-#include <map>
-
+#include "ratio_reporter.h"
 #include "support/test_session.h"
 #include "weightlog/calendar_model.h"
 
@@ -87,39 +84,14 @@ BENCHMARK(SwitchMonth<TenYears>)->Name("SwitchMonthTenYears")->Iterations(50)->R
 BENCHMARK(TypeWeight<OneMonth>)->Name("TypeWeightOneMonth")->Iterations(50)->Repetitions(9);
 BENCHMARK(TypeWeight<TenYears>)->Name("TypeWeightTenYears")->Iterations(50)->Repetitions(9);
 
-class RatioReporter : public benchmark::ConsoleReporter {
- public:
-  void ReportRuns(const std::vector<Run> &runs) override {
-    // The quickest repetition: the others waited for the disk or for other programs.
-    for (const Run &run : runs) {
-      if (run.run_type != Run::RT_Iteration) continue;
-      const auto [known, added] = seconds_.try_emplace(run.run_name.function_name, run.GetAdjustedCPUTime());
-      if (!added) known->second = std::min(known->second, run.GetAdjustedCPUTime());
-    }
-    ConsoleReporter::ReportRuns(runs);
-  }
-
-  bool PrintRatios() {
-    constexpr double limit = 1.2;
-    bool kept = true;
-    for (const char *action : {"SwitchMonth", "TypeWeight"}) {
-      const double value = seconds_[std::string(action) + "TenYears"] / seconds_[std::string(action) + "OneMonth"];
-      std::printf("%-12s with ten years / with one month %5.2f  (at most %.1f)%s\n", action, value, limit,
-                  value > limit ? "  EXCEEDED" : "");
-      kept = kept && value <= limit;
-    }
-    return kept;
-  }
-
- private:
-  std::map<std::string, double> seconds_;
-};
-
 }  // namespace
 
 int main(int count, char **arguments) {
   benchmark::Initialize(&count, arguments);
-  RatioReporter reporter;
+  RatioReporter reporter({
+      {"a month switch, ten years / one month", "SwitchMonthTenYears", "SwitchMonthOneMonth", 1.2},
+      {"a typed weight, ten years / one month", "TypeWeightTenYears", "TypeWeightOneMonth", 1.2},
+  });
   benchmark::RunSpecifiedBenchmarks(&reporter);
   return reporter.PrintRatios() ? 0 : 1;
 }
