@@ -16,10 +16,10 @@
 
 #include "catalogs/food_lists.h"
 #include "catalogs/windows/frmSetupFoods.h"
-#include "core/navigator.h"
-#include "core/nutrients.h"
-#include "platform/grid_model.h"
-#include "platform/windows/bound_grid.h"
+#include "core/data/nutrients.h"
+#include "core/session/navigator.h"
+#include "platform/grid/grid_model.h"
+#include "platform/windows/grid/bound_grid.h"
 #include "ratio_reporter.h"
 #include "support/test_session.h"
 

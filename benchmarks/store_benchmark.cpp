@@ -10,10 +10,10 @@
 #include <cstdio>
 #include <map>
 
-#include "core/data_access.h"
-#include "platform/database.h"
-#include "platform/recordset.h"
-#include "platform/text_format.h"
+#include "core/data/data_access.h"
+#include "platform/store/database.h"
+#include "platform/store/recordset.h"
+#include "platform/text/text_format.h"
 #include "ratio_reporter.h"
 
 using namespace trimlog;

@@ -1,5 +1,5 @@
-# What every target of the project shares, and the shape of a room: its logic in src/<room>/*.cpp, its
-# windows in src/<room>/windows/*.cpp, each a link target of its own.
+# What every target of the project shares, and the shape of a room: its logic in src/<room>/ and the folders below it,
+# its windows in src/<room>/windows/ and the folders below that, each a link target of its own.
 
 add_library(trimlog_flags INTERFACE)
 target_compile_options(trimlog_flags INTERFACE -Wall -Wextra -Wpedantic -Wshadow=local -Wconversion
@@ -8,34 +8,49 @@ target_compile_definitions(trimlog_flags INTERFACE QT_NO_CAST_FROM_BYTEARRAY QT_
   QT_NO_FOREACH QT_DEPRECATED_WARNINGS)
 if(TRIMLOG_SANITIZE)
   target_compile_options(trimlog_flags INTERFACE -fsanitize=address,undefined -fno-sanitize-recover=all
-    -fno-omit-frame-pointer -O1)
+    -fno-omit-frame-pointer)
   target_link_options(trimlog_flags INTERFACE -fsanitize=address,undefined)
 endif()
 target_include_directories(trimlog_flags INTERFACE "${PROJECT_SOURCE_DIR}/src")
 
-# One precompiled header for all logic, one for all windows: every target of a kind reuses it.
-add_library(logic_pch OBJECT "${PROJECT_SOURCE_DIR}/cmake/logic_pch.cpp")
-target_link_libraries(logic_pch PUBLIC trimlog_flags Qt6::Core SQLiteCpp)
-target_precompile_headers(logic_pch PRIVATE
-  <QtCore/QtCore> <algorithm> <array> <cmath> <functional> <memory> <optional> <stdexcept> <string> <vector>)
-add_library(windows_pch OBJECT "${PROJECT_SOURCE_DIR}/cmake/windows_pch.cpp")
-target_link_libraries(windows_pch PUBLIC trimlog_flags Qt6::Widgets)
-target_precompile_headers(windows_pch PRIVATE
-  <QtCore/QtCore> <QtGui/QtGui> <QtWidgets/QtWidgets> <algorithm> <array> <cmath> <functional> <memory> <optional>
-  <stdexcept> <string> <vector>)
-set_target_properties(logic_pch windows_pch PROPERTIES AUTOMOC OFF AUTORCC OFF)
+# Tests are built for the builder's patience, not for speed: half of a build would be spent on optimising them.
+add_library(test_flags INTERFACE)
+target_link_libraries(test_flags INTERFACE trimlog_flags)
+target_compile_options(test_flags INTERFACE -O0)
 
-# add_logic(<room> LINKS <lower targets>): never sees Qt Widgets.
+# One precompiled header for all logic, one for all windows, and their likes for the tests: every target of a kind
+# reuses it.
+set(logic_headers <QtCore/QtCore> <algorithm> <array> <cmath> <functional> <memory> <optional> <stdexcept> <string>
+  <vector>)
+set(windows_headers <QtCore/QtCore> <QtGui/QtGui> <QtWidgets/QtWidgets> <algorithm> <array> <cmath> <functional>
+  <memory> <optional> <stdexcept> <string> <vector>)
+# add_pch(<name> HEADERS <headers> LINKS <targets>)
+function(add_pch name)
+  cmake_parse_arguments(PARSE_ARGV 1 arg "" "" "HEADERS;LINKS")
+  file(CONFIGURE OUTPUT "${CMAKE_CURRENT_BINARY_DIR}/${name}.cpp"
+    CONTENT "// Holds the precompiled header ${name}, which other targets reuse.\n")
+  add_library(${name} OBJECT "${CMAKE_CURRENT_BINARY_DIR}/${name}.cpp")
+  target_link_libraries(${name} PUBLIC ${arg_LINKS})
+  target_precompile_headers(${name} PRIVATE ${arg_HEADERS})
+endfunction()
+add_pch(logic_pch HEADERS ${logic_headers} LINKS trimlog_flags Qt6::Core SQLiteCpp)
+add_pch(windows_pch HEADERS ${windows_headers} LINKS trimlog_flags Qt6::Widgets)
+
+# The parts of a room are small files: compiled a handful at a time they share the cost of what they include.
+function(shape_room target)
+  set_target_properties(${target} PROPERTIES LINKER_LANGUAGE CXX UNITY_BUILD ${TRIMLOG_UNITY}
+    UNITY_BUILD_BATCH_SIZE 12)
+endfunction()
+
+# add_logic(<room> [MOC] LINKS <lower targets>): never sees Qt Widgets. MOC where a header declares Q_OBJECT.
 function(add_logic room)
-  cmake_parse_arguments(PARSE_ARGV 1 arg "" "" "LINKS")
-  file(GLOB sources CONFIGURE_DEPENDS "${CMAKE_CURRENT_SOURCE_DIR}/${room}/*.cpp" "${CMAKE_CURRENT_SOURCE_DIR}/${room}/*.h")
-  if(NOT sources)
-    add_library(${room} INTERFACE)
-    target_link_libraries(${room} INTERFACE ${arg_LINKS})
-    return()
-  endif()
+  cmake_parse_arguments(PARSE_ARGV 1 arg "MOC" "" "LINKS")
+  file(GLOB_RECURSE sources CONFIGURE_DEPENDS "${CMAKE_CURRENT_SOURCE_DIR}/${room}/*.cpp"
+    "${CMAKE_CURRENT_SOURCE_DIR}/${room}/*.h")
+  list(FILTER sources EXCLUDE REGEX "/${room}/(windows|sound)/")
   add_library(${room} STATIC ${sources})
-  set_target_properties(${room} PROPERTIES LINKER_LANGUAGE CXX)
+  shape_room(${room})
+  set_target_properties(${room} PROPERTIES AUTOMOC ${arg_MOC})
   target_link_libraries(${room} PUBLIC trimlog_flags Qt6::Core ${arg_LINKS})
   target_precompile_headers(${room} REUSE_FROM logic_pch)
 endfunction()
@@ -43,15 +58,11 @@ endfunction()
 # add_windows(<room> LINKS <lower targets>): the frm and ctl classes of a room.
 function(add_windows room)
   cmake_parse_arguments(PARSE_ARGV 1 arg "" "" "LINKS")
-  file(GLOB sources CONFIGURE_DEPENDS "${CMAKE_CURRENT_SOURCE_DIR}/${room}/windows/*.cpp"
+  file(GLOB_RECURSE sources CONFIGURE_DEPENDS "${CMAKE_CURRENT_SOURCE_DIR}/${room}/windows/*.cpp"
     "${CMAKE_CURRENT_SOURCE_DIR}/${room}/windows/*.h")
-  if(NOT sources)
-    add_library(${room}_windows INTERFACE)
-    target_link_libraries(${room}_windows INTERFACE ${arg_LINKS})
-    return()
-  endif()
   add_library(${room}_windows STATIC ${sources})
-  set_target_properties(${room}_windows PROPERTIES LINKER_LANGUAGE CXX)
+  shape_room(${room}_windows)
+  set_target_properties(${room}_windows PROPERTIES AUTOMOC ON)
   target_link_libraries(${room}_windows PUBLIC trimlog_flags Qt6::Widgets ${arg_LINKS})
   target_precompile_headers(${room}_windows REUSE_FROM windows_pch)
 endfunction()

@@ -1,6 +1,6 @@
 #include "maker/catalog_data.h"
 
-#include "core/schema.h"
+#include "core/data/schema.h"
 #include "maker/table_writer.h"
 
 namespace trimlog {

@@ -4,7 +4,7 @@
 #include <QString>
 
 #include "maker/tsv_table.h"
-#include "platform/database.h"
+#include "platform/store/database.h"
 
 namespace trimlog {
 

@@ -1,6 +1,6 @@
 #include "maker/food_update.h"
 
-#include "core/schema.h"
+#include "core/data/schema.h"
 #include "maker/table_writer.h"
 
 namespace trimlog {

@@ -5,7 +5,7 @@
 #include <QFile>
 #include <cstdio>
 
-#include "core/schema.h"
+#include "core/data/schema.h"
 #include "maker/catalog_data.h"
 #include "maker/chime.h"
 #include "maker/food_update.h"

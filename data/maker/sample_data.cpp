@@ -2,11 +2,11 @@
 
 #include <QDate>
 
-#include "core/nutrients.h"
+#include "core/data/nutrients.h"
 #include "maker/table_writer.h"
-#include "platform/recordset.h"
-#include "platform/rounding.h"
-#include "platform/text_format.h"
+#include "platform/store/recordset.h"
+#include "platform/text/rounding.h"
+#include "platform/text/text_format.h"
 
 namespace trimlog {
 

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "core/schema.h"
+#include "core/data/schema.h"
 #include "maker/tsv_table.h"
 
 namespace trimlog {

@@ -1,8 +1,8 @@
 #include <QApplication>
 
-#include "platform/windows/font_warmth.h"
-#include "platform/windows/qt_boxes.h"
-#include "platform/windows/qt_machine.h"
+#include "platform/windows/machine/font_warmth.h"
+#include "platform/windows/machine/qt_boxes.h"
+#include "platform/windows/machine/qt_machine.h"
 #include "program.h"
 
 int main(int argc, char **argv) {

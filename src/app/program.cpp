@@ -3,8 +3,8 @@
 #include <QApplication>
 #include <QScreen>
 
-#include "core/windows/twips.h"
-#include "platform/windows/window_stacking.h"
+#include "core/windows/controls/twips.h"
+#include "platform/windows/machine/window_stacking.h"
 
 namespace trimlog {
 

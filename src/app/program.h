@@ -2,11 +2,11 @@
 
 #include <memory>
 
-#include "core/navigator.h"
-#include "core/room_hooks.h"
-#include "core/startup.h"
-#include "core/windows/frmMDI.h"
-#include "platform/single_instance.h"
+#include "core/session/navigator.h"
+#include "core/session/room_hooks.h"
+#include "core/start/startup.h"
+#include "core/windows/frame/frmMDI.h"
+#include "platform/machine/single_instance.h"
 
 namespace trimlog {
 

@@ -1,8 +1,8 @@
 #include "catalogs/daily_values.h"
 
 #include "catalogs/food_catalog.h"
-#include "core/data_access.h"
-#include "platform/text_format.h"
+#include "core/data/data_access.h"
+#include "platform/text/text_format.h"
 
 namespace trimlog {
 

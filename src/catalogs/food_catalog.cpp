@@ -1,9 +1,9 @@
 #include "catalogs/food_catalog.h"
 
 #include "catalogs/food_lists.h"
-#include "core/data_access.h"
-#include "platform/recordset.h"
-#include "platform/text_format.h"
+#include "core/data/data_access.h"
+#include "platform/store/recordset.h"
+#include "platform/text/text_format.h"
 
 namespace trimlog {
 

@@ -4,7 +4,7 @@
 #include <array>
 #include <vector>
 
-#include "core/session.h"
+#include "core/session/session.h"
 #include "journal/food_values.h"
 
 namespace trimlog {

@@ -2,11 +2,11 @@
 
 #include "catalogs/food_catalog.h"
 #include "catalogs/food_lists.h"
-#include "core/data_access.h"
+#include "core/data/data_access.h"
 #include "journal/nutrient_columns.h"
-#include "platform/grid_blocks.h"
-#include "platform/grid_row_edit.h"
-#include "platform/text_format.h"
+#include "platform/grid/grid_blocks.h"
+#include "platform/grid/grid_row_edit.h"
+#include "platform/text/text_format.h"
 
 namespace trimlog {
 

@@ -3,10 +3,10 @@
 #include <QString>
 #include <vector>
 
-#include "core/failure_guard.h"
-#include "core/session.h"
-#include "platform/grid_columns.h"
-#include "platform/grid_hooks.h"
+#include "core/session/failure_guard.h"
+#include "core/session/session.h"
+#include "platform/grid/grid_columns.h"
+#include "platform/grid/grid_hooks.h"
 
 namespace trimlog {
 

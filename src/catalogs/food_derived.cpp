@@ -1,7 +1,7 @@
 #include "catalogs/food_derived.h"
 
-#include "platform/rounding.h"
-#include "platform/text_format.h"
+#include "platform/text/rounding.h"
+#include "platform/text/text_format.h"
 
 namespace trimlog {
 

@@ -2,8 +2,8 @@
 
 #include <QRegularExpression>
 
-#include "platform/recordset.h"
-#include "platform/text_format.h"
+#include "platform/store/recordset.h"
+#include "platform/text/text_format.h"
 
 namespace trimlog {
 

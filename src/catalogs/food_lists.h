@@ -3,8 +3,8 @@
 #include <QList>
 #include <QString>
 
-#include "core/session.h"
-#include "platform/grid_source.h"
+#include "core/session/session.h"
+#include "platform/grid/grid_source.h"
 
 namespace trimlog {
 

@@ -1,7 +1,7 @@
 #include "catalogs/nutrient_selection.h"
 
-#include "core/data_access.h"
-#include "platform/recordset.h"
+#include "core/data/data_access.h"
+#include "platform/store/recordset.h"
 
 namespace trimlog {
 

@@ -4,7 +4,7 @@
 #include <QString>
 #include <array>
 
-#include "core/session.h"
+#include "core/session/session.h"
 
 namespace trimlog {
 

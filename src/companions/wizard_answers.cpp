@@ -1,8 +1,8 @@
 #include "companions/wizard_answers.h"
 
-#include "core/profile_list.h"
+#include "core/profiles/profile_list.h"
 #include "health/body_formulas.h"
-#include "platform/text_format.h"
+#include "platform/text/text_format.h"
 #include "weightlog/weight_log.h"
 
 namespace trimlog {

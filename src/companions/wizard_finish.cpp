@@ -2,9 +2,9 @@
 
 #include "catalogs/nutrient_selection.h"
 #include "companions/wizard_nutrients.h"
-#include "core/data_access.h"
-#include "platform/recordset.h"
-#include "platform/text_format.h"
+#include "core/data/data_access.h"
+#include "platform/store/recordset.h"
+#include "platform/text/text_format.h"
 
 namespace trimlog {
 

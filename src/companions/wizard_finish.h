@@ -3,7 +3,7 @@
 #include <QString>
 
 #include "companions/wizard_answers.h"
-#include "core/session.h"
+#include "core/session/session.h"
 
 namespace trimlog {
 

@@ -3,11 +3,11 @@
 #include <map>
 
 #include "catalogs/nutrient_selection.h"
-#include "core/data_access.h"
+#include "core/data/data_access.h"
 #include "health/body_formulas.h"
-#include "platform/recordset.h"
-#include "platform/rounding.h"
-#include "platform/text_format.h"
+#include "platform/store/recordset.h"
+#include "platform/text/rounding.h"
+#include "platform/text/text_format.h"
 
 namespace trimlog {
 

@@ -4,9 +4,9 @@
 #include <QString>
 
 #include "companions/wizard_answers.h"
-#include "core/options.h"
-#include "core/session.h"
-#include "platform/grid_row_edit.h"
+#include "core/session/session.h"
+#include "core/settings/options.h"
+#include "platform/grid/grid_row_edit.h"
 
 namespace trimlog {
 

@@ -1,6 +1,6 @@
 #include "health/all_dates.h"
 
-#include "platform/recordset.h"
+#include "platform/store/recordset.h"
 
 namespace trimlog {
 

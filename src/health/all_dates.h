@@ -3,7 +3,7 @@
 #include <QDate>
 #include <QString>
 
-#include "platform/database.h"
+#include "platform/store/database.h"
 
 namespace trimlog {
 

@@ -1,8 +1,8 @@
 #include "health/basal_rates.h"
 
-#include "core/session.h"
-#include "platform/recordset.h"
-#include "platform/text_format.h"
+#include "core/session/session.h"
+#include "platform/store/recordset.h"
+#include "platform/text/text_format.h"
 
 namespace trimlog {
 

@@ -1,11 +1,11 @@
 #include "health/net_calories.h"
 
-#include "core/session.h"
+#include "core/session/session.h"
 #include "health/all_dates.h"
 #include "health/basal_rates.h"
-#include "platform/recordset.h"
-#include "platform/rounding.h"
-#include "platform/text_format.h"
+#include "platform/store/recordset.h"
+#include "platform/text/rounding.h"
+#include "platform/text/text_format.h"
 
 namespace trimlog {
 

@@ -1,8 +1,8 @@
 #include "journal/day_totals.h"
 
-#include "platform/recordset.h"
-#include "platform/rounding.h"
-#include "platform/text_format.h"
+#include "platform/store/recordset.h"
+#include "platform/text/rounding.h"
+#include "platform/text/text_format.h"
 
 namespace trimlog {
 

@@ -5,7 +5,7 @@
 #include <QString>
 #include <array>
 
-#include "core/nutrients.h"
+#include "core/data/nutrients.h"
 #include "journal/servings_rule.h"
 
 namespace trimlog {

@@ -4,8 +4,8 @@
 #include <array>
 #include <optional>
 
-#include "core/nutrients.h"
-#include "platform/recordset.h"
+#include "core/data/nutrients.h"
+#include "platform/store/recordset.h"
 
 namespace trimlog {
 

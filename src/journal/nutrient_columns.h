@@ -3,7 +3,7 @@
 #include <QString>
 #include <array>
 
-#include "core/nutrients.h"
+#include "core/data/nutrients.h"
 
 namespace trimlog {
 

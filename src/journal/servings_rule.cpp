@@ -3,8 +3,8 @@
 #include <cmath>
 
 #include "platform/error.h"
-#include "platform/rounding.h"
-#include "platform/text_format.h"
+#include "platform/text/rounding.h"
+#include "platform/text/text_format.h"
 
 namespace trimlog {
 

@@ -3,7 +3,7 @@
 #include <QLocale>
 #include <array>
 
-#include "core/nutrients.h"
+#include "core/data/nutrients.h"
 #include "journal/food_values.h"
 
 namespace trimlog {

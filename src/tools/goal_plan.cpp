@@ -1,7 +1,7 @@
 #include "tools/goal_plan.h"
 
-#include "platform/rounding.h"
-#include "platform/text_format.h"
+#include "platform/text/rounding.h"
+#include "platform/text/text_format.h"
 #include "tools/index_advice.h"
 
 namespace trimlog {

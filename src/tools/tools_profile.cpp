@@ -1,7 +1,7 @@
 #include "tools/tools_profile.h"
 
-#include "platform/recordset.h"
-#include "platform/text_format.h"
+#include "platform/store/recordset.h"
+#include "platform/text/text_format.h"
 
 namespace trimlog {
 

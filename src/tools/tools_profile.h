@@ -5,7 +5,7 @@
 #include <QString>
 #include <optional>
 
-#include "core/session.h"
+#include "core/session/session.h"
 #include "health/body_formulas.h"
 
 namespace trimlog {

@@ -1,8 +1,8 @@
 #include "weightlog/calendar_model.h"
 
-#include "core/failure_guard.h"
-#include "core/session.h"
-#include "platform/text_format.h"
+#include "core/session/failure_guard.h"
+#include "core/session/session.h"
+#include "platform/text/text_format.h"
 #include "weightlog/calendar_nutrients.h"
 #include "weightlog/weight_log.h"
 #include "weightlog/weight_statistics.h"

@@ -5,7 +5,7 @@
 #include <QString>
 #include <array>
 
-#include "core/settings.h"
+#include "core/settings/settings.h"
 
 namespace trimlog {
 

@@ -1,10 +1,10 @@
 #include "weightlog/calendar_nutrients.h"
 
-#include "core/session.h"
+#include "core/session/session.h"
 #include "health/net_calories.h"
-#include "platform/recordset.h"
-#include "platform/rounding.h"
-#include "platform/text_format.h"
+#include "platform/store/recordset.h"
+#include "platform/text/rounding.h"
+#include "platform/text/text_format.h"
 
 namespace trimlog {
 

@@ -1,8 +1,8 @@
 #include "weightlog/reward_form.h"
 
-#include "core/data_access.h"
-#include "core/failure_guard.h"
-#include "platform/text_format.h"
+#include "core/data/data_access.h"
+#include "core/session/failure_guard.h"
+#include "platform/text/text_format.h"
 #include "weightlog/rewards.h"
 
 namespace trimlog {

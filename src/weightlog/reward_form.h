@@ -2,8 +2,8 @@
 
 #include <QString>
 
-#include "core/reward_settings.h"
-#include "core/session.h"
+#include "core/session/session.h"
+#include "core/settings/reward_settings.h"
 
 namespace trimlog {
 

@@ -1,9 +1,9 @@
 #include "weightlog/rewards.h"
 
-#include "core/failure_guard.h"
-#include "core/session.h"
-#include "platform/recordset.h"
-#include "platform/text_format.h"
+#include "core/session/failure_guard.h"
+#include "core/session/session.h"
+#include "platform/store/recordset.h"
+#include "platform/text/text_format.h"
 #include "weightlog/weight_log.h"
 
 namespace trimlog {

@@ -3,7 +3,7 @@
 #include <QString>
 #include <optional>
 
-#include "core/reward_settings.h"
+#include "core/settings/reward_settings.h"
 #include "weightlog/calendar_month.h"
 
 namespace trimlog {

@@ -1,9 +1,9 @@
 #include "weightlog/weight_log.h"
 
-#include "core/session.h"
-#include "platform/recordset.h"
-#include "platform/rounding.h"
-#include "platform/text_format.h"
+#include "core/session/session.h"
+#include "platform/store/recordset.h"
+#include "platform/text/rounding.h"
+#include "platform/text/text_format.h"
 
 namespace trimlog {
 

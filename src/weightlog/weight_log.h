@@ -6,7 +6,7 @@
 #include <optional>
 #include <vector>
 
-#include "platform/database.h"
+#include "platform/store/database.h"
 
 namespace trimlog {
 

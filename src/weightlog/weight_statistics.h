@@ -4,7 +4,7 @@
 #include <QLocale>
 #include <optional>
 
-#include "core/statistics.h"
+#include "core/frame/statistics.h"
 #include "weightlog/weight_log.h"
 
 namespace trimlog {

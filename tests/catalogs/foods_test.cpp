@@ -5,7 +5,7 @@
 #include "catalogs/food_derived.h"
 #include "catalogs/food_lists.h"
 #include "catalogs/nutrient_selection.h"
-#include "platform/recordset.h"
+#include "platform/store/recordset.h"
 #include "support/test_session.h"
 
 namespace trimlog {

@@ -1,7 +1,7 @@
 #include "catalogs/windows/food_page.h"
 #include "catalogs/windows/frmDailyValues.h"
 #include "catalogs/windows/frmSelectedNutrients.h"
-#include "core/windows/add_rec_page.h"
+#include "core/windows/profiles/add_rec_page.h"
 #include "food_windows_fixture.h"
 
 namespace trimlog {

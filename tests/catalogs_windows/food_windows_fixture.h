@@ -9,8 +9,8 @@
 #include <QPushButton>
 #include <QTest>
 
-#include "core/navigator.h"
-#include "platform/windows/bound_grid.h"
+#include "core/session/navigator.h"
+#include "platform/windows/grid/bound_grid.h"
 #include "support/test_session.h"
 #include "support/windows/controls.h"
 

@@ -4,7 +4,7 @@
 
 #include "catalogs/food_catalog.h"
 #include "catalogs/nutrient_selection.h"
-#include "core/windows/grid_menu.h"
+#include "core/windows/controls/grid_menu.h"
 #include "food_windows_fixture.h"
 
 namespace trimlog {

@@ -29,13 +29,13 @@ def faults(root):
             at = f"{path.relative_to(root)}:{number}"
             if not windows and WIDGET_HEADERS.search(line):
                 yield f"{at}: logic includes a widget header"
-            included = re.match(r'#include "(\w+)/(windows/)?([\w.]+)"', line)
+            included = re.match(r'#include "(\w+)/(windows/)?(?:\w+/)*([\w.]+)"', line)
             if included and included[1] in ROOMS:
                 if ROOMS.index(included[1]) > ROOMS.index(room):
                     yield f"{at}: {room} includes the higher room {included[1]}"
                 if included[2] and not windows:
                     yield f"{at}: logic includes a window"
-                if included[2] and included[1] != room and re.match(r"frm", included[3]):
+                if included[2] and included[1] != room and included[3].startswith("frm"):
                     yield f"{at}: a window includes another room's window"
             if re.search(r"\bQ(MessageBox|InputDialog|FileDialog)\b", line) and here.name not in (
                     "qt_boxes.cpp", "qt_boxes.h"):

@@ -4,7 +4,7 @@
 #include "companions/wizard_finish.h"
 #include "companions/wizard_nutrients.h"
 #include "companions/wizard_plan.h"
-#include "platform/recordset.h"
+#include "platform/store/recordset.h"
 #include "support/test_session.h"
 
 namespace trimlog {

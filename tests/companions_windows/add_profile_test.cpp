@@ -1,4 +1,4 @@
-#include "core/windows/add_profile_page.h"
+#include "core/windows/profiles/add_profile_page.h"
 #include "wizard_fixture.h"
 
 namespace trimlog {

@@ -8,8 +8,8 @@
 #include <QTest>
 
 #include "companions/windows/frmWizard.h"
-#include "platform/recordset.h"
-#include "platform/windows/bound_grid.h"
+#include "platform/store/recordset.h"
+#include "platform/windows/grid/bound_grid.h"
 #include "support/test_session.h"
 #include "support/windows/controls.h"
 

@@ -1,4 +1,4 @@
-#include "core/data_access.h"
+#include "core/data/data_access.h"
 
 #include <gtest/gtest.h>
 

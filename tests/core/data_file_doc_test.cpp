@@ -2,7 +2,7 @@
 #include <QFile>
 #include <QRegularExpression>
 
-#include "platform/column_types.h"
+#include "platform/store/column_types.h"
 #include "support/fresh_file.h"
 
 namespace trimlog {

@@ -1,11 +1,11 @@
-#include "core/error_log.h"
+#include "core/session/error_log.h"
 
 #include <gtest/gtest.h>
 
 #include <QFile>
 
-#include "core/failure_guard.h"
-#include "core/system_services.h"
+#include "core/session/failure_guard.h"
+#include "core/session/system_services.h"
 #include "platform/error.h"
 #include "support/test_session.h"
 

@@ -1,6 +1,6 @@
 #include <gtest/gtest.h>
 
-#include "core/new_profile.h"
+#include "core/profiles/new_profile.h"
 #include "support/test_session.h"
 
 namespace trimlog {

@@ -1,4 +1,4 @@
-#include "core/nutrients.h"
+#include "core/data/nutrients.h"
 
 #include <gtest/gtest.h>
 

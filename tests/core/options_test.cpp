@@ -1,9 +1,9 @@
-#include "core/options.h"
+#include "core/settings/options.h"
 
 #include <gtest/gtest.h>
 
-#include "core/profile_list.h"
-#include "core/window_position.h"
+#include "core/profiles/profile_list.h"
+#include "core/settings/window_position.h"
 #include "support/test_session.h"
 
 namespace trimlog {

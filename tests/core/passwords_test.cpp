@@ -1,4 +1,4 @@
-#include "core/passwords.h"
+#include "core/profiles/passwords.h"
 
 #include <gtest/gtest.h>
 

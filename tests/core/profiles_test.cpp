@@ -1,9 +1,9 @@
-#include "core/profiles.h"
+#include "core/profiles/profiles.h"
 
 #include <gtest/gtest.h>
 
-#include "core/colour_scheme.h"
-#include "core/profile_list.h"
+#include "core/profiles/colour_scheme.h"
+#include "core/profiles/profile_list.h"
 #include "support/test_session.h"
 
 namespace trimlog {

@@ -1,10 +1,10 @@
-#include "core/sample_profiles.h"
+#include "core/profiles/sample_profiles.h"
 
 #include <gtest/gtest.h>
 
 #include <QFile>
 
-#include "platform/recordset.h"
+#include "platform/store/recordset.h"
 #include "support/test_session.h"
 
 namespace trimlog {

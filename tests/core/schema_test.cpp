@@ -1,4 +1,4 @@
-#include "core/schema.h"
+#include "core/data/schema.h"
 
 #include <SQLiteCpp/SQLiteCpp.h>
 #include <gtest/gtest.h>

@@ -1,9 +1,9 @@
-#include "core/settings.h"
+#include "core/settings/settings.h"
 
 #include <gtest/gtest.h>
 
-#include "core/edition.h"
-#include "core/window_position.h"
+#include "core/settings/window_position.h"
+#include "core/start/edition.h"
 #include "platform/error.h"
 #include "support/test_session.h"
 

@@ -1,8 +1,8 @@
 #include <gtest/gtest.h>
 
-#include "core/conflict_checks.h"
-#include "core/data_access.h"
-#include "core/product.h"
+#include "core/data/data_access.h"
+#include "core/session/product.h"
+#include "core/start/conflict_checks.h"
 #include "core/start_bench.h"
 
 namespace trimlog {

@@ -4,7 +4,7 @@
 #include <QStringList>
 #include <QTemporaryDir>
 
-#include "core/startup.h"
+#include "core/start/startup.h"
 #include "support/test_session.h"
 
 namespace trimlog {

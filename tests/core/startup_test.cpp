@@ -1,4 +1,4 @@
-#include "core/startup.h"
+#include "core/start/startup.h"
 
 #include <SQLiteCpp/Database.h>
 #include <gtest/gtest.h>
@@ -6,11 +6,11 @@
 #include <sys/wait.h>
 #include <unistd.h>
 
-#include "core/data_access.h"
-#include "core/session_start.h"
+#include "core/data/data_access.h"
+#include "core/start/session_start.h"
 #include "core/start_bench.h"
 #include "platform/error.h"
-#include "platform/text_format.h"
+#include "platform/text/text_format.h"
 
 namespace trimlog {
 namespace {

@@ -7,8 +7,8 @@
 #include <QTimer>
 #include <QVBoxLayout>
 
-#include "core/windows/frmCalendar.h"
-#include "platform/windows/date_field.h"
+#include "core/windows/controls/frmCalendar.h"
+#include "platform/windows/fields/date_field.h"
 #include "support/test_session.h"
 
 namespace trimlog {

@@ -1,4 +1,4 @@
-#include "core/windows/edit_commands.h"
+#include "core/windows/frame/edit_commands.h"
 
 #include <gtest/gtest.h>
 
@@ -9,7 +9,7 @@
 #include <QPlainTextEdit>
 #include <QSpinBox>
 
-#include "platform/windows/bound_grid.h"
+#include "platform/windows/grid/bound_grid.h"
 #include "support/test_session.h"
 
 namespace trimlog {

@@ -6,7 +6,7 @@
 #include <QLineEdit>
 #include <QVBoxLayout>
 
-#include "core/windows/frmMDI.h"
+#include "core/windows/frame/frmMDI.h"
 #include "support/test_session.h"
 
 namespace trimlog {

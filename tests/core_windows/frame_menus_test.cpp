@@ -1,13 +1,13 @@
-#include "core/windows/frame_menus.h"
+#include "core/windows/frame/frame_menus.h"
 
 #include <gtest/gtest.h>
 
 #include <QMap>
 #include <QSet>
 
-#include "core/windows/print_window.h"
+#include "core/windows/frame/print_window.h"
 #include "frame_fixture.h"
-#include "platform/windows/bound_grid.h"
+#include "platform/windows/grid/bound_grid.h"
 
 namespace trimlog {
 namespace {

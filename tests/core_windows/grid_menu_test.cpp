@@ -1,9 +1,9 @@
-#include "core/windows/grid_menu.h"
+#include "core/windows/controls/grid_menu.h"
 
 #include <gtest/gtest.h>
 
-#include "platform/recordset.h"
-#include "platform/windows/bound_grid.h"
+#include "platform/store/recordset.h"
+#include "platform/windows/grid/bound_grid.h"
 #include "support/test_session.h"
 
 namespace trimlog {

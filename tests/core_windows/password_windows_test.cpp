@@ -6,8 +6,8 @@
 #include <QPushButton>
 #include <QTest>
 
-#include "core/windows/frmEditPassword.h"
-#include "core/windows/frmPassword.h"
+#include "core/windows/profiles/frmEditPassword.h"
+#include "core/windows/profiles/frmPassword.h"
 #include "support/test_session.h"
 #include "support/windows/controls.h"
 

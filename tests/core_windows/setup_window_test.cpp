@@ -8,11 +8,11 @@
 #include <QTabWidget>
 #include <QTest>
 
-#include "core/profiles.h"
-#include "core/windows/choice_combo.h"
-#include "core/windows/colour_combo.h"
-#include "core/windows/frmSetup.h"
-#include "platform/windows/bound_grid.h"
+#include "core/profiles/profiles.h"
+#include "core/windows/controls/choice_combo.h"
+#include "core/windows/controls/colour_combo.h"
+#include "core/windows/setup/frmSetup.h"
+#include "platform/windows/grid/bound_grid.h"
 #include "support/test_session.h"
 #include "support/windows/controls.h"
 

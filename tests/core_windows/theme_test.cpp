@@ -1,4 +1,4 @@
-#include "core/windows/theme.h"
+#include "core/windows/controls/theme.h"
 
 #include <gtest/gtest.h>
 

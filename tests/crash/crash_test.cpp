@@ -6,9 +6,9 @@
 #include <map>
 #include <random>
 
-#include "platform/column_types.h"
-#include "platform/database.h"
-#include "platform/recordset.h"
+#include "platform/store/column_types.h"
+#include "platform/store/database.h"
+#include "platform/store/recordset.h"
 
 namespace trimlog {
 

@@ -7,8 +7,8 @@
 #include <cstdio>
 #include <random>
 
-#include "platform/database.h"
-#include "platform/text_format.h"
+#include "platform/store/database.h"
+#include "platform/text/text_format.h"
 
 using namespace trimlog;
 

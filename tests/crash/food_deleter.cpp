@@ -5,7 +5,7 @@
 #include <cstdio>
 
 #include "catalogs/food_lists.h"
-#include "platform/grid_model.h"
+#include "platform/grid/grid_model.h"
 
 using namespace trimlog;
 

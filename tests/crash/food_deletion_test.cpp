@@ -8,7 +8,7 @@
 #include <QThread>
 #include <random>
 
-#include "platform/recordset.h"
+#include "platform/store/recordset.h"
 
 namespace trimlog {
 namespace {

@@ -2,8 +2,8 @@
 #include <map>
 #include <set>
 
-#include "core/schema.h"
-#include "platform/rounding.h"
+#include "core/data/schema.h"
+#include "platform/text/rounding.h"
 #include "shipped_file.h"
 
 namespace trimlog {

@@ -5,7 +5,7 @@
 #include <QFile>
 #include <QTemporaryDir>
 
-#include "platform/recordset.h"
+#include "platform/store/recordset.h"
 
 namespace trimlog {
 

@@ -4,8 +4,8 @@
 
 #include "health/all_dates.h"
 #include "health/body_formulas.h"
-#include "platform/recordset.h"
-#include "platform/rounding.h"
+#include "platform/store/recordset.h"
+#include "platform/text/rounding.h"
 #include "support/test_session.h"
 
 namespace trimlog {

@@ -1,9 +1,9 @@
-#include "platform/operating_system.h"
+#include "platform/machine/operating_system.h"
 
 #include <gtest/gtest.h>
 
-#include "platform/decimal_key.h"
-#include "platform/file_version.h"
+#include "platform/store/file_version.h"
+#include "platform/text/decimal_key.h"
 
 namespace trimlog {
 namespace {

@@ -1,4 +1,4 @@
-#include "platform/recordset.h"
+#include "platform/store/recordset.h"
 
 #include <QSet>
 

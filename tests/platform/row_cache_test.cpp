@@ -1,10 +1,10 @@
-#include "platform/row_cache.h"
+#include "platform/grid/row_cache.h"
 
 #include <gtest/gtest.h>
 
 #include <numeric>
 
-#include "platform/grid_keys.h"
+#include "platform/grid/grid_keys.h"
 
 namespace trimlog {
 namespace {

@@ -1,8 +1,8 @@
 #include "platform/store_fixture.h"
 
-#include "platform/database_internals.h"
 #include "platform/error.h"
-#include "platform/stored_value.h"
+#include "platform/store/database_internals.h"
+#include "platform/store/stored_value.h"
 
 namespace trimlog {
 

@@ -4,9 +4,9 @@
 
 #include <QTemporaryDir>
 
-#include "platform/column_types.h"
-#include "platform/database.h"
-#include "platform/recordset.h"
+#include "platform/store/column_types.h"
+#include "platform/store/database.h"
+#include "platform/store/recordset.h"
 
 namespace trimlog {
 

@@ -1,11 +1,11 @@
-#include "platform/text_format.h"
+#include "platform/text/text_format.h"
 
 #include <gtest/gtest.h>
 
 #include <limits>
 
 #include "platform/error.h"
-#include "platform/rounding.h"
+#include "platform/text/rounding.h"
 
 namespace trimlog {
 namespace {

@@ -8,9 +8,9 @@
 #include <QTest>
 #include <QTimer>
 
-#include "platform/windows/qt_boxes.h"
-#include "platform/windows/qt_machine.h"
-#include "platform/windows/window_stacking.h"
+#include "platform/windows/machine/qt_boxes.h"
+#include "platform/windows/machine/qt_machine.h"
+#include "platform/windows/machine/window_stacking.h"
 
 namespace trimlog {
 namespace {

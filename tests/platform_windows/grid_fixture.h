@@ -8,9 +8,9 @@
 #include <QTemporaryDir>
 #include <QTest>
 
-#include "platform/column_types.h"
-#include "platform/recordset.h"
-#include "platform/windows/bound_grid.h"
+#include "platform/store/column_types.h"
+#include "platform/store/recordset.h"
+#include "platform/windows/grid/bound_grid.h"
 
 namespace trimlog {
 

@@ -4,9 +4,9 @@
 #include <QClipboard>
 #include <QTest>
 
-#include "platform/windows/date_field.h"
-#include "platform/windows/number_field.h"
-#include "platform/windows/text_field.h"
+#include "platform/windows/fields/date_field.h"
+#include "platform/windows/fields/number_field.h"
+#include "platform/windows/fields/text_field.h"
 
 namespace trimlog {
 namespace {

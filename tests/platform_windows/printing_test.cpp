@@ -2,8 +2,8 @@
 #include <QPainter>
 
 #include "grid_fixture.h"
-#include "platform/windows/grid_printer.h"
-#include "platform/windows/window_printer.h"
+#include "platform/windows/printing/grid_printer.h"
+#include "platform/windows/printing/window_printer.h"
 #include "support/queued_boxes.h"
 
 namespace trimlog {

@@ -2,8 +2,8 @@
 
 #include <QTemporaryDir>
 
-#include "core/schema.h"
-#include "platform/recordset.h"
+#include "core/data/schema.h"
+#include "platform/store/recordset.h"
 
 namespace trimlog {
 

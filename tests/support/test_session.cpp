@@ -4,7 +4,7 @@
 
 #include <map>
 
-#include "core/data_access.h"
+#include "core/data/data_access.h"
 
 namespace trimlog {
 

@@ -3,7 +3,7 @@
 #include <QTemporaryDir>
 #include <memory>
 
-#include "core/session.h"
+#include "core/session/session.h"
 #include "support/queued_boxes.h"
 
 namespace trimlog {

@@ -6,7 +6,7 @@
 #include <QTest>
 #include <QTimer>
 
-#include "platform/windows/qt_boxes.h"
+#include "platform/windows/machine/qt_boxes.h"
 #include "tools/tool_notices.h"
 
 namespace trimlog {

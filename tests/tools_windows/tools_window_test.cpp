@@ -10,7 +10,7 @@
 #include <QTest>
 #include <QTimer>
 
-#include "core/navigator.h"
+#include "core/session/navigator.h"
 #include "support/test_session.h"
 #include "support/windows/controls.h"
 #include "tools/body_fat.h"

@@ -2,7 +2,7 @@
 
 #include <gtest/gtest.h>
 
-#include "platform/text_format.h"
+#include "platform/text/text_format.h"
 
 namespace trimlog {
 namespace {

@@ -1,7 +1,7 @@
 #include <SQLiteCpp/SQLiteCpp.h>
 #include <gtest/gtest.h>
 
-#include "core/data_access.h"
+#include "core/data/data_access.h"
 #include "typed_calendar.h"
 #include "weightlog/weight_log.h"
 

@@ -4,8 +4,8 @@
 #include <map>
 #include <memory>
 
-#include "platform/recordset.h"
-#include "platform/text_format.h"
+#include "platform/store/recordset.h"
+#include "platform/text/text_format.h"
 #include "support/test_session.h"
 #include "weightlog/calendar_model.h"
 

@@ -9,8 +9,8 @@
 #include <QTest>
 #include <QToolButton>
 
-#include "platform/recordset.h"
-#include "platform/text_format.h"
+#include "platform/store/recordset.h"
+#include "platform/text/text_format.h"
 #include "support/test_session.h"
 #include "weightlog/weight_log.h"
 #include "weightlog/windows/fit_label.h"

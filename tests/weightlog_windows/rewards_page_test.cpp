@@ -8,9 +8,9 @@
 #include <QRadioButton>
 #include <QTest>
 
-#include "core/windows/choice_combo.h"
-#include "core/windows/frmSetup.h"
-#include "platform/windows/number_field.h"
+#include "core/windows/controls/choice_combo.h"
+#include "core/windows/setup/frmSetup.h"
+#include "platform/windows/fields/number_field.h"
 #include "support/test_session.h"
 #include "support/windows/controls.h"
 #include "weightlog/rewards.h"

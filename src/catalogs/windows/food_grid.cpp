@@ -2,8 +2,8 @@
 
 #include "catalogs/food_catalog.h"
 #include "catalogs/food_columns.h"
-#include "platform/grid_clipboard.h"
-#include "platform/grid_row_edit.h"
+#include "platform/grid/grid_clipboard.h"
+#include "platform/grid/grid_row_edit.h"
 
 namespace trimlog {
 

@@ -1,7 +1,7 @@
 #pragma once
 
-#include "core/session.h"
-#include "platform/windows/bound_grid.h"
+#include "core/session/session.h"
+#include "platform/windows/grid/bound_grid.h"
 
 namespace trimlog {
 

@@ -11,10 +11,10 @@
 
 #include "catalogs/food_lists.h"
 #include "catalogs/windows/frmDailyValues.h"
-#include "core/failure_guard.h"
-#include "platform/text_format.h"
-#include "platform/windows/number_field.h"
-#include "platform/windows/text_field.h"
+#include "core/session/failure_guard.h"
+#include "platform/text/text_format.h"
+#include "platform/windows/fields/number_field.h"
+#include "platform/windows/fields/text_field.h"
 
 namespace trimlog {
 

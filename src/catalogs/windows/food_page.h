@@ -4,7 +4,7 @@
 
 #include "catalogs/food_catalog.h"
 #include "catalogs/food_derived.h"
-#include "core/windows/add_rec_page.h"
+#include "core/windows/profiles/add_rec_page.h"
 
 class QComboBox;
 class QFormLayout;

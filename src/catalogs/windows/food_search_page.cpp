@@ -8,7 +8,7 @@
 
 #include "catalogs/food_lists.h"
 #include "catalogs/windows/food_grid.h"
-#include "platform/windows/text_field.h"
+#include "platform/windows/fields/text_field.h"
 
 namespace trimlog {
 

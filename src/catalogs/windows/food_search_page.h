@@ -2,7 +2,7 @@
 
 #include <QWidget>
 
-#include "core/session.h"
+#include "core/session/session.h"
 
 class QLabel;
 class QPushButton;

@@ -6,8 +6,8 @@
 #include <QPushButton>
 #include <QVBoxLayout>
 
-#include "core/failure_guard.h"
-#include "platform/windows/number_field.h"
+#include "core/session/failure_guard.h"
+#include "platform/windows/fields/number_field.h"
 
 namespace trimlog {
 

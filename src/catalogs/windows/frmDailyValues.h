@@ -5,7 +5,7 @@
 #include <array>
 
 #include "catalogs/daily_values.h"
-#include "core/navigator.h"
+#include "core/session/navigator.h"
 
 class QGridLayout;
 

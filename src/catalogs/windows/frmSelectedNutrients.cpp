@@ -6,8 +6,8 @@
 #include <QPushButton>
 #include <QVBoxLayout>
 
-#include "core/failure_guard.h"
-#include "platform/windows/text_field.h"
+#include "core/session/failure_guard.h"
+#include "platform/windows/fields/text_field.h"
 
 namespace trimlog {
 

@@ -6,7 +6,7 @@
 #include <array>
 
 #include "catalogs/nutrient_selection.h"
-#include "core/navigator.h"
+#include "core/session/navigator.h"
 
 class QGridLayout;
 

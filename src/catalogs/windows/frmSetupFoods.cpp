@@ -11,11 +11,11 @@
 #include "catalogs/windows/food_list_page.h"
 #include "catalogs/windows/food_page.h"
 #include "catalogs/windows/food_search_page.h"
-#include "core/failure_guard.h"
-#include "core/windows/add_rec_page.h"
-#include "core/windows/grid_menu.h"
-#include "platform/windows/bound_grid.h"
-#include "platform/windows/grid_printer.h"
+#include "core/session/failure_guard.h"
+#include "core/windows/controls/grid_menu.h"
+#include "core/windows/profiles/add_rec_page.h"
+#include "platform/windows/grid/bound_grid.h"
+#include "platform/windows/printing/grid_printer.h"
 
 namespace trimlog {
 

@@ -2,8 +2,8 @@
 
 #include <QDialog>
 
-#include "core/navigator.h"
-#include "core/session.h"
+#include "core/session/navigator.h"
+#include "core/session/session.h"
 
 class QLabel;
 class QPushButton;

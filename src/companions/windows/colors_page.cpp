@@ -3,9 +3,9 @@
 #include <QHBoxLayout>
 
 #include "companions/windows/wizard_controls.h"
-#include "core/windows/art.h"
-#include "core/windows/setup_controls.h"
-#include "core/windows/theme.h"
+#include "core/windows/controls/art.h"
+#include "core/windows/controls/theme.h"
+#include "core/windows/setup/setup_controls.h"
 
 namespace trimlog {
 

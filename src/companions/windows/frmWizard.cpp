@@ -14,10 +14,10 @@
 #include "companions/windows/weight_page.h"
 #include "companions/windows/wizard_banner.h"
 #include "companions/wizard_finish.h"
-#include "core/colour_scheme.h"
-#include "core/failure_guard.h"
-#include "core/profiles.h"
-#include "core/windows/theme.h"
+#include "core/profiles/colour_scheme.h"
+#include "core/profiles/profiles.h"
+#include "core/session/failure_guard.h"
+#include "core/windows/controls/theme.h"
 
 namespace trimlog {
 

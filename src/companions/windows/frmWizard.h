@@ -5,8 +5,8 @@
 
 #include "companions/windows/wizard_page.h"
 #include "companions/wizard_plan.h"
-#include "core/navigator.h"
-#include "core/session.h"
+#include "core/session/navigator.h"
+#include "core/session/session.h"
 
 class QLabel;
 class QPushButton;

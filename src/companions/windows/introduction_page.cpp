@@ -3,7 +3,7 @@
 #include <QVBoxLayout>
 
 #include "companions/windows/wizard_controls.h"
-#include "core/windows/setup_controls.h"
+#include "core/windows/setup/setup_controls.h"
 
 namespace trimlog {
 

@@ -5,9 +5,9 @@
 
 #include "companions/windows/wizard_controls.h"
 #include "companions/wizard_nutrients.h"
-#include "core/failure_guard.h"
-#include "core/windows/setup_controls.h"
-#include "platform/windows/bound_grid.h"
+#include "core/session/failure_guard.h"
+#include "core/windows/setup/setup_controls.h"
+#include "platform/windows/grid/bound_grid.h"
 
 namespace trimlog {
 

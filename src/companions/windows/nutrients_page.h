@@ -3,7 +3,7 @@
 #include <optional>
 
 #include "companions/windows/wizard_page.h"
-#include "core/session.h"
+#include "core/session/session.h"
 
 class QLabel;
 

@@ -5,13 +5,13 @@
 
 #include "companions/windows/wizard_controls.h"
 #include "companions/wizard_nutrients.h"
-#include "core/options.h"
-#include "core/profile_list.h"
-#include "core/windows/choice_combo.h"
-#include "core/windows/setup_controls.h"
-#include "core/windows/show_calendar.h"
-#include "platform/windows/date_field.h"
-#include "platform/windows/number_field.h"
+#include "core/profiles/profile_list.h"
+#include "core/settings/options.h"
+#include "core/windows/controls/choice_combo.h"
+#include "core/windows/controls/show_calendar.h"
+#include "core/windows/setup/setup_controls.h"
+#include "platform/windows/fields/date_field.h"
+#include "platform/windows/fields/number_field.h"
 
 namespace trimlog {
 

@@ -1,7 +1,7 @@
 #pragma once
 
 #include "companions/windows/wizard_page.h"
-#include "core/session.h"
+#include "core/session/session.h"
 
 class QComboBox;
 class QGridLayout;

@@ -2,14 +2,14 @@
 
 #include <QPainter>
 
-#include "core/windows/art.h"
+#include "core/windows/controls/art.h"
 
 namespace trimlog {
 
 namespace {
 
 constexpr int margin = 20;
-constexpr int pictureSide = 64;
+constexpr int bannerPictureSide = 64;
 constexpr int dotSide = 12;
 constexpr int textGap = 10;
 
@@ -35,19 +35,19 @@ void WizardBanner::ShowStep(int number) {
 int WizardBanner::StepHeight() const { return fontMetrics().height() * 2; }
 
 QSize WizardBanner::sizeHint() const {
-  int width = pictureSide;
+  int width = bannerPictureSide;
   const QFontMetrics metrics(Bold(font()));
   for (const QString &step : steps_) width = std::max(width, dotSide + textGap + metrics.horizontalAdvance(step));
-  return {width + 2 * margin, 3 * margin + pictureSide + StepHeight() * static_cast<int>(steps_.size())};
+  return {width + 2 * margin, 3 * margin + bannerPictureSide + StepHeight() * static_cast<int>(steps_.size())};
 }
 
 void WizardBanner::paintEvent(QPaintEvent *) {
   QPainter painter(this);
   painter.setRenderHint(QPainter::Antialiasing);
-  const QSize side(pictureSide, pictureSide);
+  const QSize side(bannerPictureSide, bannerPictureSide);
   painter.drawPixmap(QRect(QPoint(margin, margin), side),
                      ArtIcon(QStringLiteral("wizard")).pixmap(side, devicePixelRatioF()));
-  const int top = 2 * margin + pictureSide;
+  const int top = 2 * margin + bannerPictureSide;
   const int lineX = margin + dotSide / 2;
   QColor line = palette().color(QPalette::WindowText);
   line.setAlphaF(0.35f);

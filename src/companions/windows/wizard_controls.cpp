@@ -3,8 +3,8 @@
 #include <QComboBox>
 #include <QGridLayout>
 
-#include "core/windows/setup_controls.h"
-#include "platform/windows/number_field.h"
+#include "core/windows/setup/setup_controls.h"
+#include "platform/windows/fields/number_field.h"
 
 namespace trimlog {
 

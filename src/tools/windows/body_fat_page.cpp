@@ -4,9 +4,9 @@
 #include <QPushButton>
 #include <QRadioButton>
 
-#include "core/failure_guard.h"
-#include "core/windows/setup_controls.h"
-#include "platform/windows/number_field.h"
+#include "core/session/failure_guard.h"
+#include "core/windows/setup/setup_controls.h"
+#include "platform/windows/fields/number_field.h"
 #include "tools/body_fat.h"
 #include "tools/windows/body_fat_bar.h"
 #include "tools/windows/tool_colours.h"

@@ -2,7 +2,7 @@
 
 #include <QWidget>
 
-#include "core/session.h"
+#include "core/session/session.h"
 #include "tools/caloric_needs.h"
 #include "tools/tools_profile.h"
 

@@ -7,7 +7,7 @@
 #include <QStyle>
 #include <QVBoxLayout>
 
-#include "core/windows/setup_controls.h"
+#include "core/windows/setup/setup_controls.h"
 #include "tools/tool_notices.h"
 
 namespace trimlog {

@@ -2,7 +2,7 @@
 
 #include <QDialog>
 
-#include "core/session.h"
+#include "core/session/session.h"
 
 namespace trimlog {
 

@@ -9,10 +9,10 @@
 #include <QStackedWidget>
 #include <QVBoxLayout>
 
-#include "core/failure_guard.h"
-#include "core/windows/setup_controls.h"
-#include "core/windows/theme.h"
-#include "platform/windows/window_printer.h"
+#include "core/session/failure_guard.h"
+#include "core/windows/controls/theme.h"
+#include "core/windows/setup/setup_controls.h"
+#include "platform/windows/printing/window_printer.h"
 #include "tools/tool_notices.h"
 #include "tools/windows/body_fat_page.h"
 #include "tools/windows/caloric_needs_page.h"

@@ -3,8 +3,8 @@
 #include <QDialog>
 #include <array>
 
-#include "core/navigator.h"
-#include "core/session.h"
+#include "core/session/navigator.h"
+#include "core/session/session.h"
 #include "tools/tools_profile.h"
 
 class QComboBox;

@@ -7,12 +7,12 @@
 #include <QPushButton>
 #include <QVBoxLayout>
 
-#include "core/failure_guard.h"
-#include "core/windows/setup_controls.h"
-#include "core/windows/show_calendar.h"
-#include "core/windows/theme.h"
-#include "platform/windows/date_field.h"
-#include "platform/windows/number_field.h"
+#include "core/session/failure_guard.h"
+#include "core/windows/controls/show_calendar.h"
+#include "core/windows/controls/theme.h"
+#include "core/windows/setup/setup_controls.h"
+#include "platform/windows/fields/date_field.h"
+#include "platform/windows/fields/number_field.h"
 #include "tools/goal_plan.h"
 #include "tools/windows/leave_check.h"
 #include "tools/windows/tool_colours.h"

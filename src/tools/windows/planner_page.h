@@ -3,7 +3,7 @@
 #include <QWidget>
 #include <array>
 
-#include "core/session.h"
+#include "core/session/session.h"
 #include "tools/tools_profile.h"
 
 class QFrame;

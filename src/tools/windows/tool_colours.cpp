@@ -2,7 +2,7 @@
 
 #include <QWidget>
 
-#include "core/windows/theme.h"
+#include "core/windows/controls/theme.h"
 
 namespace trimlog {
 

@@ -3,7 +3,7 @@
 #include <QColor>
 #include <array>
 
-#include "core/session.h"
+#include "core/session/session.h"
 
 namespace trimlog {
 

@@ -5,7 +5,7 @@
 #include <QLabel>
 #include <QRadioButton>
 
-#include "platform/windows/number_field.h"
+#include "platform/windows/fields/number_field.h"
 
 namespace trimlog {
 

@@ -3,7 +3,8 @@
 #include <QMouseEvent>
 #include <QPainter>
 
-#include "core/windows/theme.h"
+#include "core/windows/controls/theme.h"
+#include "platform/windows/fields/member_name.h"
 
 namespace trimlog {
 
@@ -14,8 +15,6 @@ constexpr int fieldPad = 2;
 constexpr double smallShare = 0.85;
 constexpr double weightShare = 1.1;
 constexpr double largestGrowth = 1.7;
-
-QString Member(const char *control, int i) { return QStringLiteral("%1(%2)").arg(QLatin1String(control)).arg(i); }
 
 QPalette CellPalette(const QPalette &desktop, const QColor &background, const QColor &text, const QColor &field) {
   QPalette palette;
@@ -80,12 +79,12 @@ int CalendarFonts::LeastHeight(const QFont &base) {
 CalendarCellView::CalendarCellView(int i, QWidget *parent)
     : QWidget(parent),
       txtData(new QLineEdit(this)),
-      txtLoss(new FitLabel(Member("txtLoss", i), Qt::AlignRight | Qt::AlignVCenter, this)),
-      txtCalories(new FitLabel(Member("txtCalories", i), Qt::AlignCenter, this)),
-      txtDateGrid(new FitLabel(Member("txtDateGrid", i), Qt::AlignLeft | Qt::AlignVCenter, this)),
-      txtDateGridValue(new FitLabel(Member("txtDateGridValue", i), Qt::AlignLeft, this)) {
-  setObjectName(Member("lblGrid", i));
-  txtData->setObjectName(Member("txtData", i));
+      txtLoss(new FitLabel(MemberName("txtLoss", i), Qt::AlignRight | Qt::AlignVCenter, this)),
+      txtCalories(new FitLabel(MemberName("txtCalories", i), Qt::AlignCenter, this)),
+      txtDateGrid(new FitLabel(MemberName("txtDateGrid", i), Qt::AlignLeft | Qt::AlignVCenter, this)),
+      txtDateGridValue(new FitLabel(MemberName("txtDateGridValue", i), Qt::AlignLeft, this)) {
+  setObjectName(MemberName("lblGrid", i));
+  txtData->setObjectName(MemberName("txtData", i));
   txtData->setFrame(false);
   txtData->setAlignment(Qt::AlignCenter);
   txtDateGridValue->hide();

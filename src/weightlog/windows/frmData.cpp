@@ -9,13 +9,13 @@
 #include <QToolButton>
 #include <QVBoxLayout>
 
-#include "core/failure_guard.h"
-#include "core/options.h"
-#include "core/session.h"
-#include "core/windows/art.h"
-#include "core/windows/theme.h"
-#include "platform/text_format.h"
-#include "platform/windows/window_printer.h"
+#include "core/session/failure_guard.h"
+#include "core/session/session.h"
+#include "core/settings/options.h"
+#include "core/windows/controls/art.h"
+#include "core/windows/controls/theme.h"
+#include "platform/text/text_format.h"
+#include "platform/windows/printing/window_printer.h"
 #include "weightlog/windows/frmReward.h"
 #include "weightlog/windows/month_grid.h"
 #include "weightlog/windows/weight_entry.h"

@@ -2,8 +2,8 @@
 
 #include <optional>
 
-#include "core/navigator.h"
-#include "core/windows/content_window.h"
+#include "core/session/navigator.h"
+#include "core/windows/frame/content_window.h"
 #include "weightlog/calendar_model.h"
 
 class QCheckBox;

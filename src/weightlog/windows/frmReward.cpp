@@ -5,9 +5,9 @@
 #include <QTimer>
 #include <QVBoxLayout>
 
-#include "core/data_access.h"
-#include "core/session.h"
-#include "core/windows/art.h"
+#include "core/data/data_access.h"
+#include "core/session/session.h"
+#include "core/windows/controls/art.h"
 
 namespace trimlog {
 

@@ -3,15 +3,14 @@
 #include <QApplication>
 #include <QEvent>
 
-#include "core/windows/theme.h"
+#include "core/windows/controls/theme.h"
+#include "platform/windows/fields/member_name.h"
 
 namespace trimlog {
 
 namespace {
 
 constexpr int days = 7;
-
-QString Member(const char *control, int i) { return QStringLiteral("%1(%2)").arg(QLatin1String(control)).arg(i); }
 
 /// Black on white, whatever the desktop.
 QPalette PaperPalette() {
@@ -36,8 +35,8 @@ MonthGrid::MonthGrid(const QLocale &locale, QWidget *parent)
   lblTotal1->setText(tr("Week"));
   for (int i = 1; i <= calendarCells; ++i) cells_[static_cast<size_t>(i - 1)] = new CalendarCellView(i, this);
   for (int row = 1; row <= calendarRows; ++row) {
-    auto *box = new FitLabel(Member("lblTotal", row), Qt::AlignCenter, this);
-    auto *total = new FitLabel(Member("txtTotal", row), Qt::AlignCenter, box);
+    auto *box = new FitLabel(MemberName("lblTotal", row), Qt::AlignCenter, this);
+    auto *total = new FitLabel(MemberName("txtTotal", row), Qt::AlignCenter, box);
     total->setToolTip(tr("The loss of this week"));
     lblTotal_[static_cast<size_t>(row - 1)] = box;
     txtTotal_[static_cast<size_t>(row - 1)] = total;

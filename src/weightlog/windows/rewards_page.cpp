@@ -10,10 +10,10 @@
 #include <QRadioButton>
 #include <QVBoxLayout>
 
-#include "core/options.h"
-#include "core/windows/setup_controls.h"
-#include "platform/windows/number_field.h"
-#include "platform/windows/text_field.h"
+#include "core/settings/options.h"
+#include "core/windows/setup/setup_controls.h"
+#include "platform/windows/fields/number_field.h"
+#include "platform/windows/fields/text_field.h"
 #include "weightlog/windows/frmReward.h"
 
 namespace trimlog {

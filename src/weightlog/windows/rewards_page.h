@@ -1,6 +1,6 @@
 #pragma once
 
-#include "core/windows/setup_page.h"
+#include "core/windows/setup/setup_page.h"
 #include "weightlog/reward_form.h"
 
 class QButtonGroup;

@@ -5,8 +5,8 @@
 #include <QLineEdit>
 #include <optional>
 
-#include "core/session.h"
-#include "platform/windows/number_field.h"
+#include "core/session/session.h"
+#include "platform/windows/fields/number_field.h"
 #include "weightlog/calendar_model.h"
 #include "weightlog/windows/month_grid.h"
 

@@ -1,1 +1,0 @@
-// Holds the precompiled header that the logic targets reuse.

@@ -1,1 +1,0 @@
-#include "core/data_changes.h"  // gives the announcing object its meta object

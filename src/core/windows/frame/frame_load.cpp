@@ -1,0 +1,101 @@
+// The main window's way from nothing to the first screen.
+#include <QApplication>
+#include <QDir>
+#include <QFile>
+
+#include "core/frame/frame_data.h"
+#include "core/session/failure_guard.h"
+#include "core/session/product.h"
+#include "core/start/edition.h"
+#include "core/windows/frame/frmMDI.h"
+#include "core/windows/frame/frmMain.h"
+#include "core/windows/frame/frmSplash.h"
+#include "core/windows/profiles/frmPassword.h"
+
+namespace trimlog {
+
+bool frmMDI::MDIForm_Load() {
+  if (!QFile::exists(session_.DataFilePath())) {
+    session_.boxes.Critical(
+        QStringLiteral("Trimlog"),
+        QStringLiteral("The program was unable to find the data file: %1.  The program cannot start "
+                       "without this file.")
+            .arg(QDir::toNativeSeparators(session_.DataFilePath())));
+    return false;
+  }
+  const FailureExit failure{QStringLiteral("frmMDI"), QStringLiteral("MDIForm_Load"),
+                            QStringLiteral("Error Loading Program"),
+                            QStringLiteral("An error occurred while loading the program.")};
+  Guarded(session_, failure, [this] {
+    loaded_ = false;
+    menus_->SetVisible(QStringLiteral("mnuFileProfileAdmin"), session_.BizEd);
+    menus_->SetVisible(QStringLiteral("mnuFileSep4"), session_.BizEd);
+    SetTitle();
+    ShowStartScreens();
+    ApplyPlace();
+    SignIn();
+    RefreshMain();
+    ShowForm(QStringLiteral("frmData"));
+    ShowAsKept();
+    CloseSplash();
+    StartWizardIfNeeded();
+    LoadProfilesMenu();
+    loaded_ = true;
+    if (!session_.ReloadInProgress && session_.settings.ShowTutorial && hooks_.StartTutorialSelector) {
+      QApplication::processEvents();
+      hooks_.StartTutorialSelector();
+    }
+    ShowHandheldMenus();
+  });
+  CloseSplash();
+  RefreshCommands();
+  for (const FrameCommand &command : commands_) {
+    if (!*command.button) continue;
+    const bool available = !command.available || command.available();
+    navigation_->SetCommand(QString::fromLatin1(command.button), available ? command.run : nullptr);
+  }
+  ShowAsKept();
+  return true;
+}
+
+void frmMDI::SetTitle() {
+  const QString title = ApplicationTitle(session_);
+  session_.boxes.programTitle = title;
+  setWindowTitle(title);
+}
+
+void frmMDI::ShowStartScreens() {
+  if (!session_.ReloadInProgress && session_.settings.ShowSplash) {
+    splash_ = new frmSplash(session_, system_, this);
+    splash_->setAttribute(Qt::WA_DeleteOnClose);
+    splash_->show();
+    QApplication::processEvents();
+  }
+}
+
+void frmMDI::CloseSplash() {
+  if (splash_) splash_->close();
+}
+
+void frmMDI::SignIn() {
+  const QString read = session_.CurrentPersonID;
+  if (!CheckProfilePassword(session_, read, true, this)) session_.CurrentPersonID = sampleProfile1;
+  if (session_.CurrentPersonID != read) ApplyProfile(session_, hooks_, session_.CurrentPersonID);
+  menus_->SetVisible(QStringLiteral("mnuEditReset"), session_.IsSample());
+}
+
+void frmMDI::StartWizardIfNeeded() {
+  if (session_.CurrentPersonID.toInt() != 1) return;
+  if (!session_.ReloadInProgress && navigator_.StartWiz && navigator_.StartWiz(false)) {
+    SwitchTo(session_.CurrentPersonID);
+  } else if (!ProfileExists(session_, session_.CurrentPersonID)) {
+    SwitchTo(sampleProfile1);  // a wizard that was closed made nobody for whom anything could be saved
+  }
+}
+
+void frmMDI::ShowHandheldMenus() {
+  if (HasHandheldMeals(session_)) menus_->SetVisible(QStringLiteral("mnuPalm"), true);
+  if (session_.HandheldSupport) menus_->SetVisible(QStringLiteral("mnuPPC"), true);
+}
+
+}  // namespace trimlog

@@ -1,0 +1,199 @@
+#include "core/windows/frame/frmMDI.h"
+
+#include <QApplication>
+#include <QCloseEvent>
+#include <QGridLayout>
+#include <QScreen>
+
+#include "core/session/failure_guard.h"
+#include "core/settings/window_position.h"
+#include "core/windows/controls/art.h"
+#include "core/windows/controls/twips.h"
+#include "core/windows/frame/frmMain.h"
+#include "core/windows/frame/frmMain1.h"
+#include "core/windows/frame/frmSplash.h"
+
+namespace trimlog {
+
+namespace {
+
+/// Which entries go with which content window.
+struct FormMenus {
+  const char *form;
+  const char *button;
+  bool weightEntries;  ///< mnuEditDeleteWeight and mnuEditGoto
+  bool undoRow;
+  bool print;
+};
+constexpr FormMenus formMenus[] = {
+    {"frmData", "cmdData", true, false, true},       {"frmDiary", "cmdDiary", false, true, true},
+    {"frmPlanner", "cmdPlanner", false, true, true}, {"frmGraphs", "cmdGraphs", false, false, false},
+    {"frmLinks", "cmdLinks", false, false, false},
+};
+
+}  // namespace
+
+frmMDI::frmMDI(const FrameParts &parts)
+    : session_(parts.session),
+      navigator_(parts.navigator),
+      hooks_(parts.hooks),
+      system_(parts.system),
+      forms_(parts.forms),
+      QueryUnload_(parts.QueryUnload) {
+  setObjectName(QStringLiteral("frmMDI"));
+  setWindowIcon(ArtIcon(QStringLiteral("trimlog")));
+  setMinimumSize(PixelsFromTwips(defaultFrameWidth), PixelsFromTwips(defaultFrameHeight));
+  setContextMenuPolicy(Qt::NoContextMenu);
+  menus_ = new FrameMenus(menuBar());
+  BuildPanels();
+  ConnectCommands();
+  connect(&session_.changes, &DataChanges::SettingsChanged, this, &frmMDI::RefreshMain);
+  connect(&session_.changes, &DataChanges::ProfilesChanged, this, [this] {
+    if (loaded_) GuardedQuietly([this] { LoadProfilesMenu(); });
+  });
+}
+
+frmMDI::~frmMDI() = default;
+
+void frmMDI::BuildPanels() {
+  auto *middle = new QWidget(this);
+  auto *layout = new QGridLayout(middle);
+  layout->setContentsMargins(0, 0, 0, 0);
+  layout->setSpacing(0);
+  statistics_ = new frmMain1(session_, middle);
+  navigation_ = new frmMain(session_, middle);
+  auto *area = new QWidget(middle);
+  area->setObjectName(QStringLiteral("pnlContent"));
+  content_ = new QVBoxLayout(area);
+  content_->setContentsMargins(2, 2, 0, 0);
+  layout->addWidget(statistics_, 0, 0, 1, 2);
+  layout->addWidget(navigation_, 1, 0);
+  layout->addWidget(area, 1, 1);
+  layout->setColumnStretch(1, 1);
+  layout->setRowStretch(1, 1);
+  setCentralWidget(middle);
+}
+
+void frmMDI::ConnectCommands() {
+  commands_ = FrameCommands(*this, session_, navigator_, hooks_);
+  for (FrameCommand &command : commands_) {
+    const QString name = QString::fromLatin1(command.menu);
+    const FailureExit failure{QStringLiteral("frmMDI"), name + QStringLiteral("_Click"), {}, {}};
+    command.run = [this, failure, work = command.run] { Guarded(session_, failure, work); };
+    connect(menus_->Action(name), &QAction::triggered, this, command.run);
+  }
+  for (QMenu *menu : menuBar()->findChildren<QMenu *>())
+    connect(menu, &QMenu::aboutToShow, this, &frmMDI::RefreshCommands);
+}
+
+void frmMDI::RefreshCommands() {
+  QHash<QString, bool> available;
+  for (const FrameCommand &command : commands_) {
+    available.insert(QString::fromLatin1(command.menu), !command.available || command.available());
+  }
+  for (const QString &name : menus_->CommandNames()) menus_->Action(name)->setEnabled(available.value(name, false));
+}
+
+void frmMDI::SetMenusFor(const QString &name) {
+  menus_->SetVisible(QStringLiteral("mnuEditDeleteWeight"), false);
+  menus_->SetVisible(QStringLiteral("mnuEditGoto"), false);
+  for (const FormMenus &row : formMenus) {
+    if (name != QLatin1String(row.form)) continue;
+    menus_->SetVisible(QStringLiteral("mnuEditDeleteWeight"), row.weightEntries);
+    menus_->SetVisible(QStringLiteral("mnuEditGoto"), row.weightEntries);
+    menus_->SetVisible(QStringLiteral("mnuEditUndoRow"), row.undoRow);
+    menus_->SetVisible(QStringLiteral("mnuFilePrint"), row.print);
+    navigation_->ShowCurrent(QString::fromLatin1(row.button));
+  }
+}
+
+void frmMDI::ShowForm(const QString &name) {
+  if (!CanShowForm(name)) return;
+  if (currentForm_ && !currentForm_->ValidateFields()) return;
+  const bool changes = name != currentFormName_;
+  if (changes && !SaveOpenEdit()) return;
+  SetMenusFor(name);
+  if (changes) ReplaceForm(name);
+  ShowQuickJournal(name == QStringLiteral("frmData"));
+}
+
+void frmMDI::ReplaceForm(const QString &name) {
+  ContentWindow *former = currentForm_;
+  currentForm_ = forms_[name](content_->parentWidget());
+  currentFormName_ = name;
+  content_->addWidget(currentForm_);
+  if (former) {
+    content_->removeWidget(former);
+    former->hide();
+    former->deleteLater();  // the command that leads away from a window often comes from one of its own buttons
+  }
+  currentForm_->show();
+  currentForm_->Activated();
+}
+
+void frmMDI::ShowQuickJournal(bool visible) {
+  if (!session_.QuickJournalOpen) return;
+  if (auto *quickJournal = findChild<QWidget *>(QStringLiteral("frmQuickDiary"))) quickJournal->setVisible(visible);
+}
+
+QWidget *frmMDI::ActiveControl() const { return currentForm_ ? currentForm_->focusWidget() : nullptr; }
+
+bool frmMDI::SaveOpenEdit() { return !currentForm_ || currentForm_->SaveOpenEdit(); }
+
+void frmMDI::RefreshMain() {
+  statistics_->Refresh();
+  navigation_->Refresh();
+}
+
+void frmMDI::ShowAsKept() {
+  if (isVisible()) return;
+  if (session_.frameWindowState == maximisedState) {
+    showMaximized();
+  } else {
+    show();
+  }
+}
+
+void frmMDI::ReadPlace() {
+  const QRect place = isMaximized() ? normalGeometry() : QRect(pos(), size());
+  session_.framePlace = {TwipsFromPixels(place.left()), TwipsFromPixels(place.top()), TwipsFromPixels(place.width()),
+                         TwipsFromPixels(place.height())};
+}
+
+void frmMDI::ApplyPlace() {
+  const WindowPlace &place = session_.framePlace;
+  QRect wanted(PixelsFromTwips(place.Left), PixelsFromTwips(place.Top), PixelsFromTwips(place.Width),
+               PixelsFromTwips(place.Height));
+  wanted.setSize(wanted.size().expandedTo(minimumSize()));
+  const QScreen *screen = QApplication::screenAt(wanted.center());
+  if (!screen) {
+    // The monitor that it stood on is gone.
+    screen = QApplication::primaryScreen();
+    wanted.moveCenter(screen->availableGeometry().center());
+  }
+  const QRect usable = screen->availableGeometry();
+  wanted.moveTopLeft({std::max(wanted.left(), usable.left()), std::max(wanted.top(), usable.top())});
+  move(wanted.topLeft());
+  resize(wanted.size());
+}
+
+void frmMDI::ResetPlace() {
+  const QSize screenSize = screen()->size();
+  session_.framePlace = DefaultFramePlace({TwipsFromPixels(screenSize.width()), TwipsFromPixels(screenSize.height())});
+  showNormal();
+  ApplyPlace();
+}
+
+void frmMDI::changeEvent(QEvent *event) {
+  if (event->type() == QEvent::WindowStateChange && loaded_ && !isMinimized()) {
+    session_.frameWindowState = isMaximized() ? maximisedState : 0;
+  }
+  QMainWindow::changeEvent(event);
+}
+
+void frmMDI::closeEvent(QCloseEvent *event) {
+  const bool mayClose = !QueryUnload_ || QueryUnload_();
+  event->setAccepted(mayClose);
+}
+
+}  // namespace trimlog

@@ -1,0 +1,24 @@
+#pragma once
+
+#include <QDialog>
+
+#include "core/session/session.h"
+#include "platform/machine/operating_system.h"
+
+namespace trimlog {
+
+/// The picture shown while the program starts, and with session.AboutMode the About box.
+class frmSplash : public QDialog {
+  Q_OBJECT
+ public:
+  frmSplash(Session &session, const OperatingSystem &system, QWidget *owner);
+
+ private:
+  QWidget *BuildPicture();
+  QWidget *BuildButtons();
+
+  Session &session_;
+  const OperatingSystem &system_;
+};
+
+}  // namespace trimlog

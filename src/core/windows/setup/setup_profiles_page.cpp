@@ -1,0 +1,121 @@
+#include "core/windows/setup/setup_profiles_page.h"
+
+#include <QHBoxLayout>
+#include <QVBoxLayout>
+
+#include "core/profiles/profile_list.h"
+#include "core/profiles/profiles.h"
+#include "core/settings/options.h"
+#include "core/windows/profiles/frmEditPassword.h"
+#include "core/windows/setup/setup_controls.h"
+#include "platform/windows/grid/bound_grid.h"
+
+namespace trimlog {
+
+SetupProfilesPage::SetupProfilesPage(Session &session, const Navigator &navigator, QWidget *parent)
+    : SetupPage(parent), session_(session), navigator_(navigator) {
+  auto *layout = new QVBoxLayout(this);
+  grdPeople = new BoundGrid(QStringLiteral("grdPeople"), QStringLiteral("Profiles"), session.locale, this);
+  layout->addWidget(grdPeople);
+  auto *row = new QHBoxLayout;
+  layout->addLayout(row);
+  cmdNewProfile = AddCommand(row, QStringLiteral("cmdNewProfile"), QStringLiteral("&New Profile..."),
+                             QStringLiteral("Adds a profile for another person."));
+  cmdDeleteProfile = AddCommand(row, QStringLiteral("cmdDeleteProfile"), QStringLiteral("D&elete Profile"),
+                                QStringLiteral("Deletes the marked profiles with all their data."));
+  cmdPassword = AddCommand(row, QStringLiteral("cmdPassword"), QStringLiteral("Pass&word..."),
+                           QStringLiteral("Sets, changes or removes the password of the marked profile."));
+  row->addStretch();
+  AddNote(layout, QStringLiteral("lblProfilesNote"),
+          QStringLiteral("Changes to profiles are saved as you leave each row."));
+  SetHooks();
+  connect(cmdNewProfile, &QPushButton::clicked, this, &SetupProfilesPage::OnNewProfile);
+  connect(cmdDeleteProfile, &QPushButton::clicked, this, [this] { grdPeople->DeleteSelected(); });
+  connect(cmdPassword, &QPushButton::clicked, this, &SetupProfilesPage::OnPassword);
+  connect(grdPeople, &BoundGrid::CurrentRowChanged, this, &SetupProfilesPage::UpdateButtons);
+}
+
+void SetupProfilesPage::SetHooks() {
+  GridHooks &hooks = grdPeople->Hooks();
+  hooks.guard = [this](GridAction action, const std::function<void()> &work) {
+    return Guarded(session_, ProfileListFailure(action), work);
+  };
+  hooks.beforeDelete = [this](const std::vector<qint64> &keys) {
+    return AskDeleteProfiles(session_, static_cast<int>(keys.size()));
+  };
+  hooks.afterDelete = [this](const std::vector<qint64> &) { Deleted(); };
+  hooks.afterUpdate = [this](qint64 key) { Saved(QString::number(key)); };
+}
+
+void SetupProfilesPage::Load(const Settings &) {
+  grdPeople->SetColumns(ProfileColumns(session_));
+  grdPeople->Open(session_.Data(), ProfilesSource());
+  grdPeople->GoToKey(session_.CurrentPersonID.toLongLong());
+  UpdateButtons();
+}
+
+void SetupProfilesPage::ShowUnits(int uomID) {
+  const UnitLabels labels = LabelsOf(uomID);
+  GridModel &model = grdPeople->Model();
+  model.SetCaption(QStringLiteral("Goal"), labels.Goal);
+  model.SetCaption(QStringLiteral("HeightFeet"), labels.HeightFeet);
+  model.SetCaption(QStringLiteral("HeightInches"), labels.HeightInches);
+}
+
+void SetupProfilesPage::UpdateButtons() {
+  const bool onProfile = grdPeople->CurrentKey().has_value();
+  cmdNewProfile->setEnabled(static_cast<bool>(navigator_.AddProfile));
+  cmdDeleteProfile->setEnabled(onProfile);
+  cmdPassword->setEnabled(onProfile);
+}
+
+QModelIndex SetupProfilesPage::GoalCell() const {
+  const GridModel &model = grdPeople->Model();
+  return model.index(grdPeople->currentIndex().row(), model.ColumnByName(QStringLiteral("Goal")));
+}
+
+bool SetupProfilesPage::Validate() {
+  const bool saved = grdPeople->CommitRow();
+  if (!grdPeople->CurrentKey()) return saved;
+  const QModelIndex goal = GoalCell();
+  const bool goOn = ConfirmGoal(session_, goal.data(Qt::EditRole).toString());
+  if (goOn && saved) return true;
+  grdPeople->setFocus();
+  const bool goalRefused = !goal.data(GridModel::SentenceRole).toString().isEmpty();
+  if (!goOn || !goalRefused) return false;
+  // Who goes on with a goal that is no number leaves with the goal that was there.
+  grdPeople->setCurrentIndex(goal);
+  grdPeople->UndoField();
+  return grdPeople->CommitRow();
+}
+
+void SetupProfilesPage::OnNewProfile() {
+  if (!grdPeople->CommitRow() || !navigator_.AddProfile(this)) return;
+  grdPeople->Refresh();
+  session_.changes.AnnounceProfiles();
+  UpdateButtons();
+}
+
+void SetupProfilesPage::OnPassword() {
+  if (!grdPeople->CommitRow() || !grdPeople->CurrentKey()) return;
+  const QString name = grdPeople->CurrentField(QStringLiteral("PersonName")).toString();
+  frmEditPassword(session_, QString::number(*grdPeople->CurrentKey()), name, this).exec();
+}
+
+void SetupProfilesPage::Saved(const QString &personID) {
+  session_.changes.Announce({QStringLiteral("people"), personID, {}});
+  session_.changes.AnnounceProfiles();
+}
+
+void SetupProfilesPage::Deleted() {
+  const QString next = ProfileToStandOn(session_);
+  if (next != session_.CurrentPersonID && navigator_.LoadData) {
+    navigator_.LoadData(next);
+    // The next profile may ask for a password and be refused; a sample never does.
+    if (session_.CurrentPersonID != next) navigator_.LoadData(sampleProfile1);
+  }
+  session_.changes.AnnounceProfiles();
+  UpdateButtons();
+}
+
+}  // namespace trimlog

@@ -1,0 +1,36 @@
+#include "platform/windows/printing/grid_printer.h"
+
+#include "platform/grid/grid_cells.h"
+#include "platform/grid/grid_export.h"
+#include "platform/windows/grid/bound_grid.h"
+
+namespace trimlog {
+
+PrintedList PrintedGrid(BoundGrid &grid, const QString &heading) {
+  constexpr double twipsPerPixel = 15;
+  const GridModel &model = grid.Model();
+  grid.Model().LoadAllKeys();
+  PrintedList list;
+  list.heading = heading;
+  list.rows = model.RecordCount();
+  const std::vector<int> columns = TextColumns(model);
+  for (const int column : columns) {
+    const GridColumn &shown = model.Columns()[column];
+    list.columns.push_back(
+        {shown.caption, grid.columnWidth(column) * twipsPerPixel, bool(AlignmentOf(shown) & Qt::AlignRight)});
+  }
+  list.cell = [&model, columns](int row, int column) { return CellAsText(model, row, columns[column]); };
+  return list;
+}
+
+bool PrintList(const PrintedList &list, Boxes &boxes, QWidget *owner, PageOutput *output) {
+  ListDocument document(list);
+  const std::unique_ptr<PageOutput> system = output ? nullptr : SystemPageOutput();
+  return PreviewPages(document, output ? *output : *system, boxes, owner);
+}
+
+bool PrintGrid(BoundGrid &grid, const QString &heading, Boxes &boxes, PageOutput *output) {
+  return PrintList(PrintedGrid(grid, heading), boxes, &grid, output);
+}
+
+}  // namespace trimlog
