@@ -15,6 +15,7 @@
 #include "platform/store/recordset.h"
 #include "platform/text/text_format.h"
 #include "ratio_reporter.h"
+#include "support/paths.h"
 
 using namespace trimlog;
 
@@ -29,7 +30,7 @@ const QTemporaryDir &Folder() {
 QString CopyOfShipped(const char *name) {
   const QString path = Folder().filePath(QString::fromLatin1(name));
   QFile::remove(path);
-  QFile::copy(QStringLiteral(TRIMLOG_SHIPPED_DIR "/tlg.dat"), path);
+  QFile::copy(ShippedDir() + QStringLiteral("/tlg.dat"), path);
   QFile::setPermissions(path, QFile::ReadOwner | QFile::WriteOwner);
   const auto data = Database::Open(path);
   Transaction transaction(*data);
@@ -259,7 +260,7 @@ void MakeDataFile(benchmark::State &state) {
   for (auto _ : state) {
     QDir(target).removeRecursively();
     QDir().mkdir(target);
-    if (QProcess::execute(QStringLiteral(TRIMLOG_MAKER), {QStringLiteral(TRIMLOG_DATA_DIR), target}) != 0)
+    if (QProcess::execute(QStringLiteral(TRIMLOG_MAKER), {SourceDir() + QStringLiteral("/data"), target}) != 0)
       state.SkipWithError("maker");
   }
 }

@@ -4,6 +4,7 @@
 
 #include "platform/store/column_types.h"
 #include "support/fresh_file.h"
+#include "support/paths.h"
 
 namespace trimlog {
 
@@ -22,7 +23,7 @@ QStringList Ticked(const QString &text) {
 
 /// Columns with their declared types, by table, as docs/data-file.md tells them.
 QHash<QString, QHash<QString, QString>> ToldTables() {
-  QFile file(QStringLiteral(TRIMLOG_DATA_DIR "/../docs/data-file.md"));
+  QFile file(SourceDir() + QStringLiteral("/docs/data-file.md"));
   EXPECT_TRUE(file.open(QIODevice::ReadOnly));
   QHash<QString, QHash<QString, QString>> told;
   QStringList tables;

@@ -5,6 +5,7 @@
 #include <QTemporaryDir>
 
 #include "core/start/startup.h"
+#include "support/paths.h"
 #include "support/test_session.h"
 
 namespace trimlog {
@@ -26,7 +27,7 @@ class TestSystem final : public OperatingSystem {
 class StartBench {
  public:
   StartBench() {
-    QFile::copy(QStringLiteral(TRIMLOG_SHIPPED_DIR "/tlg.dat"), DataPath());
+    QFile::copy(ShippedDir() + QStringLiteral("/tlg.dat"), DataPath());
     QFile::setPermissions(DataPath(), QFile::ReadOwner | QFile::WriteOwner | QFile::ReadOther | QFile::WriteOther);
     doors.ScreenSize = [] { return QSize(19200, 15360); };
     doors.CloseSplash = Remember(QStringLiteral("splash closed"));

@@ -9,6 +9,7 @@
 #include <random>
 
 #include "platform/store/recordset.h"
+#include "support/paths.h"
 
 namespace trimlog {
 namespace {
@@ -24,7 +25,7 @@ int Entries(Database &data) { return Count(data, QStringLiteral("meals WHERE (Pe
 
 /// The shipped file with foods of the user's own, each eaten once.
 void MakeFile(const QString &path) {
-  QFile::copy(QStringLiteral(TRIMLOG_SHIPPED_DIR "/tlg.dat"), path);
+  QFile::copy(ShippedDir() + QStringLiteral("/tlg.dat"), path);
   QFile::setPermissions(path, QFile::ReadOwner | QFile::WriteOwner);
   const auto data = Database::Open(path);
   Transaction transaction(*data);

@@ -6,6 +6,7 @@
 #include <QTemporaryDir>
 
 #include "platform/store/recordset.h"
+#include "support/paths.h"
 
 namespace trimlog {
 
@@ -14,7 +15,7 @@ class ShippedFile {
  public:
   explicit ShippedFile(const char *name = "tlg.dat") {
     const QString copy = directory_.filePath(QStringLiteral("copy.dat"));
-    EXPECT_TRUE(QFile::copy(QStringLiteral(TRIMLOG_SHIPPED_DIR "/") + QString::fromLatin1(name), copy));
+    EXPECT_TRUE(QFile::copy(ShippedDir() + QLatin1Char('/') + QString::fromLatin1(name), copy));
     database = Database::Open(copy);
   }
   Recordset Rows(const QString &sql, const Params &params = {}) { return database->OpenRecordset(sql, params); }

@@ -5,6 +5,7 @@
 #include <map>
 
 #include "core/data/data_access.h"
+#include "support/paths.h"
 
 namespace trimlog {
 
@@ -40,8 +41,7 @@ class MemoryStore final : public SettingsStore {
 std::unique_ptr<SettingsStore> MemorySettings() { return std::make_unique<MemoryStore>(); }
 
 TestSession::TestSession(const QLocale &locale) {
-  EXPECT_TRUE(QFile::copy(QStringLiteral(TRIMLOG_SHIPPED_DIR) + QStringLiteral("/tlg.dat"),
-                          directory.filePath(QStringLiteral("tlg.dat"))));
+  EXPECT_TRUE(QFile::copy(ShippedDir() + QStringLiteral("/tlg.dat"), directory.filePath(QStringLiteral("tlg.dat"))));
   session = std::make_unique<Session>(SessionPlaces{directory.path(), *store, clock, machine, boxes, locale});
   session->database = Database::Open(session->DataFilePath());
   LoadControlValues(session->settings, *store, true);
