@@ -17,7 +17,7 @@ class Calendar {
  public:
   explicit Calendar(const QDate &first) {
     FillNutrientDefinitions(session->nutrients, session.Data());
-    session->rewards.type = RewardType::Never;
+    session->profile.rewards.type = RewardType::Never;
     Fill(first, QDate(2026, 3, 31));
     model = std::make_unique<CalendarModel>(*session);
     model->Load();

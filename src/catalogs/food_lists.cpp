@@ -100,7 +100,7 @@ void FillRecentFoods(Session &session) {
   database.Execute(QStringLiteral("SELECT DISTINCT meals.MealID INTO temp_recent_meals From meals "
                                   "WHERE (((meals.ThisDate)>=") +
                    SQLDate(session.Today().addDays(1 - recentDays)) + QStringLiteral(") AND ((meals.PersonID)=") +
-                   session.CurrentPersonID + QStringLiteral("));"));
+                   session.profile.CurrentPersonID + QStringLiteral("));"));
   transaction.Commit();
 }
 

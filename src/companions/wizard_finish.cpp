@@ -117,10 +117,10 @@ QString FinishWizard(Session &session, const WizardAnswers &answers, bool adding
 
 bool NeedsWizard(Session &session) {
   const QString goal = GetDataValue(session.Data(), QStringLiteral("Goal"), QStringLiteral("people"),
-                                    QStringLiteral("PersonID=?"), {}, {session.CurrentPersonID.toInt()});
-  const QString firstWeight =
-      GetDataValue(session.Data(), QStringLiteral("Min(ThisDate) AS FirstDate"), QStringLiteral("weight_loss"),
-                   QStringLiteral("PersonID=?"), QStringLiteral("FirstDate"), {session.CurrentPersonID.toInt()});
+                                    QStringLiteral("PersonID=?"), {}, {session.profile.CurrentPersonID.toInt()});
+  const QString firstWeight = GetDataValue(session.Data(), QStringLiteral("Min(ThisDate) AS FirstDate"),
+                                           QStringLiteral("weight_loss"), QStringLiteral("PersonID=?"),
+                                           QStringLiteral("FirstDate"), {session.profile.CurrentPersonID.toInt()});
   return goal.isEmpty() || firstWeight.isEmpty();
 }
 

@@ -7,7 +7,7 @@
 namespace trimlog {
 
 WeightsByDate::WeightsByDate(const Session &session, const QDate &first, const QDate &last) {
-  const int person = session.CurrentPersonID.toInt();
+  const int person = session.profile.CurrentPersonID.toInt();
   const Recordset before =
       session.Data().OpenRecordset(QStringLiteral("SELECT Max(weight_loss.ThisDate) AS MaxDate FROM weight_loss "
                                                   "WHERE ((weight_loss.PersonID=?) AND (weight_loss.ThisDate<=?));"),

@@ -41,7 +41,7 @@ BodyProfile ReadBodyProfile(const Session &session) {
   const Recordset people = session.Data().OpenRecordset(
       QStringLiteral("SELECT people.GenderID, people.BirthDate, people.HeightFeet, people.HeightInches FROM people "
                      "WHERE people.PersonID=?;"),
-      {session.CurrentPersonID.toInt()});
+      {session.profile.CurrentPersonID.toInt()});
   if (people.Eof()) return {};
   return {people.Integer(QStringLiteral("GenderID")), people.Field(QStringLiteral("BirthDate")).toDate(),
           people.Number(QStringLiteral("HeightFeet")), people.Number(QStringLiteral("HeightInches"))};

@@ -17,8 +17,8 @@ std::optional<double> NetCalories(const QString &caloriesEaten, const QString &c
 std::vector<NetCaloriesDay> ReadNetCalories(const Session &session, const QDate &first, const QDate &last) {
   std::vector<NetCaloriesDay> days;
   if (!first.isValid() || !last.isValid() || first > last) return days;
-  const int person = session.CurrentPersonID.toInt();
-  FillAllDates(session.Data(), session.CurrentPersonID, first, last);
+  const int person = session.profile.CurrentPersonID.toInt();
+  FillAllDates(session.Data(), session.profile.CurrentPersonID, first, last);
   // The two sums are those of the file's saved queries of the same names, narrowed to the person and the days in
   // question: the queries themselves would add up the whole history for every month shown.
   const QString statement = QStringLiteral(

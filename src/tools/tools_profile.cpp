@@ -21,7 +21,7 @@ QString WeightCaption(const QString &caption, const std::optional<DatedWeight> &
 
 void ReadPlan(ToolsProfile &profile, const Session &session) {
   const Recordset datPeople = session.Data().OpenRecordset(
-      QStringLiteral("SELECT people.* from people WHERE PersonID=?;"), {session.CurrentPersonID.toInt()});
+      QStringLiteral("SELECT people.* from people WHERE PersonID=?;"), {session.profile.CurrentPersonID.toInt()});
   if (datPeople.Eof()) return;
   profile.Goal = StoredNumberText(datPeople.Text(QStringLiteral("Goal")), session.locale);
   profile.method = datPeople.Integer(QStringLiteral("GoalMethodID")) == 1 ? GoalMethod::ByRate : GoalMethod::ByDate;
@@ -33,7 +33,7 @@ void ReadWeights(ToolsProfile &profile, const Session &session) {
   Recordset weights = session.Data().OpenRecordset(
       QStringLiteral("SELECT weight_loss.ThisDate, weight_loss.ThisWeight FROM weight_loss "
                      "WHERE (weight_loss.PersonID=?) ORDER BY weight_loss.ThisDate; "),
-      {session.CurrentPersonID.toInt()});
+      {session.profile.CurrentPersonID.toInt()});
   if (weights.Eof()) return;
   const auto entry = [&weights] {
     return DatedWeight{weights.Field(QStringLiteral("ThisDate")).toDate(),
@@ -48,7 +48,7 @@ void ReadWaist(ToolsProfile &profile, const Session &session) {
   Recordset measurements =
       session.Data().OpenRecordset(QStringLiteral("SELECT measurements.ThisDate, measurements.Waist FROM measurements "
                                                   "WHERE (measurements.PersonID=?) ORDER BY measurements.ThisDate; "),
-                                   {session.CurrentPersonID.toInt()});
+                                   {session.profile.CurrentPersonID.toInt()});
   if (measurements.Eof()) return;
   measurements.MoveLast();
   if (!measurements.Text(QStringLiteral("Waist")).isEmpty()) {
@@ -75,9 +75,9 @@ void SaveGoalMethod(Session &session, GoalMethod method, const QDate &date, cons
   session.Data().Execute(
       QStringLiteral("UPDATE people SET GoalMethodID=?, GoalMethodDate=?, GoalMethodLbsWeek=? WHERE PersonID=?;"),
       {static_cast<int>(method), date.isValid() ? QVariant(date) : QVariant(), number ? QVariant(*number) : QVariant(),
-       session.CurrentPersonID.toInt()});
+       session.profile.CurrentPersonID.toInt()});
   transaction.Commit();
-  session.changes.Announce({QStringLiteral("people"), session.CurrentPersonID, {}});
+  session.changes.Announce({QStringLiteral("people"), session.profile.CurrentPersonID, {}});
 }
 
 QString GenderText(int GenderID) { return GenderID == 1 ? QStringLiteral("Male") : QStringLiteral("Female"); }

@@ -52,8 +52,8 @@ CalendarModel::CalendarModel(Session &session) : session_(session) {}
 
 void CalendarModel::Load() {
   UpdateStats(session_);
-  const QDate remembered = session_.RememberedDate;
-  const bool sample = session_.IsSample();
+  const QDate remembered = session_.windows.RememberedDate;
+  const bool sample = session_.profile.IsSample();
   const bool today = !sample && !remembered.isValid() && session_.settings.OpenToday;
   BuildMonth(today ? session_.Today() : GetFirstDay());
   if (today) {
@@ -67,8 +67,8 @@ void CalendarModel::Load() {
 
 QDate CalendarModel::GetFirstDay() const {
   QDate day = session_.Today();
-  if (session_.LastWeightDate.isValid()) {
-    day = session_.RememberedDate.isValid() ? session_.RememberedDate : session_.LastWeightDate;
+  if (session_.profile.LastWeightDate.isValid()) {
+    day = session_.windows.RememberedDate.isValid() ? session_.windows.RememberedDate : session_.profile.LastWeightDate;
   }
   return QDate(day.year(), day.month(), 1);
 }
@@ -78,7 +78,7 @@ bool CalendarModel::BuildMonth(const QDate &anyDay) {
   month_.currentIndex = 0;
   month_.currentDate = {};
   FillCalendarDates(month_, anyDay, session_.locale);
-  HideDays(month_, session_.settings, session_.BackColor);
+  HideDays(month_, session_.settings, session_.profile.BackColor);
   if (!FindRecords()) {
     // Weights under the days of another month would be worse than the month before.
     if (before.firstDate.isValid()) month_ = before;
@@ -110,14 +110,14 @@ void CalendarModel::FillCalendarNutrients() {
 }
 
 void CalendarModel::Refresh() {
-  HideDays(month_, session_.settings, session_.BackColor);
+  HideDays(month_, session_.settings, session_.profile.BackColor);
   FindRecords();
   FillCalendarNutrients();
 }
 
 void CalendarModel::SetActiveDate(int i) {
-  MarkActiveCell(month_, i, session_.BackColor);
-  session_.RememberedDate = month_.currentDate;
+  MarkActiveCell(month_, i, session_.profile.BackColor);
+  session_.windows.RememberedDate = month_.currentDate;
 }
 
 void CalendarModel::GotoNextDate() {
@@ -148,13 +148,13 @@ void CalendarModel::GotoToday() {
 void CalendarModel::SetShowLoss(bool show) {
   session_.settings.ShowLoss = show;
   SaveSetting(session_.settings, session_.store, QStringLiteral("ShowLoss"));
-  HideDays(month_, session_.settings, session_.BackColor);
+  HideDays(month_, session_.settings, session_.profile.BackColor);
 }
 
 void CalendarModel::SetShowCalories(bool show) {
   session_.settings.ShowCalories = show;
   SaveSetting(session_.settings, session_.store, QStringLiteral("ShowCalories"));
-  HideDays(month_, session_.settings, session_.BackColor);
+  HideDays(month_, session_.settings, session_.profile.BackColor);
   FillCalendarNutrients();
 }
 
@@ -165,7 +165,7 @@ void CalendarModel::SetNutrientID(int NutrientID) {
 }
 
 bool CalendarModel::EnterCell(int i) {
-  session_.SuppressReward = false;
+  session_.windows.SuppressReward = false;
   const bool another = month_.Cell(i).date != enteredDate_;
   entryText_ = month_.Cell(i).data;
   enteredDate_ = month_.Cell(i).date;
@@ -204,7 +204,7 @@ bool CalendarModel::SaveWeight(const QString &text) {
   // The basal rate goes by the latest weight, so the net calories of the days behind may follow.
   if (session_.settings.NutrientID == nutrient_id::netCalories && session_.settings.NetCaloriesBMR)
     FillCalendarNutrients();
-  session_.changes.Announce({QStringLiteral("weight_loss"), session_.CurrentPersonID, cell.date});
+  session_.changes.Announce({QStringLiteral("weight_loss"), session_.profile.CurrentPersonID, cell.date});
   return true;
 }
 

@@ -64,8 +64,9 @@ std::map<QDate, QString> ReadCalendarNutrients(const Session &session, const QDa
   const int NutrientID = session.settings.NutrientID;
   if (NutrientID == nutrient_id::netCalories) return NetCaloriesTexts(session, first, last);
   std::map<QDate, QString> texts;
-  Recordset days = session.Data().OpenRecordset(StatementFor(session.nutrients, NutrientID),
-                                                {session.CurrentPersonID.toInt(), first, last}, RecordsetKind::Forward);
+  Recordset days =
+      session.Data().OpenRecordset(StatementFor(session.nutrients, NutrientID),
+                                   {session.profile.CurrentPersonID.toInt(), first, last}, RecordsetKind::Forward);
   for (; !days.Eof(); days.MoveNext()) {
     texts[days.Field(QStringLiteral("ThisDate")).toDate()] =
         IsPercentOfCalories(NutrientID) ? PercentText(days, NutrientID)

@@ -15,7 +15,7 @@ QString Shown(const QString &plain, const QLocale &locale) {
 
 QString PersonValue(Session &session, const QString &field) {
   return GetDataValue(session.Data(), field, QStringLiteral("people"), QStringLiteral("((people.PersonID)=?)"), {},
-                      {session.CurrentPersonID.toInt()});
+                      {session.profile.CurrentPersonID.toInt()});
 }
 
 void SwapDefault(QString &amount, RewardType type, int uomID, const QLocale &locale) {
@@ -48,12 +48,12 @@ QString *RewardForm::AmountOf(RewardType of) {
 
 RewardForm ReadRewardForm(const Session &session) {
   RewardForm form;
-  form.type = session.rewards.type;
-  form.message = session.rewards.message;
-  form.sound = session.rewards.sound;
+  form.type = session.profile.rewards.type;
+  form.message = session.profile.rewards.message;
+  form.sound = session.profile.rewards.sound;
   if (QString *amount = form.AmountOf(form.type)) {
     const bool weight = form.type == RewardType::PersonalWeight;
-    *amount = Format(session.rewards.amount, weight ? QString() : QStringLiteral("0.0##"), session.locale);
+    *amount = Format(session.profile.rewards.amount, weight ? QString() : QStringLiteral("0.0##"), session.locale);
   }
   return form;
 }

@@ -18,7 +18,7 @@ RewardSettings DefaultRewards(const Session &session) {
 bool HasRow(const Session &session, const QString &table) {
   const Recordset rows =
       session.Data().OpenRecordset(QStringLiteral("SELECT %1.PersonID FROM %1 WHERE ((%1.PersonID)=?);").arg(table),
-                                   {session.CurrentPersonID.toInt()}, RecordsetKind::Forward);
+                                   {session.profile.CurrentPersonID.toInt()}, RecordsetKind::Forward);
   return !rows.Eof();
 }
 
@@ -26,7 +26,7 @@ void InsertRewards(Session &session, const RewardSettings &rewards) {
   session.Data().Execute(
       QStringLiteral("INSERT INTO rewards ( PersonID, RewardType, RewardWeight, RewardMessage, RewardSound ) "
                      "SELECT ? AS Expr1, ? AS Expr2, ? AS Expr3, ? AS Expr4, ? AS Expr5;"),
-      {session.CurrentPersonID.toInt(), static_cast<int>(rewards.type), rewards.amount, rewards.message,
+      {session.profile.CurrentPersonID.toInt(), static_cast<int>(rewards.type), rewards.amount, rewards.message,
        rewards.sound});
 }
 
@@ -52,7 +52,7 @@ using Congratulation = std::optional<std::pair<QString, QString>>;
 
 Congratulation PersonalReward(const Session &session, const CalendarCell &cell) {
   const std::optional<double> weight = ParseNumber(cell.data, session.locale);
-  const double target = session.rewards.amount;
+  const double target = session.profile.rewards.amount;
   if (!weight || *weight > target) return std::nullopt;
   const std::optional<double> lowest = WeightLog(session).LowestBetween(cell.date.addDays(-7), cell.date.addDays(-1));
   if (!lowest || *lowest <= target) return std::nullopt;
@@ -63,7 +63,7 @@ Congratulation PersonalReward(const Session &session, const CalendarCell &cell) 
 
 Congratulation DailyReward(const Session &session, const CalendarCell &cell) {
   const std::optional<double> amount = TrueLoss(cell.loss, session);
-  if (!amount || *amount < session.rewards.amount) return std::nullopt;
+  if (!amount || *amount < session.profile.rewards.amount) return std::nullopt;
   return std::pair(QStringLiteral("Daily Reward"), QStringLiteral("You have lost ") + LossWithUnit(*amount, session) +
                                                        QStringLiteral(" since you last weighed-in!"));
 }
@@ -83,14 +83,14 @@ Congratulation WeeklyReward(const Session &session, const CalendarMonth &month, 
   const int row = weekEnds ? RowOfCell(i) : FinishedWeekRow(month, i);
   if (row == 0) return std::nullopt;
   const std::optional<double> amount = TrueLoss(month.Total(row).text, session);
-  if (!amount || *amount < session.rewards.amount) return std::nullopt;
+  if (!amount || *amount < session.profile.rewards.amount) return std::nullopt;
   return std::pair(QStringLiteral("Weekly Reward"),
                    QStringLiteral("You lost ") + LossWithUnit(*amount, session) +
                        (weekEnds ? QStringLiteral(" this week!") : QStringLiteral(" last week!")));
 }
 
 Congratulation CongratulationFor(const Session &session, const CalendarMonth &month, int i) {
-  switch (session.rewards.type) {
+  switch (session.profile.rewards.type) {
     case RewardType::Never:
       return std::nullopt;
     case RewardType::PersonalWeight:
@@ -106,16 +106,17 @@ Congratulation CongratulationFor(const Session &session, const CalendarMonth &mo
 }  // namespace
 
 void LoadRewardSettings(Session &session) {
-  const Recordset row = session.Data().OpenRecordset(
-      QStringLiteral("SELECT rewards.* FROM rewards WHERE ((rewards.PersonID)=?);"), {session.CurrentPersonID.toInt()});
+  const Recordset row =
+      session.Data().OpenRecordset(QStringLiteral("SELECT rewards.* FROM rewards WHERE ((rewards.PersonID)=?);"),
+                                   {session.profile.CurrentPersonID.toInt()});
   if (row.Eof()) {
-    session.rewards = DefaultRewards(session);
-    if (HasRow(session, QStringLiteral("people"))) InsertRewards(session, session.rewards);
+    session.profile.rewards = DefaultRewards(session);
+    if (HasRow(session, QStringLiteral("people"))) InsertRewards(session, session.profile.rewards);
     return;
   }
-  session.rewards = {static_cast<RewardType>(row.Integer(QStringLiteral("RewardType"))),
-                     row.Number(QStringLiteral("RewardWeight")), row.Text(QStringLiteral("RewardMessage")),
-                     row.Text(QStringLiteral("RewardSound"))};
+  session.profile.rewards = {static_cast<RewardType>(row.Integer(QStringLiteral("RewardType"))),
+                             row.Number(QStringLiteral("RewardWeight")), row.Text(QStringLiteral("RewardMessage")),
+                             row.Text(QStringLiteral("RewardSound"))};
 }
 
 void SaveRewardSettings(Session &session, const RewardSettings &rewards) {
@@ -125,11 +126,11 @@ void SaveRewardSettings(Session &session, const RewardSettings &rewards) {
     session.Data().Execute(
         QStringLiteral("UPDATE rewards SET rewards.RewardType = ?, rewards.RewardWeight = ?, "
                        "rewards.RewardMessage = ?, rewards.RewardSound = ? WHERE (((rewards.PersonID)=?));"),
-        {static_cast<int>(kept.type), kept.amount, kept.message, kept.sound, session.CurrentPersonID.toInt()});
+        {static_cast<int>(kept.type), kept.amount, kept.message, kept.sound, session.profile.CurrentPersonID.toInt()});
   } else if (HasRow(session, QStringLiteral("people"))) {
     InsertRewards(session, kept);
   }
-  session.rewards = kept;
+  session.profile.rewards = kept;
 }
 
 QString DefaultRewardAmount(RewardType type, int UomID) {
@@ -139,21 +140,22 @@ QString DefaultRewardAmount(RewardType type, int UomID) {
 }
 
 std::optional<RewardNotice> EvaluateReward(Session &session, const CalendarMonth &month, int i) {
-  if (session.SuppressReward || month.Cell(i).data.isEmpty()) return std::nullopt;
+  if (session.windows.SuppressReward || month.Cell(i).data.isEmpty()) return std::nullopt;
   std::optional<RewardNotice> notice;
   GuardedQuietly([&] {
     if (const Congratulation found = CongratulationFor(session, month, i)) {
-      notice = RewardNotice{found->first, found->second, session.rewards.message, session.rewards.sound};
+      notice =
+          RewardNotice{found->first, found->second, session.profile.rewards.message, session.profile.rewards.sound};
     }
   });
   return notice;
 }
 
 QString RewardDistanceText(const Session &session) {
-  const std::optional<double> left = ParseNumber(session.statistics.LbsLeft, session.locale);
+  const std::optional<double> left = ParseNumber(session.profile.statistics.LbsLeft, session.locale);
   if (!left) return {};
   if (*left <= 0) return QStringLiteral("Goal Achieved!");
-  return session.statistics.LbsLeft +
+  return session.profile.statistics.LbsLeft +
          (session.settings.UomID == 1 ? QStringLiteral(" pounds to go!") : QStringLiteral(" kg to go!"));
 }
 

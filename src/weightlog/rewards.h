@@ -10,9 +10,9 @@ namespace trimlog {
 
 class Session;
 
-/// Reads the current profile's reward rule into session.rewards. A profile without one gets the default rule (weekly,
-/// 2, WellDone.wav of the program directory), stored at once; a profile that is not in the file yet gets it in memory
-/// only. Throws what the store throws.
+/// Reads the current profile's reward rule into session.profile.rewards. A profile without one gets the default rule
+/// (weekly, 2, WellDone.wav of the program directory), stored at once; a profile that is not in the file yet gets it in
+/// memory only. Throws what the store throws.
 void LoadRewardSettings(Session &session);
 
 /// Stores a rule for the current profile and makes it the session's. Double quotes in the message become two single
@@ -35,7 +35,7 @@ struct RewardNotice {
 /// cell whose text changed and is not empty, after UpdateStats. Never throws: whatever cannot be read gives no reward.
 std::optional<RewardNotice> EvaluateReward(Session &session, const CalendarMonth &month, int i);
 
-/// "Goal Achieved!" or the distance left with its unit, from session.statistics; "" while no goal is known.
+/// "Goal Achieved!" or the distance left with its unit, from session.profile.statistics; "" while no goal is known.
 QString RewardDistanceText(const Session &session);
 
 }  // namespace trimlog

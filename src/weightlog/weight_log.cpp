@@ -23,7 +23,8 @@ bool IsPlainNumber(const QString &text, const QLocale &locale) {
 
 }  // namespace
 
-WeightLog::WeightLog(const Session &session) : database_(session.Data()), personID_(session.CurrentPersonID.toInt()) {}
+WeightLog::WeightLog(const Session &session)
+    : database_(session.Data()), personID_(session.profile.CurrentPersonID.toInt()) {}
 
 std::optional<WeightRow> WeightLog::FirstOf(const QString &condition, const QString &order,
                                             const Params &params) const {

@@ -35,7 +35,7 @@ std::optional<int> DaysLeft(double left, double pace) {
 std::optional<double> ReadGoal(const Session &session) {
   const Recordset people =
       session.Data().OpenRecordset(QStringLiteral("SELECT people.Goal FROM people WHERE PersonID=?;"),
-                                   {session.CurrentPersonID.toInt()}, RecordsetKind::Forward);
+                                   {session.profile.CurrentPersonID.toInt()}, RecordsetKind::Forward);
   return people.Eof() ? std::nullopt : ParseNumber(people.Text(QStringLiteral("Goal")), session.locale);
 }
 
@@ -72,10 +72,11 @@ void UpdateStats(Session &session) {
             const WeightLog log(session);
             const std::optional<WeightRow> first = log.First();
             const std::optional<WeightRow> last = first ? log.Last() : std::nullopt;
-            session.FirstWeightDate = first ? first->date : QDate();
-            session.LastWeightDate = last ? last->date : QDate();
-            session.statistics = first && last ? MakeStatistics(*first, *last, ReadGoal(session), session.locale)
-                                               : Statistics{unknown, unknown, unknown, unknown, unknown};
+            session.profile.FirstWeightDate = first ? first->date : QDate();
+            session.profile.LastWeightDate = last ? last->date : QDate();
+            session.profile.statistics = first && last
+                                             ? MakeStatistics(*first, *last, ReadGoal(session), session.locale)
+                                             : Statistics{unknown, unknown, unknown, unknown, unknown};
           });
   session.changes.AnnounceStatistics();
 }

@@ -14,8 +14,8 @@ namespace trimlog {
 Statistics MakeStatistics(const WeightRow &first, const WeightRow &last, const std::optional<double> &goal,
                           const QLocale &locale);
 
-/// Recomputes session.statistics, FirstWeightDate and LastWeightDate from the current profile's first and last weight,
-/// and announces them. Reads three rows however long the history. A failure shows its box and is logged.
+/// Recomputes session.profile.statistics, FirstWeightDate and LastWeightDate from the current profile's first and last
+/// weight, and announces them. Reads three rows however long the history. A failure shows its box and is logged.
 void UpdateStats(Session &session);
 
 }  // namespace trimlog

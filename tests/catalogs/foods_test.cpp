@@ -62,9 +62,9 @@ TEST_F(Foods, ListsShowWhatTheyNameAndNeverRecipes) {
   Eat(mine, QDate(2026, 2, 16));
   Eat(1, QDate(2026, 2, 15));          // fifteen days ago
   Eat(2, QDate(2026, 3, 5), 1, true);  // planned counts
-  session->CurrentPersonID = "-2";
+  session->profile.CurrentPersonID = "-2";
   FillRecentFoods(*session);
-  session->CurrentPersonID = "1";
+  session->profile.CurrentPersonID = "1";
   FillRecentFoods(*session);
   const QStringList recent = Names(FoodListSource({.list = food_list::recent}));
   EXPECT_EQ(recent.size(), 2);

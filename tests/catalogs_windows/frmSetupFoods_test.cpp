@@ -126,7 +126,7 @@ TEST_F(SetupFoodsTest, RowsOfOneGridArePastedIntoTheOther) {
   EXPECT_EQ(Find<QLabel>(window, "lblFoods").text().right(17), "2 Foods Displayed");
   EXPECT_EQ(Found().Model().RecordCount(), 38) << "the search sees the new food too";
 
-  session->rowClipboard.kind = "datLinks";
+  session->windows.rowClipboard.kind = "datLinks";
   session.boxes.Expect("Unable to Copy Data",
                        "The data that was last copied was not of this type.  Please select and copy the corresponding "
                        "data that you would like to paste first.");

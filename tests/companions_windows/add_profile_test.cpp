@@ -26,12 +26,12 @@ TEST_F(AddProfile, StoresWhatWasTypedByKeys) {
   }));
   EXPECT_EQ(Person("PersonName", 2) + Person("Goal", 2) + Person("HeightFeet", 2), "Ann ''A''150.55");
   EXPECT_EQ(Person("BirthDate", 2) + Person("GenderID", 2), "2") << "nothing told of the birth date";
-  EXPECT_EQ(session->CurrentPersonID, "1") << "the profile in use stays";
+  EXPECT_EQ(session->profile.CurrentPersonID, "1") << "the profile in use stays";
   EXPECT_EQ(announced, 1);
 }
 
 TEST_F(AddProfile, SaysWhatIsWrongAndGoesThere) {
-  session->BizEd = true;
+  session->edition.BizEd = true;
   session.Data().Execute("UPDATE people SET UserID = \"taken\" WHERE (PersonID=1);");
   struct Case {
     const char *field;

@@ -65,7 +65,7 @@ TEST_F(FirstRun, TakesFiveStepsByKeysInPoundsAndInches) {
   EXPECT_EQ(titles, (QStringList{"Introduction to this Wizard (Step 1 of 5)", "Your Profile Information (Step 2 of 5)",
                                  "Your Weight and Diet Information (Step 3 of 5)",
                                  "Your Nutrient Selections (Step 4 of 5)", "Your Color Scheme (Step 5 of 5)"}));
-  EXPECT_EQ(session->CurrentPersonID, "1");
+  EXPECT_EQ(session->profile.CurrentPersonID, "1");
   EXPECT_EQ(Person("PersonName", 1), "Dr. ''Bo'' O'Brien");
   EXPECT_EQ(Person("HeightFeet", 1) + "|" + Person("HeightInches", 1) + "|" + Person("Goal", 1), "5|6|150");
   EXPECT_EQ(Person("GenderID", 1) + "|" + Person("BackColor", 1), "2|14745599");
@@ -399,7 +399,7 @@ TEST_F(AddingProfile, TakesTwoStepsAndLeavesSelectionTargetsAndUnitsAlone) {
       keys.FillStep({"81", "72.5"});
     }));
     const int added = uomID + 1;
-    EXPECT_EQ(session->CurrentPersonID, QString::number(added));
+    EXPECT_EQ(session->profile.CurrentPersonID, QString::number(added));
     EXPECT_EQ(Person("PersonName", added) + Person("HeightInches", added), uomID == 1 ? "Ann9.5" : "Ann76");
     EXPECT_EQ(Count("weight_loss", QStringLiteral("PersonID=%1 AND ThisWeight=81").arg(added)), "1");
     EXPECT_EQ(session.ValueOf("NutrientID1", "selected_nutrients", "PersonID=1"), selection);
@@ -413,7 +413,7 @@ TEST_F(AddingProfile, CancelLeavesTheProfileInUse) {
     keys.Type("Ann");
     Find<QPushButton>(wizard, "cmdCancel").click();
   }));
-  EXPECT_EQ(session->CurrentPersonID, "1");
+  EXPECT_EQ(session->profile.CurrentPersonID, "1");
   EXPECT_EQ(Count("people", "PersonID > 0"), "1");
 }
 

@@ -29,7 +29,7 @@ TEST(NewProfile, IsCheckedFieldByField) {
   EXPECT_EQ(titleOf({.PersonName = "Bo", .BirthDate = QDate(2026, 3, 2)}), "Invalid Birth Date");
   EXPECT_EQ(titleOf({.PersonName = "Bo", .HeightFeet = 5, .BirthDate = QDate(2026, 3, 1)}), "");
   EXPECT_EQ(titleOf({.PersonName = "Bo"}), "") << "a Profile ID is asked for only with the administrator";
-  session->BizEd = true;
+  session->edition.BizEd = true;
   session.Data().Execute("UPDATE people SET UserID = \"Bo\" WHERE (PersonID=1);");
   EXPECT_EQ(titleOf({.PersonName = "Bo"}), "Profile ID Required");
   EXPECT_EQ(titleOf({.PersonName = "Bo", .UserID = QString(26, 'x')}), "Profile ID Too Long");

@@ -52,7 +52,7 @@ TEST(NutrientVocabulary, AnIdBeyondTheVocabularyLeavesTheDefinitionsAsTheyWere) 
 
 TEST(NutrientVocabulary, TheSelectionInForceIsTheOneOfTheFile) {
   TestSession session;
-  session->CurrentPersonID = QStringLiteral("-1");  // the selection is not per profile
+  session->profile.CurrentPersonID = QStringLiteral("-1");  // the selection is not per profile
   session.Data().Execute(QStringLiteral(
       "UPDATE selected_nutrients SET NutrientID1=35, NutDescription1=\"My Trans Fat\", NutTotal1=True, "
       "NutrientID2=0, NutDescription2=\"\", NutTotal2=False, NutrientID3=28, NutDescription3=\"Caffeine\", "

@@ -57,8 +57,8 @@ TEST(Options, TheNutrientIsReadAfreshFromTheStore) {
 
 TEST(Options, TheQuickJournalGoesBackBesideTheFrame) {
   TestSession session;
-  session->framePlace = {100, 200, 12000, 9000};
-  session->quickJournalPlace = {5, 6, 7, 8};
+  session->windows.framePlace = {100, 200, 12000, 9000};
+  session->windows.quickJournalPlace = {5, 6, 7, 8};
   ResetQuickJournalPlace(*session);
   const std::pair<const char *, int> stored[] = {
       {"QDLeft", 100 + 9525 - 8235}, {"QDTop", 200 + 7095 - 2760}, {"QDWidth", 8235}, {"QDHeight", 2760}};

@@ -53,16 +53,17 @@ TEST(ApplyProfile, TakesColourTargetsAndStanding) {
     session.Data().Execute(QStringLiteral("UPDATE people SET NutTargetID=Null WHERE PersonID < 0;"));
     if (*row.stored) session.Data().Execute(QString::fromLatin1(row.stored));
     session.machine.colors = row.colours;
-    session->BizEdLoginMode = row.loginMode;
-    session->BackColor = 0x123456;
-    session->FirstWeightDate = session->LastWeightDate = session->RememberedDate = QDate(2026, 1, 1);
+    session->edition.BizEdLoginMode = row.loginMode;
+    session->profile.BackColor = 0x123456;
+    session->profile.FirstWeightDate = session->profile.LastWeightDate = session->windows.RememberedDate =
+        QDate(2026, 1, 1);
     ApplyProfile(*session, {}, QString::fromLatin1(row.personID));
-    EXPECT_EQ(session->CurrentPersonID.toStdString(), row.personID);
-    EXPECT_EQ(session->BackColor, row.backColor);
-    EXPECT_EQ(session->NutTargetID, row.targetSet);
-    EXPECT_EQ(session->LastRealPersonID.toStdString(), row.lastReal);
-    EXPECT_FALSE(session->FirstWeightDate.isValid() || session->LastWeightDate.isValid() ||
-                 session->RememberedDate.isValid());
+    EXPECT_EQ(session->profile.CurrentPersonID.toStdString(), row.personID);
+    EXPECT_EQ(session->profile.BackColor, row.backColor);
+    EXPECT_EQ(session->profile.NutTargetID, row.targetSet);
+    EXPECT_EQ(session->profile.LastRealPersonID.toStdString(), row.lastReal);
+    EXPECT_FALSE(session->profile.FirstWeightDate.isValid() || session->profile.LastWeightDate.isValid() ||
+                 session->windows.RememberedDate.isValid());
   }
 }
 
@@ -76,7 +77,7 @@ TEST(ApplyProfile, ReadsTargetsBeforeRewardsAndStatisticsLast) {
   RoomHooks hooks;
   hooks.LoadRewardSettings = [&] {
     EXPECT_DOUBLE_EQ(session->nutrients.NutrientTargets[0], expected.toDouble());
-    order.append(QStringLiteral("rewards of ") + session->CurrentPersonID);
+    order.append(QStringLiteral("rewards of ") + session->profile.CurrentPersonID);
   };
   hooks.UpdateStats = [&] {
     EXPECT_GT(session->nutrients.SelectedNutrients[0].NutrientID, 0);
@@ -101,11 +102,11 @@ TEST(ProfilesMenu, ListsNamesSamplesAndCommands) {
   session.AddProfile(3, QStringLiteral("abel"));
   const std::string tail = "-|&Create a New Profile...|&Edit Profiles...";
   EXPECT_EQ(MenuOf(session), "abel=3|Test Person=1*|Tom && Ann=12|-|Sample Profile 1=-2|Sample Profile 2=-1|" + tail);
-  session->CurrentPersonID = QStringLiteral("-1");
+  session->profile.CurrentPersonID = QStringLiteral("-1");
   EXPECT_EQ(MenuOf(session), "abel=3|Test Person=1|Tom && Ann=12|-|Sample Profile 1=-2|Sample Profile 2=-1*|" + tail);
-  session->BizEd = true;
+  session->edition.BizEd = true;
   EXPECT_EQ(MenuOf(session), "Select &Profile...|Profile &Administrator...");
-  session->BizEdLoginMode = true;
+  session->edition.BizEdLoginMode = true;
   EXPECT_EQ(MenuOf(session), "abel=3|Test Person=1|Tom && Ann=12|-|Sample Profile 1=-2|Sample Profile 2=-1*|" + tail);
 }
 
@@ -136,7 +137,7 @@ void AddWeightAndNote(TestSession &session, int personID) {
 TEST(ResetWeightLossData, DeletesThoseOfProfileOneWhicheverIsLoaded) {
   TestSession session;
   session.AddProfile(2, QStringLiteral("Ann"));
-  session->CurrentPersonID = QStringLiteral("2");
+  session->profile.CurrentPersonID = QStringLiteral("2");
   AddWeightAndNote(session, 1);
   AddWeightAndNote(session, 2);
   const QString title = QStringLiteral("Reset Weight Loss Data");
@@ -163,7 +164,7 @@ TEST(AdminProfile, MovesTheFirstProfileWithItsDataAndIsMadeOnce) {
   CreateAdminProfile(*session);
   EXPECT_EQ(PeopleField(session, "PersonName", 1), "Test Person") << "without the Profile Administrator";
 
-  session->BizEd = true;
+  session->edition.BizEd = true;
   CreateAdminProfile(*session);
   EXPECT_EQ(PeopleField(session, "PersonName", 6), "Test Person");
   EXPECT_EQ(RowsOf(session, "notes", 6), 1);
@@ -188,7 +189,7 @@ TEST(AdminProfile, MovesTheFirstProfileWithItsDataAndIsMadeOnce) {
 
 TEST(AdminProfile, AFailureLeavesThePeopleAsTheyWere) {
   TestSession session;
-  session->BizEd = true;
+  session->edition.BizEd = true;
   session.Data().Execute(QStringLiteral("DROP TABLE weight_loss;"));
   EXPECT_ANY_THROW(CreateAdminProfile(*session));
   EXPECT_EQ(PeopleField(session, "PersonName", 1), "Test Person");
@@ -199,16 +200,17 @@ TEST(ProfileToStandOn, FindsAProfileThatIsStillThere) {
   session.AddProfile(4, QStringLiteral("Ann"));
   session.AddProfile(9, QStringLiteral("Bob"));
   EXPECT_EQ(ProfileToStandOn(*session).toStdString(), "1");
-  session->CurrentPersonID = session->LastRealPersonID = QStringLiteral("9");
+  session->profile.CurrentPersonID = session->profile.LastRealPersonID = QStringLiteral("9");
   session.Data().Execute(QStringLiteral("DELETE people.* FROM people WHERE PersonID IN (1, 9);"));
   EXPECT_EQ(ProfileToStandOn(*session).toStdString(), "4");
-  EXPECT_EQ(session->LastRealPersonID.toStdString(), "4");
-  session->CurrentPersonID = QStringLiteral("-1");
+  EXPECT_EQ(session->profile.LastRealPersonID.toStdString(), "4");
+  session->profile.CurrentPersonID = QStringLiteral("-1");
   EXPECT_EQ(ProfileToStandOn(*session).toStdString(), "-1");
-  session->CurrentPersonID = QStringLiteral("4");
+  session->profile.CurrentPersonID = QStringLiteral("4");
   session.Data().Execute(QStringLiteral("DELETE people.* FROM people WHERE PersonID > 0;"));
   EXPECT_EQ(ProfileToStandOn(*session).toStdString(), "-2");
-  EXPECT_EQ(session->LastRealPersonID.toStdString(), "") << "what is stored at exit must not name a deleted profile";
+  EXPECT_EQ(session->profile.LastRealPersonID.toStdString(), "")
+      << "what is stored at exit must not name a deleted profile";
 }
 
 TEST(StoreBackColor, KeepsTheColourOfOneProfileAndSaysSo) {
@@ -220,10 +222,10 @@ TEST(StoreBackColor, KeepsTheColourOfOneProfileAndSaysSo) {
   StoreBackColor(*session, QStringLiteral("4"), 0xE0FFE0);
   EXPECT_EQ(PeopleField(session, "BackColor", 4), std::to_string(0xE0FFE0));
   EXPECT_EQ(PeopleField(session, "BackColor", 1), "");
-  EXPECT_EQ(session->BackColor, 0xFFE0C0u) << "another profile is loaded";
+  EXPECT_EQ(session->profile.BackColor, 0xFFE0C0u) << "another profile is loaded";
   session.boxes.Expect(QStringLiteral("Color Scheme Changed."), said);
   StoreBackColor(*session, QStringLiteral("1"), 0xE0FFE0);
-  EXPECT_EQ(session->BackColor, 0xE0FFE0u);
+  EXPECT_EQ(session->profile.BackColor, 0xE0FFE0u);
 }
 
 }  // namespace

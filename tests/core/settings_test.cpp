@@ -169,8 +169,8 @@ TEST_F(Geometry, DefaultsAreCentredAndFollowTheFrame) {
        {WindowGroup::Frame, WindowGroup::QuickJournalPosition, WindowGroup::QuickJournalSize}) {
     Read(group);
   }
-  ExpectPlace(session.framePlace, 4837, 4132, 9525, 7095);
-  ExpectPlace(session.quickJournalPlace, 4837 + 9525 - 8235, 4132 + 7095 - 2760, 8235, 2760);
+  ExpectPlace(session.windows.framePlace, 4837, 4132, 9525, 7095);
+  ExpectPlace(session.windows.quickJournalPlace, 4837 + 9525 - 8235, 4132 + 7095 - 2760, 8235, 2760);
   EXPECT_EQ(InStore("Left"), QStringLiteral("none")) << "a start writes no geometry";
 
   Put("Width", "12000");
@@ -178,21 +178,21 @@ TEST_F(Geometry, DefaultsAreCentredAndFollowTheFrame) {
   Put("Top", "oops");
   Put("Height", "0");
   Read(WindowGroup::Frame);
-  ExpectPlace(session.framePlace, -300, 4132, 12000, 7095);
+  ExpectPlace(session.windows.framePlace, -300, 4132, 12000, 7095);
 }
 
 TEST_F(Geometry, OnlyNormalAndMaximisedAreTaken) {
   for (const auto &[text, state] : {std::pair{"0", 0}, {"1", 0}, {"2", 2}, {"3", 0}, {"", 0}, {"x", 0}}) {
     Put("WindowState", text);
     Read(WindowGroup::Frame);
-    EXPECT_EQ(session.frameWindowState, state) << text;
+    EXPECT_EQ(session.windows.frameWindowState, state) << text;
   }
 }
 
 TEST_F(Geometry, EachGroupIsWrittenAloneAndReadBack) {
-  session.framePlace = {10, 20, 9600, 7200};
-  session.frameWindowState = 2;
-  session.quickJournalPlace = {30, 40, 8300, 2800};
+  session.windows.framePlace = {10, 20, 9600, 7200};
+  session.windows.frameWindowState = 2;
+  session.windows.quickJournalPlace = {30, 40, 8300, 2800};
   WindowPosition(session, true, WindowGroup::Frame);
   EXPECT_EQ(InStore("QDLeft"), QStringLiteral("none"));
   WindowPosition(session, true, WindowGroup::QuickJournalSize);
@@ -200,16 +200,16 @@ TEST_F(Geometry, EachGroupIsWrittenAloneAndReadBack) {
   EXPECT_EQ(InStore("QDWidth"), QStringLiteral("8300"));
   WindowPosition(session, true, WindowGroup::QuickJournalPosition);
 
-  session.framePlace = {};
-  session.quickJournalPlace = {};
-  session.frameWindowState = 0;
+  session.windows.framePlace = {};
+  session.windows.quickJournalPlace = {};
+  session.windows.frameWindowState = 0;
   for (const WindowGroup group :
        {WindowGroup::Frame, WindowGroup::QuickJournalPosition, WindowGroup::QuickJournalSize}) {
     Read(group);
   }
-  ExpectPlace(session.framePlace, 10, 20, 9600, 7200);
-  ExpectPlace(session.quickJournalPlace, 30, 40, 8300, 2800);
-  EXPECT_EQ(session.frameWindowState, 2);
+  ExpectPlace(session.windows.framePlace, 10, 20, 9600, 7200);
+  ExpectPlace(session.windows.quickJournalPlace, 30, 40, 8300, 2800);
+  EXPECT_EQ(session.windows.frameWindowState, 2);
 }
 
 TEST_F(Geometry, EditionFlags) {
@@ -223,25 +223,25 @@ TEST_F(Geometry, EditionFlags) {
     for (const char *name : {"BizEd", "BizEdLoginMode", "Serava"}) Put(name, c.text);
     LoadBizEdSettings(session);
     LoadSeravaSetting(session);
-    EXPECT_EQ(session.BizEd, c.bizEd) << c.text;
-    EXPECT_EQ(session.BizEdLoginMode, c.bizEd) << c.text;
-    EXPECT_EQ(session.SeravaEdition, c.serava) << c.text;
+    EXPECT_EQ(session.edition.BizEd, c.bizEd) << c.text;
+    EXPECT_EQ(session.edition.BizEdLoginMode, c.bizEd) << c.text;
+    EXPECT_EQ(session.edition.SeravaEdition, c.serava) << c.text;
   }
-  session.BizEdLoginMode = session.SeravaEdition = false;
+  session.edition.BizEdLoginMode = session.edition.SeravaEdition = false;
   Put("BizTitle", "Weight Club");
   EXPECT_EQ(ApplicationTitle(session), QStringLiteral("Trimlog Pro 2.7"));
-  session.SeravaEdition = true;
+  session.edition.SeravaEdition = true;
   EXPECT_EQ(ApplicationTitle(session), QStringLiteral("Trimlog Pro SERAVA Edition 2.7"));
-  session.BizEdLoginMode = true;
+  session.edition.BizEdLoginMode = true;
   EXPECT_EQ(ApplicationTitle(session), QStringLiteral("Weight Club"));
   Put("BizTitle", "");
   EXPECT_EQ(ApplicationTitle(session), QStringLiteral("Trimlog Pro SERAVA Edition 2.7"));
   const QString handheld = settingsRoot + QStringLiteral("\\PPC");
   LoadHandheldSettings(session);
-  EXPECT_FALSE(session.HandheldSupport);
+  EXPECT_FALSE(session.edition.HandheldSupport);
   store->SaveSettingString(handheld, QStringLiteral("DaysHistory"), QStringLiteral("0"));
   LoadHandheldSettings(session);
-  EXPECT_TRUE(session.HandheldSupport) << "any text counts";
+  EXPECT_TRUE(session.edition.HandheldSupport) << "any text counts";
   for (const auto &[text, on] : {std::pair{"", true}, {"maybe", true}, {"-1", true}, {"0", false}}) {
     store->SaveSettingString(handheld, QStringLiteral("ActiveSyncOnExit"), QLatin1String(text));
     EXPECT_EQ(ActiveSyncOnExit(session), on) << text;

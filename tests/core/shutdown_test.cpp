@@ -40,8 +40,8 @@ TEST_F(Stop, StoresTheSessionAndRestoresTheSamples) {
 }
 
 TEST_F(Stop, TheQuickJournalsSizeIsKeptWhileItIsOpen) {
-  bench.session.QuickJournalOpen = true;
-  bench.session.quickJournalPlace = {1, 2, 8400, 2900};
+  bench.session.windows.QuickJournalOpen = true;
+  bench.session.windows.quickJournalPlace = {1, 2, 8400, 2900};
   EXPECT_TRUE(bench.application.QueryUnload());
   EXPECT_EQ(bench.Setting(QStringLiteral("QDWidth")), QStringLiteral("8400"));
   EXPECT_EQ(bench.Setting(QStringLiteral("QDHeight")), QStringLiteral("2900"));
@@ -49,13 +49,13 @@ TEST_F(Stop, TheQuickJournalsSizeIsKeptWhileItIsOpen) {
 
 TEST_F(Stop, ASampleIsNeverTheProfileOfTheNextRun) {
   for (const char *person : {"", "-1", "-2", "-3", "-4"}) {
-    bench.session.LastRealPersonID = QLatin1String(person);
+    bench.session.profile.LastRealPersonID = QLatin1String(person);
     bench.Put(QStringLiteral("PersonID"), QStringLiteral("9"));
     EXPECT_TRUE(bench.application.QueryUnload());
     EXPECT_EQ(bench.Setting(QStringLiteral("PersonID")), QStringLiteral("9")) << person;
   }
-  bench.session.CurrentPersonID = QStringLiteral("-2");
-  bench.session.LastRealPersonID = QStringLiteral("4");
+  bench.session.profile.CurrentPersonID = QStringLiteral("-2");
+  bench.session.profile.LastRealPersonID = QStringLiteral("4");
   EXPECT_TRUE(bench.application.QueryUnload());
   EXPECT_EQ(bench.Setting(QStringLiteral("PersonID")), QStringLiteral("4"));
 }
@@ -88,7 +88,7 @@ TEST_F(Stop, ARefusedEditKeepsTheProgramOpen) {
 }
 
 TEST_F(Stop, TheHandheldComesLast) {
-  bench.session.HandheldSupport = true;
+  bench.session.edition.HandheldSupport = true;
   EXPECT_TRUE(bench.application.QueryUnload());
   EXPECT_EQ(bench.calls.last(), QStringLiteral("handheld 1"));
   bench.store->SaveSettingString(settingsRoot + QStringLiteral("\\PPC"), QStringLiteral("ActiveSyncOnExit"),

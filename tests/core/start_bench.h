@@ -42,7 +42,7 @@ class StartBench {
       calls.append(QStringLiteral("edit saved"));
       return editSaves;
     };
-    doors.ReadWindowPlaces = [this] { session.framePlace = {100, 200, 9600, 7200}; };
+    doors.ReadWindowPlaces = [this] { session.windows.framePlace = {100, 200, 9600, 7200}; };
     hooks.LoadRewardSettings = Remember(QStringLiteral("rewards"));
     hooks.CheckDBVersionAndUpdate = [this] {
       calls.append(QStringLiteral("upgrade"));

@@ -187,13 +187,11 @@ TEST_F(Start, TheStepsComeInOrder) {
   bench.Put(QStringLiteral("WindowState"), QStringLiteral("2"));
   bench.store->SaveSettingString(settingsRoot + QStringLiteral("\\PPC"), QStringLiteral("DaysHistory"),
                                  QStringLiteral("7"));
-  bench.session.AboutMode = true;
   EXPECT_EQ(bench.application.Main(), Outcome::Running);
   const QStringList expected = {QStringLiteral("handheld 0"), QStringLiteral("upgrade"), QStringLiteral("serava"),
                                 QStringLiteral("rewards"),    QStringLiteral("frame"),   QStringLiteral("events"),
                                 QStringLiteral("maximised")};
   EXPECT_EQ(bench.calls, expected);
-  EXPECT_FALSE(bench.session.AboutMode);
   EXPECT_EQ(bench.session.UomDisplay, QStringLiteral("Lbs"));
   EXPECT_FALSE(bench.session.nutrients.NutrientDefs[0].fieldName.isEmpty());
   EXPECT_EQ(bench.Setting(QStringLiteral("ShowSplash")), QStringLiteral("-1")) << "the first start writes the defaults";
@@ -227,8 +225,8 @@ TEST_F(Start, ProfileThatIsChosen) {
     }
     fresh.Put(QStringLiteral("PersonID"), QLatin1String(c.saved));
     EXPECT_EQ(fresh.application.Main(), Outcome::Running);
-    EXPECT_EQ(fresh.session.CurrentPersonID.toStdString(), c.chosen);
-    EXPECT_EQ(fresh.session.LastRealPersonID.toStdString(), c.chosen);
+    EXPECT_EQ(fresh.session.profile.CurrentPersonID.toStdString(), c.chosen);
+    EXPECT_EQ(fresh.session.profile.LastRealPersonID.toStdString(), c.chosen);
   }
 }
 
@@ -249,8 +247,8 @@ TEST_F(Start, ColourAndTargetsOfTheProfile) {
         QStringLiteral("UPDATE people SET people.BackColor = %1, people.NutTargetID = %2 WHERE people.PersonID=1;")
             .arg(QLatin1String(c.backColor), QLatin1String(c.target)));
     EXPECT_EQ(fresh.application.Main(), Outcome::Running);
-    EXPECT_EQ(fresh.session.BackColor, c.expectedColour);
-    EXPECT_EQ(fresh.session.NutTargetID, c.expectedTarget);
+    EXPECT_EQ(fresh.session.profile.BackColor, c.expectedColour);
+    EXPECT_EQ(fresh.session.profile.NutTargetID, c.expectedTarget);
   }
 }
 

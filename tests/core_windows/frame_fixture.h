@@ -54,7 +54,7 @@ class FrameTest : public ::testing::Test {
     FillNutrientDefinitions(session->nutrients, session.Data());
     session->settings.ShowSplash = false;
     session->settings.ShowTutorial = false;
-    session->framePlace = {1500, 1500, 9525, 7095};
+    session->windows.framePlace = {1500, 1500, 9525, 7095};
     for (const char *name : {"frmData", "frmDiary", "frmGraphs"}) Offer(QString::fromLatin1(name));
   }
 

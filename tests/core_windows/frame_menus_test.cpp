@@ -151,8 +151,8 @@ TEST_F(FrameCommandsTest, RowCommandsActOnTheGridInUse) {
   grid->GoToKey(2);
   QMetaObject::invokeMethod(Action("mnuEdit")->menu(), "aboutToShow");
   Choose("mnuEditCopyRowNormal");
-  EXPECT_EQ(session->rowClipboard.kind, QStringLiteral("datPeople"));
-  ASSERT_EQ(session->rowClipboard.rows.size(), 1);
+  EXPECT_EQ(session->windows.rowClipboard.kind, QStringLiteral("datPeople"));
+  ASSERT_EQ(session->windows.rowClipboard.rows.size(), 1);
   Choose("mnuEditCopyRowExternal");
   EXPECT_EQ(QApplication::clipboard()->text(), QStringLiteral("Bob"));
   Choose("mnuEditDeleteRow");

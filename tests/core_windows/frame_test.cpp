@@ -80,7 +80,7 @@ TEST_F(Frame, QuickJournalLivesOverTheCalendarOnly) {
   QWidget quickJournal(frame.get(), Qt::Tool);
   quickJournal.setObjectName(QStringLiteral("frmQuickDiary"));
   quickJournal.show();
-  session->QuickJournalOpen = true;
+  session->windows.QuickJournalOpen = true;
   frame->ShowForm(QStringLiteral("frmGraphs"));
   EXPECT_FALSE(quickJournal.isVisible());
   frame->ShowForm(QStringLiteral("frmData"));
@@ -88,7 +88,7 @@ TEST_F(Frame, QuickJournalLivesOverTheCalendarOnly) {
 }
 
 TEST_F(Frame, KeepsItsLeastSizeAndStandsOnTheScreen) {
-  session->framePlace = {-90000, -90000, 100, 100};
+  session->windows.framePlace = {-90000, -90000, 100, 100};
   Load();
   EXPECT_EQ(frame->size(), QSize(635, 473));
   EXPECT_TRUE(QApplication::screenAt(frame->geometry().center()));
@@ -102,21 +102,21 @@ TEST_F(Frame, KeepsItsLeastSizeAndStandsOnTheScreen) {
   EXPECT_EQ(Find<QWidget>("frmMain")->geometry().bottom(), Find<QWidget>("pnlContent")->geometry().bottom());
   EXPECT_EQ(frame->CurrentForm()->mapTo(frame.get(), QPoint(frame->CurrentForm()->width(), 0)).x(), 1000);
   frame->ReadPlace();
-  EXPECT_EQ(session->framePlace.Width, 15000);
-  EXPECT_EQ(session->framePlace.Height, 10500);
+  EXPECT_EQ(session->windows.framePlace.Width, 15000);
+  EXPECT_EQ(session->windows.framePlace.Height, 10500);
 }
 
 TEST_F(Frame, WindowStateFollowsAndMinimisedIsNoState) {
   Load();
   frame->setWindowState(Qt::WindowMaximized);
   QApplication::processEvents();
-  EXPECT_EQ(session->frameWindowState, 2);
+  EXPECT_EQ(session->windows.frameWindowState, 2);
   frame->setWindowState(Qt::WindowMaximized | Qt::WindowMinimized);
   QApplication::processEvents();
-  EXPECT_EQ(session->frameWindowState, 2);
+  EXPECT_EQ(session->windows.frameWindowState, 2);
   frame->setWindowState(Qt::WindowNoState);
   QApplication::processEvents();
-  EXPECT_EQ(session->frameWindowState, 0);
+  EXPECT_EQ(session->windows.frameWindowState, 0);
 }
 
 TEST_F(Frame, ClosesOnlyWhenTheShutdownLetsIt) {
@@ -139,14 +139,14 @@ TEST_F(Frame, PressingAwayFromTheCalendarHoldsRewardsBack) {
   navigator.OpenTools = [](ToolsPanel) {};
   Load();
   for (const char *name : {"cmdGraphs", "cmdTools", "cmdExit"}) {
-    session->SuppressReward = false;
+    session->windows.SuppressReward = false;
     QTest::mousePress(Find<QWidget>(name), Qt::LeftButton);
-    EXPECT_TRUE(session->SuppressReward) << name;
+    EXPECT_TRUE(session->windows.SuppressReward) << name;
   }
   for (const char *name : {"cmdData", "cmdDiary"}) {
-    session->SuppressReward = false;
+    session->windows.SuppressReward = false;
     QTest::mousePress(Find<QWidget>(name), Qt::LeftButton);
-    EXPECT_FALSE(session->SuppressReward) << name;
+    EXPECT_FALSE(session->windows.SuppressReward) << name;
   }
 }
 
@@ -154,8 +154,8 @@ TEST_F(Frame, PanelShowsFiguresUnitsAndTheirChanges) {
   Load();
   EXPECT_EQ(Find<QLabel>("lblGoal")->text(), QStringLiteral("Goal (Lbs)"));
   EXPECT_EQ(Find<QLabel>("lblLbsPerWeek")->text(), QStringLiteral("Lbs/Week"));
-  session->statistics = {QStringLiteral("8.5"), QStringLiteral("1.2"), QStringLiteral("20"), QStringLiteral("117"),
-                         QStringLiteral("6/26/2026")};
+  session->profile.statistics = {QStringLiteral("8.5"), QStringLiteral("1.2"), QStringLiteral("20"),
+                                 QStringLiteral("117"), QStringLiteral("6/26/2026")};
   session->changes.AnnounceStatistics();
   EXPECT_EQ(Find<QLineEdit>("txtLbsLost")->text(), QStringLiteral("8.5"));
   EXPECT_EQ(Find<QLineEdit>("txtProjDate")->text(), QStringLiteral("6/26/2026"));
@@ -172,8 +172,8 @@ TEST_F(Frame, SamplesAreLoadedWelcomedAndMarked) {
   session.boxes.Expect(QStringLiteral("Welcome to Sample Profile 2"), QStringLiteral("7 month period"));
   ProfileEntry(QStringLiteral("Sample Profile 2"))->trigger();
   QApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
-  EXPECT_EQ(session->CurrentPersonID, QStringLiteral("-1"));
-  EXPECT_EQ(session->LastRealPersonID, QStringLiteral("1"));
+  EXPECT_EQ(session->profile.CurrentPersonID, QStringLiteral("-1"));
+  EXPECT_EQ(session->profile.LastRealPersonID, QStringLiteral("1"));
   EXPECT_TRUE(Visible("mnuEditReset"));
   EXPECT_TRUE(ProfileEntry(QStringLiteral("Sample Profile 2"))->isChecked());
   EXPECT_FALSE(ProfileEntry(QStringLiteral("Test Person"))->isChecked());
@@ -189,7 +189,7 @@ TEST_F(Frame, ASwitchThatCannotSaveChangesNothing) {
   Load();
   behaviour.saves = false;
   ProfileEntry(QStringLiteral("Sample Profile 1"))->trigger();
-  EXPECT_EQ(session->CurrentPersonID, QStringLiteral("1"));
+  EXPECT_EQ(session->profile.CurrentPersonID, QStringLiteral("1"));
   EXPECT_TRUE(ProfileEntry(QStringLiteral("Test Person"))->isChecked());
   EXPECT_FALSE(ProfileEntry(QStringLiteral("Sample Profile 1"))->isChecked());
 }
@@ -218,7 +218,7 @@ TEST_F(Frame, NewProfilesAreOfferedOnlyWhereTheyCanBeMade) {
   frame->LoadProfilesMenu();
   ProfileEntry(create)->trigger();
   EXPECT_TRUE(forced);
-  EXPECT_EQ(session->CurrentPersonID, QStringLiteral("1"));
+  EXPECT_EQ(session->profile.CurrentPersonID, QStringLiteral("1"));
   EXPECT_TRUE(ProfileEntry(QStringLiteral("Newcomer"))->isChecked());
 }
 
@@ -234,7 +234,7 @@ TEST_F(Frame, WizardComesByItselfOnlyForTheFirstProfile) {
   Load();
   session->ReloadInProgress = false;
   session.AddProfile(2, QStringLiteral("Bob"));
-  session->CurrentPersonID = QStringLiteral("2");
+  session->profile.CurrentPersonID = QStringLiteral("2");
   Load();
   EXPECT_EQ(runs.size(), 1);
 }
@@ -243,17 +243,17 @@ TEST_F(Frame, NobodyIsLoadedForWhomNothingCouldBeSaved) {
   session.Data().Execute(QStringLiteral("DELETE people.* FROM people WHERE (people.PersonID>0);"));
   navigator.StartWiz = [](bool) { return false; };  // closed before its end
   for (bool reload : {false, true}) {
-    session->CurrentPersonID = QStringLiteral("1");
+    session->profile.CurrentPersonID = QStringLiteral("1");
     session->ReloadInProgress = reload;
     Load();
-    EXPECT_EQ(session->CurrentPersonID, QStringLiteral("-2"));
+    EXPECT_EQ(session->profile.CurrentPersonID, QStringLiteral("-2"));
     EXPECT_TRUE(ProfileEntry(QStringLiteral("Sample Profile 1"))->isChecked());
     EXPECT_TRUE(Visible("mnuEditReset"));
   }
   session.boxes.Expect(QStringLiteral("Reset Weight Loss Data"), QStringLiteral("cannot get it back"), BoxButton::Yes);
   session.boxes.Expect({}, QStringLiteral("All weight loss data has been deleted successfully."));
   Choose("mnuEditOtherReset");
-  EXPECT_EQ(session->CurrentPersonID, QStringLiteral("-2"));
+  EXPECT_EQ(session->profile.CurrentPersonID, QStringLiteral("-2"));
 }
 
 TEST_F(Frame, ResettingWeightsTakesProfileOnesWhicheverIsLoaded) {
@@ -264,16 +264,16 @@ TEST_F(Frame, ResettingWeightsTakesProfileOnesWhicheverIsLoaded) {
                        "Expr1, #3/1/2026# AS Expr2, 180 AS Expr3, 0 AS Expr4;")
             .arg(QLatin1String(person)));
   }
-  session->CurrentPersonID = QStringLiteral("2");
+  session->profile.CurrentPersonID = QStringLiteral("2");
   Load();
   session.boxes.Expect(QStringLiteral("Reset Weight Loss Data"), QStringLiteral("cannot get it back"), BoxButton::No);
   session.boxes.Expect({}, QStringLiteral("Action canceled.  No data was deleted."));
   Choose("mnuEditOtherReset");
-  EXPECT_EQ(session->CurrentPersonID, QStringLiteral("2"));
+  EXPECT_EQ(session->profile.CurrentPersonID, QStringLiteral("2"));
   session.boxes.Expect(QStringLiteral("Reset Weight Loss Data"), QStringLiteral("cannot get it back"), BoxButton::Yes);
   session.boxes.Expect({}, QStringLiteral("All weight loss data has been deleted successfully."));
   Choose("mnuEditOtherReset");
-  EXPECT_EQ(session->CurrentPersonID, QStringLiteral("1"));
+  EXPECT_EQ(session->profile.CurrentPersonID, QStringLiteral("1"));
   EXPECT_EQ(session.ValueOf(QStringLiteral("ThisWeight"), QStringLiteral("weight_loss"),
                             QStringLiteral("weight_loss.PersonID=1")),
             QString());

@@ -70,7 +70,7 @@ TEST_F(GridMenuTest, RowsArePastedOnlyIntoAGridOfTheirKind) {
   session.boxes.Expect(QStringLiteral("Unable to Copy Data"), refusal);
   Action("mnuPM1PasteRow")->trigger();  // nothing was copied yet
   Action("mnuPM1CopyRowNormal")->trigger();
-  EXPECT_EQ(session->rowClipboard.rows.size(), 1);
+  EXPECT_EQ(session->windows.rowClipboard.rows.size(), 1);
   Open(other, 0, 0);
   session.boxes.Expect(QStringLiteral("Unable to Copy Data"), refusal);
   Action("mnuPM1PasteRow")->trigger();

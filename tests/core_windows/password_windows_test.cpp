@@ -39,11 +39,8 @@ class PasswordWindows : public ::testing::Test {
 
 TEST_F(PasswordWindows, NothingIsAskedWithoutAPassword) {
   Protect(-1, QStringLiteral("x"));
-  session->PasswordAccepted = false;
-  for (const char *personID : {"1", "-1", "-2", "0", "77"}) {
+  for (const char *personID : {"1", "-1", "-2", "0", "77"})
     EXPECT_TRUE(Check(personID, false)) << personID;  // a window would hang here
-    EXPECT_TRUE(session->PasswordAccepted);
-  }
 }
 
 TEST_F(PasswordWindows, CapitalsAreAcceptedAndNothingElseChanges) {
@@ -58,7 +55,7 @@ TEST_F(PasswordWindows, CapitalsAreAcceptedAndNothingElseChanges) {
     QTest::keyClick(&field, Qt::Key_Return);
   });
   EXPECT_TRUE(Check("2", false));
-  EXPECT_EQ(session->CurrentPersonID.toStdString(), "1") << "LoadData switches, not the password window";
+  EXPECT_EQ(session->profile.CurrentPersonID.toStdString(), "1") << "LoadData switches, not the password window";
 }
 
 TEST_F(PasswordWindows, AWrongPasswordClearsTheFieldAndStays) {
@@ -73,7 +70,6 @@ TEST_F(PasswordWindows, AWrongPasswordClearsTheFieldAndStays) {
     EXPECT_FALSE(window.isVisible());
   });
   EXPECT_FALSE(Check("2", false));
-  EXPECT_FALSE(session->PasswordAccepted);
 }
 
 TEST_F(PasswordWindows, AtStartAnotherProfileCanBeChosen) {
@@ -91,8 +87,8 @@ TEST_F(PasswordWindows, AtStartAnotherProfileCanBeChosen) {
     Press(window, "cmdOK");
   });
   EXPECT_TRUE(Check("2", true));
-  EXPECT_EQ(session->CurrentPersonID.toStdString(), "3");
-  EXPECT_EQ(session->LastRealPersonID.toStdString(), "3");
+  EXPECT_EQ(session->profile.CurrentPersonID.toStdString(), "3");
+  EXPECT_EQ(session->profile.LastRealPersonID.toStdString(), "3");
 }
 
 TEST_F(PasswordWindows, AtStartAProfileWithoutPasswordOpensOnActivation) {
@@ -104,14 +100,14 @@ TEST_F(PasswordWindows, AtStartAProfileWithoutPasswordOpensOnActivation) {
     EXPECT_TRUE(QTest::qWaitFor([&window] { return !window.isVisible(); }, 2000));
   });
   EXPECT_TRUE(Check("2", true));
-  EXPECT_EQ(session->CurrentPersonID.toStdString(), "1");
+  EXPECT_EQ(session->profile.CurrentPersonID.toStdString(), "1");
 }
 
 TEST_F(PasswordWindows, ACancelledSignInKeepsTheLastRealProfile) {
-  session->CurrentPersonID = session->LastRealPersonID = QStringLiteral("2");
+  session->profile.CurrentPersonID = session->profile.LastRealPersonID = QStringLiteral("2");
   WhenModal([](QWidget &window) { Press(window, "cmdCancel"); });
   EXPECT_FALSE(Check("2", true));
-  EXPECT_EQ(session->LastRealPersonID.toStdString(), "2");
+  EXPECT_EQ(session->profile.LastRealPersonID.toStdString(), "2");
 }
 
 TEST_F(PasswordWindows, EditingStaysOpenUntilThePasswordIsTaken) {

@@ -330,7 +330,7 @@ TEST_F(SetupWindow, DeletingAsksInItsOwnWordsAndStandsOnWhatIsLeft) {
                 .toStdString(),
             "");
   EXPECT_EQ(loaded.join(u' ').toStdString(), "2 -2");
-  EXPECT_EQ(session->CurrentPersonID.toStdString(), "-2");
+  EXPECT_EQ(session->profile.CurrentPersonID.toStdString(), "-2");
 
   loaded.clear();
   grid.MarkRows({3, 4});

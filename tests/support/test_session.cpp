@@ -47,8 +47,8 @@ TestSession::TestSession(const QLocale &locale) {
   LoadControlValues(session->settings, *store, true);
   FillNutrientDefinitions(session->nutrients, Data());
   AddProfile(1, QStringLiteral("Test Person"));
-  session->CurrentPersonID = QStringLiteral("1");
-  session->LastRealPersonID = QStringLiteral("1");
+  session->profile.CurrentPersonID = QStringLiteral("1");
+  session->profile.LastRealPersonID = QStringLiteral("1");
   session->UomDisplay = QStringLiteral("Lbs");
 }
 

@@ -252,7 +252,7 @@ TEST_F(ToolsWindow, WithoutABirthDateTheSetupIsOffered) {
 TEST_F(ToolsWindow, ASampleIsToldApartAndNoReminderComes) {
   FillProfile();
   session.Data().Execute(QStringLiteral("UPDATE weight_loss SET PersonID=-1 WHERE PersonID=1;"));
-  session->CurrentPersonID = QStringLiteral("-1");
+  session->profile.CurrentPersonID = QStringLiteral("-1");
   session->settings.MedicalDisclaimer = false;
   session.boxes.Expect(
       QStringLiteral("Sample Profile Loaded"),

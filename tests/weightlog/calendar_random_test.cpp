@@ -86,10 +86,10 @@ TEST_P(RandomLog, AgreesWithALogKeptByHand) {
                                       : whole * LossFactor < 0 ? calendar_colour::gain
                                                                : calendar_colour::even);
     if (kept.empty()) continue;
-    ASSERT_EQ(calendar.session->FirstWeightDate, kept.begin()->first);
-    ASSERT_EQ(calendar.session->LastWeightDate, kept.rbegin()->first);
+    ASSERT_EQ(calendar.session->profile.FirstWeightDate, kept.begin()->first);
+    ASSERT_EQ(calendar.session->profile.LastWeightDate, kept.rbegin()->first);
     const Hundredths lost = kept.begin()->second.weight - kept.rbegin()->second.weight;
-    const QString shownLost = calendar.session->statistics.LbsLost;
+    const QString shownLost = calendar.session->profile.statistics.LbsLost;
     if (lost < 0) {
       ASSERT_TRUE(shownLost.startsWith(QStringLiteral("Gained ")));
     } else {

@@ -168,7 +168,7 @@ TEST(TypedWeight, AFailedSaveLosesNothingAndCanBeRepeated) {
   EXPECT_EQ(after.Cell(after.currentIndex).data, QStringLiteral("195"));
   EXPECT_EQ(calendar.Cell("2026-01-09").loss, before.Cell(before.IndexOf(Day("2026-01-09"))).loss);
   EXPECT_EQ(after.monthTotal.text, before.monthTotal.text);
-  EXPECT_EQ(calendar.session->statistics.LbsLost, QStringLiteral("10"));
+  EXPECT_EQ(calendar.session->profile.statistics.LbsLost, QStringLiteral("10"));
   EXPECT_TRUE(calendar.model->EntryText().isEmpty());
 
   calendar.session->database.reset();
@@ -295,16 +295,16 @@ TEST(CalendarOpening, ChoosesTheMonthAndTheCell) {
         Case{"a sample on its data", true, "-1", "", {"2026-01-05"}, "2026-01-06", "January, 2026"}}) {
     SCOPED_TRACE(c.why);
     TypedCalendar calendar;
-    calendar.session->CurrentPersonID = QLatin1String(c.person);
+    calendar.session->profile.CurrentPersonID = QLatin1String(c.person);
     calendar.session.Data().Execute(QStringLiteral("DELETE weight_loss.* FROM weight_loss;"));
     for (const char *day : c.weights) WeightLog(*calendar.session).Insert({Day(day), 190, 0});
     calendar.session->settings.OpenToday = c.OpenToday;
-    calendar.session->RememberedDate = Day(c.remembered);
+    calendar.session->windows.RememberedDate = Day(c.remembered);
     calendar.Load();
     EXPECT_EQ(calendar.model->Month().currentDate, Day(c.active));
     EXPECT_EQ(calendar.model->Month().title, QLatin1String(c.title));
     if (*c.active) {
-      EXPECT_EQ(calendar.session->RememberedDate, Day(c.active));
+      EXPECT_EQ(calendar.session->windows.RememberedDate, Day(c.active));
     }
   }
 }
@@ -321,7 +321,7 @@ TEST(CalendarMonths, KeepTheDayAndClipItToTheMonth) {
   EXPECT_EQ(calendar.model->Month().currentDate, Day("2026-03-01"));
   int marked = 0;
   for (const CalendarCell &cell : calendar.model->Month().cells)
-    marked += cell.background == calendar.session->BackColor;
+    marked += cell.background == calendar.session->profile.BackColor;
   EXPECT_EQ(marked, 1);
 }
 

@@ -64,10 +64,10 @@ TEST(RewardForm, StoresTheChosenTypeWithItsOwnAmount) {
     ASSERT_TRUE(CheckRewardForm(*session, form));
     ASSERT_TRUE(SaveRewardForm(*session, form));
     LoadRewardSettings(*session);
-    EXPECT_EQ(session->rewards.type, row.type);
-    EXPECT_DOUBLE_EQ(session->rewards.amount, row.amount);
-    EXPECT_EQ(session->rewards.message.toStdString(), "''Bravo''");
-    EXPECT_EQ(session->rewards.sound.toStdString(), "/tmp/my \"bell\".wav");
+    EXPECT_EQ(session->profile.rewards.type, row.type);
+    EXPECT_DOUBLE_EQ(session->profile.rewards.amount, row.amount);
+    EXPECT_EQ(session->profile.rewards.message.toStdString(), "''Bravo''");
+    EXPECT_EQ(session->profile.rewards.sound.toStdString(), "/tmp/my \"bell\".wav");
     RewardForm again = ReadRewardForm(*session);
     if (QString *amount = again.AmountOf(row.type)) {
       EXPECT_EQ(amount->toStdString(), form.AmountOf(row.type)->toStdString());

@@ -118,7 +118,7 @@ TEST(Rewards, FollowTheirRule) {
     TypedCalendar calendar;
     calendar.session->settings.UomID = c.UomID;
     calendar.session->settings.LossFactor = c.LossFactor;
-    calendar.session->rewards = {c.type, c.amount, QStringLiteral("Well done"), QStringLiteral("/tada.wav")};
+    calendar.session->profile.rewards = {c.type, c.amount, QStringLiteral("Well done"), QStringLiteral("/tada.wav")};
     for (size_t n = 0; n < c.typed.size(); ++n) {
       calendar.model->TakeReward();
       ASSERT_TRUE(calendar.Type(c.typed[n].date, c.typed[n].text));
@@ -137,11 +137,11 @@ TEST(Rewards, FollowTheirRule) {
 
 TEST(Rewards, AreSuppressedUntilACellIsEnteredAgain) {
   TypedCalendar calendar;
-  calendar.session->rewards = {RewardType::Daily, 1, {}, {}};
+  calendar.session->profile.rewards = {RewardType::Daily, 1, {}, {}};
   calendar.Type("2026-03-01", "200");
   calendar.model->GotoCalendarDate(Day("2026-03-02"));
   calendar.model->EnterCell(calendar.model->Month().currentIndex);
-  calendar.session->SuppressReward = true;
+  calendar.session->windows.SuppressReward = true;
   ASSERT_TRUE(calendar.model->SaveWeight(QStringLiteral("195")));
   EXPECT_FALSE(calendar.model->TakeReward());
   ASSERT_TRUE(calendar.Type("2026-03-02", "194"));
@@ -151,14 +151,14 @@ TEST(Rewards, AreSuppressedUntilACellIsEnteredAgain) {
 TEST(Rewards, DefaultRuleIsStoredForAProfileWithoutOne) {
   TestSession session;
   LoadRewardSettings(*session);
-  EXPECT_EQ(session->rewards.type, RewardType::Weekly);
+  EXPECT_EQ(session->profile.rewards.type, RewardType::Weekly);
   EXPECT_EQ(session.ValueOf(QStringLiteral("RewardWeight"), QStringLiteral("rewards"), QStringLiteral("PersonID=1")),
             QStringLiteral("2"));
   EXPECT_EQ(session.ValueOf(QStringLiteral("RewardMessage"), QStringLiteral("rewards"), QStringLiteral("PersonID=1")),
             QStringLiteral("Great job!  You're one step closer to that ideal weight!"));
-  EXPECT_TRUE(session->rewards.sound.endsWith(QStringLiteral("WellDone.wav")));
+  EXPECT_TRUE(session->profile.rewards.sound.endsWith(QStringLiteral("WellDone.wav")));
 
-  session->CurrentPersonID = QStringLiteral("77");  // nobody yet: the wizard has still to write the profile
+  session->profile.CurrentPersonID = QStringLiteral("77");  // nobody yet: the wizard has still to write the profile
   LoadRewardSettings(*session);
   EXPECT_EQ(session.ValueOf(QStringLiteral("PersonID"), QStringLiteral("rewards"), QStringLiteral("PersonID=77")),
             QString());
@@ -170,10 +170,10 @@ TEST(Rewards, RuleSurvivesSavingAndLoading) {
   SaveRewardSettings(*session, {RewardType::PersonalWeight, 149.5, QStringLiteral("Say \"yes\"; it's O'Brien's"),
                                 QStringLiteral("/a \"b\"/c.wav")});
   LoadRewardSettings(*session);
-  EXPECT_EQ(session->rewards.type, RewardType::PersonalWeight);
-  EXPECT_EQ(session->rewards.amount, 149.5);
-  EXPECT_EQ(session->rewards.message, QStringLiteral("Say ''yes''; it's O'Brien's"));
-  EXPECT_EQ(session->rewards.sound, QStringLiteral("/a \"b\"/c.wav"));
+  EXPECT_EQ(session->profile.rewards.type, RewardType::PersonalWeight);
+  EXPECT_EQ(session->profile.rewards.amount, 149.5);
+  EXPECT_EQ(session->profile.rewards.message, QStringLiteral("Say ''yes''; it's O'Brien's"));
+  EXPECT_EQ(session->profile.rewards.sound, QStringLiteral("/a \"b\"/c.wav"));
 }
 
 TEST(Rewards, TellTheDistanceLeft) {
@@ -181,7 +181,7 @@ TEST(Rewards, TellTheDistanceLeft) {
   for (const auto &[left, UomID, text] :
        {std::tuple{"12.5", 1, "12.5 pounds to go!"}, std::tuple{"7", 2, "7 kg to go!"},
         std::tuple{"0", 1, "Goal Achieved!"}, std::tuple{"-3", 2, "Goal Achieved!"}, std::tuple{"---", 1, ""}}) {
-    session->statistics.LbsLeft = QLatin1String(left);
+    session->profile.statistics.LbsLeft = QLatin1String(left);
     session->settings.UomID = UomID;
     EXPECT_EQ(RewardDistanceText(*session), QLatin1String(text));
   }

@@ -17,7 +17,7 @@ inline QDate Day(const char *iso) { return QDate::fromString(QString::fromLatin1
 class TypedCalendar {
  public:
   explicit TypedCalendar(const QLocale &locale = QLocale(QLocale::English, QLocale::UnitedStates)) : session(locale) {
-    session->rewards.type = RewardType::Never;
+    session->profile.rewards.type = RewardType::Never;
     model = std::make_unique<CalendarModel>(*session);
   }
 
@@ -39,7 +39,7 @@ class TypedCalendar {
     Recordset rows = session.Data().OpenRecordset(
         QStringLiteral("SELECT weight_loss.ThisDate, weight_loss.ThisWeight, weight_loss.ThisLoss FROM weight_loss "
                        "WHERE (weight_loss.PersonID=?) ORDER BY weight_loss.ThisDate;"),
-        {session->CurrentPersonID.toInt()});
+        {session->profile.CurrentPersonID.toInt()});
     QStringList found;
     for (; !rows.Eof(); rows.MoveNext()) {
       found.append(QStringLiteral("%1 %2/%3")

@@ -48,14 +48,14 @@ TEST(WeightStatistics, FollowsTheDataFileAndTheLocale) {
   int announced = 0;
   QObject::connect(&calendar.session->changes, &DataChanges::StatisticsChanged, [&] { ++announced; });
   UpdateStats(*calendar.session);
-  EXPECT_EQ(Panel(calendar.session->statistics), "--- | --- | --- | --- | ---");
-  EXPECT_FALSE(calendar.session->FirstWeightDate.isValid());
+  EXPECT_EQ(Panel(calendar.session->profile.statistics), "--- | --- | --- | --- | ---");
+  EXPECT_FALSE(calendar.session->profile.FirstWeightDate.isValid());
   calendar.Type("2026-02-01", "93,5");
   calendar.Type("2026-02-15", "91.0");
   EXPECT_EQ(announced, 3);
-  EXPECT_EQ(calendar.session->FirstWeightDate, QDate(2026, 2, 1));
-  EXPECT_EQ(calendar.session->LastWeightDate, QDate(2026, 2, 15));
-  EXPECT_EQ(Panel(calendar.session->statistics), "2,5 | 1,3 | 0 | 0 | 15.02.2026");
+  EXPECT_EQ(calendar.session->profile.FirstWeightDate, QDate(2026, 2, 1));
+  EXPECT_EQ(calendar.session->profile.LastWeightDate, QDate(2026, 2, 15));
+  EXPECT_EQ(Panel(calendar.session->profile.statistics), "2,5 | 1,3 | 0 | 0 | 15.02.2026");
 }
 
 }  // namespace

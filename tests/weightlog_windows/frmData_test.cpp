@@ -23,7 +23,7 @@ namespace {
 class Calendar {
  public:
   explicit Calendar(const QLocale &locale = QLocale(QLocale::English, QLocale::UnitedStates)) : session(locale) {
-    session->rewards.type = RewardType::Never;
+    session->profile.rewards.type = RewardType::Never;
     session->DecimalComma = locale.decimalPoint() == QStringLiteral(",");
     FillNutrientDefinitions(session->nutrients, session.Data());
   }
@@ -98,7 +98,7 @@ TEST(FrmData, AWeekIsTypedCorrectedAndMovedThroughWithoutTheMouse) {
   EXPECT_EQ(c.Text("txtTotal(1)"), "3.0");
   EXPECT_EQ(c.Text("txtTotalMonth"), "3.0");
   EXPECT_EQ(c.Text("txtCurrentIndex"), "2");
-  EXPECT_EQ(c.session->statistics.LbsLost, QStringLiteral("3"));
+  EXPECT_EQ(c.session->profile.statistics.LbsLost, QStringLiteral("3"));
 }
 
 TEST(FrmData, ShiftArrowsSelectAndEscapeRestores) {
@@ -202,7 +202,7 @@ TEST(FrmData, SwitchesMonthsAndLeavesNeighboursDaysAlone) {
   EXPECT_FALSE(c.Field(3)->isEnabled());
   c.Click(c.Find<QToolButton>("cmdToday"));
   ASSERT_EQ(c.Focus(), c.Field(1));
-  EXPECT_EQ(c.session->RememberedDate, QDate(2026, 3, 1));
+  EXPECT_EQ(c.session->windows.RememberedDate, QDate(2026, 3, 1));
 }
 
 TEST(FrmData, DeletesAWeightAfterAsking) {
@@ -324,7 +324,7 @@ TEST(FrmData, FollowsWhatOthersChangeAndKeepsWhatIsBeingTyped) {
 TEST(FrmData, CongratulatesOnceTheWeightIsSaved) {
   Calendar c;
   WeightLog(*c.session).Insert({QDate(2026, 2, 28), 201, 0});
-  c.session->rewards = {RewardType::Daily, 1, QStringLiteral("Well done"), QStringLiteral("/tada.wav")};
+  c.session->profile.rewards = {RewardType::Daily, 1, QStringLiteral("Well done"), QStringLiteral("/tada.wav")};
   c.Open();
   c.Type("199");
   bool seen = false;
@@ -349,7 +349,7 @@ TEST(FrmData, CongratulatesOnceTheWeightIsSaved) {
   ASSERT_EQ(c.Focus(), c.Field(2));
 
   c.Type("190");
-  c.session->SuppressReward = true;  // a navigation button was pressed
+  c.session->windows.SuppressReward = true;  // a navigation button was pressed
   EXPECT_TRUE(c.form->SaveOpenEdit());
   QTest::qWait(60);
   EXPECT_EQ(c.session.machine.played.size(), 1);

@@ -92,7 +92,7 @@ TEST_F(RewardsTabTest, OkStoresTheRuleAndCancelDoesNot) {
   EXPECT_EQ(Reward("RewardType"), "2");
   EXPECT_EQ(Reward("RewardWeight"), "1.25");
   EXPECT_EQ(Reward("RewardMessage"), "Say ''hurray''");
-  EXPECT_EQ(session->rewards.type, RewardType::Daily);
+  EXPECT_EQ(session->profile.rewards.type, RewardType::Daily);
 }
 
 TEST_F(RewardsTabTest, ABadAmountKeepsTheWindowAndStoresNothing) {
@@ -116,7 +116,7 @@ TEST_F(RewardsTabTest, DeletingTheLoadedProfileShowsTheNextOnesRule) {
       QStringLiteral("INSERT INTO rewards ( PersonID, RewardType, RewardWeight, RewardMessage, RewardSound ) VALUES ( "
                      "2, 1, 140, \"Well done, Ann\", \"\" );"));
   navigator.LoadData = [this](const QString &personID) {
-    session->CurrentPersonID = personID;
+    session->profile.CurrentPersonID = personID;
     LoadRewardSettings(*session);
   };
   Open();
@@ -154,7 +154,7 @@ TEST_F(RewardsTabTest, TestShowsWhatIsTypedAndStoresNothing) {
   });
   Press("cmdTest");
   EXPECT_EQ(session.machine.played.join(u' ').toStdString(), "/sounds/bell.wav");
-  EXPECT_NE(session->rewards.message.toStdString(), "Just trying");
+  EXPECT_NE(session->profile.rewards.message.toStdString(), "Just trying");
   Choose("optRewardNone");
   EXPECT_FALSE(The<QPushButton>("cmdTest").isEnabled());
 }

@@ -215,7 +215,7 @@ void frmWizard::Finish() {
                             QStringLiteral("Error Saving Profile"),
                             QStringLiteral("An error occurred while saving your profile.  Nothing was saved.  "), true};
   const bool saved = Guarded(session_, failure, [this] {
-    session_.CurrentPersonID = FinishWizard(session_, answers_, plan_.AddingProfile());
+    session_.profile.CurrentPersonID = FinishWizard(session_, answers_, plan_.AddingProfile());
   });
   if (saved) LeaveAs(Outcome::Finished);
 }

@@ -8,7 +8,7 @@ namespace trimlog {
 
 PersonFigures ReadPersonFigures(Session &session) {
   const Recordset datPeople = session.Data().OpenRecordset(
-      QStringLiteral("SELECT people.* from people WHERE PersonID=?"), {session.CurrentPersonID.toInt()});
+      QStringLiteral("SELECT people.* from people WHERE PersonID=?"), {session.profile.CurrentPersonID.toInt()});
   if (datPeople.Eof()) return {};
   return {datPeople.Text(QStringLiteral("PersonName")),
           GoalToShow(datPeople.Text(QStringLiteral("Goal")), session.locale)};

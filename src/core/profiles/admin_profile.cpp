@@ -37,7 +37,7 @@ void InsertAdministrator(Session &session) {
 }  // namespace
 
 void CreateAdminProfile(Session &session) {
-  if (!session.BizEd) return;
+  if (!session.edition.BizEd) return;
   Database &data = session.Data();
   if (!AdminValue(data, QStringLiteral("UserID")).isEmpty()) return;
   Transaction transaction(data);

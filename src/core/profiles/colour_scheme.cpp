@@ -54,8 +54,8 @@ void StoreBackColor(Session &session, const QString &personID, quint32 colour) {
     transaction.Commit();
   });
   if (!stored) return;
-  if (personID == session.CurrentPersonID) {
-    session.BackColor = colour;
+  if (personID == session.profile.CurrentPersonID) {
+    session.profile.BackColor = colour;
     session.changes.AnnounceSettings();
   }
   session.boxes.Inform(QStringLiteral("Color Scheme Changed."),

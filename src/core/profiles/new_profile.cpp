@@ -59,7 +59,7 @@ std::optional<NewProfileComplaint> CheckNewProfile(Session &session, const NewPr
                                QStringLiteral("Please enter a name for this profile.")};
   }
   if (const auto complaint = CheckBody(session, profile)) return complaint;
-  return session.BizEd ? CheckSignIn(session, profile) : std::nullopt;
+  return session.edition.BizEd ? CheckSignIn(session, profile) : std::nullopt;
 }
 
 QString AddNewProfile(Session &session, const NewProfile &profile) {

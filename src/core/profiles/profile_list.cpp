@@ -128,8 +128,8 @@ bool AskDeleteProfiles(Session &session, int count) {
 
 QString ProfileToStandOn(Session &session) {
   const QString first = FirstProfile(session);
-  if (!ProfileExists(session, session.LastRealPersonID)) session.LastRealPersonID = first;
-  if (ProfileExists(session, session.CurrentPersonID)) return session.CurrentPersonID;
+  if (!ProfileExists(session, session.profile.LastRealPersonID)) session.profile.LastRealPersonID = first;
+  if (ProfileExists(session, session.profile.CurrentPersonID)) return session.profile.CurrentPersonID;
   return first.isEmpty() ? sampleProfile1 : first;
 }
 

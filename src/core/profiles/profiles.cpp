@@ -20,12 +20,12 @@ QString PeopleValue(Session &session, const QString &field, const QString &perso
 quint32 SchemeOf(Session &session, const QString &personID) {
   if (personID.toInt() > 0) {
     const QString stored = PeopleValue(session, QStringLiteral("BackColor"), personID);
-    return stored.isEmpty() ? session.BackColor : static_cast<quint32>(stored.toLongLong());
+    return stored.isEmpty() ? session.profile.BackColor : static_cast<quint32>(stored.toLongLong());
   }
-  if (session.BizEdLoginMode) return session.BackColor;
+  if (session.edition.BizEdLoginMode) return session.profile.BackColor;
   const bool fewColours = session.machine.GetNumColors() <= 256;
   const bool shippedSample = personID == sampleProfile1 || personID == sampleProfile2;
-  return fewColours || shippedSample ? DefaultBackColor(session) : session.BackColor;
+  return fewColours || shippedSample ? DefaultBackColor(session) : session.profile.BackColor;
 }
 
 int TargetSetOf(Session &session, const QString &personID) {
@@ -48,11 +48,11 @@ QList<ProfileEntry> FillProfilesArray(Session &session) {
 }
 
 QList<ProfileMenuEntry> ProfilesMenuEntries(const Session &session, const QList<ProfileEntry> &profiles) {
-  if (session.BizEd && !session.BizEdLoginMode) {
+  if (session.edition.BizEd && !session.edition.BizEdLoginMode) {
     return {{ProfileCommand::SelectProfile, QStringLiteral("Select &Profile..."), {}, false},
             {ProfileCommand::Administrator, QStringLiteral("Profile &Administrator..."), {}, false}};
   }
-  const QString current = session.CurrentPersonID;
+  const QString current = session.profile.CurrentPersonID;
   const ProfileMenuEntry separator{ProfileCommand::Separator, QStringLiteral("-"), {}, false};
   QList<ProfileMenuEntry> entries;
   for (const ProfileEntry &profile : profiles) {
@@ -86,14 +86,14 @@ void ShowSampleWelcome(Session &session, const QString &personID) {
 }
 
 void ApplyProfile(Session &session, const RoomHooks &hooks, const QString &personID) {
-  session.CurrentPersonID = personID;
-  if (!IsSampleProfile(personID)) session.LastRealPersonID = personID;
-  session.FirstWeightDate = {};
-  session.LastWeightDate = {};
-  session.RememberedDate = {};
-  session.BackColor = SchemeOf(session, personID);
-  session.NutTargetID = TargetSetOf(session, personID);
-  FillNutrientTargets(session.nutrients, session.Data(), session.NutTargetID);
+  session.profile.CurrentPersonID = personID;
+  if (!IsSampleProfile(personID)) session.profile.LastRealPersonID = personID;
+  session.profile.FirstWeightDate = {};
+  session.profile.LastWeightDate = {};
+  session.windows.RememberedDate = {};
+  session.profile.BackColor = SchemeOf(session, personID);
+  session.profile.NutTargetID = TargetSetOf(session, personID);
+  FillNutrientTargets(session.nutrients, session.Data(), session.profile.NutTargetID);
   if (hooks.LoadRewardSettings) hooks.LoadRewardSettings();
   FillSelectedNutrientsArray(session.nutrients, session.Data());
   if (hooks.UpdateStats) hooks.UpdateStats();

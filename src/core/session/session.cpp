@@ -21,13 +21,6 @@ Database &Session::Data() const {
   return *database;
 }
 
-bool Session::IsSample() const { return IsSampleProfile(CurrentPersonID); }
-
 QString Session::DataFilePath() const { return QDir(programDirectory).filePath(QStringLiteral("tlg.dat")); }
-
-bool IsSampleProfile(const QString &personID) {
-  return personID == QLatin1String("-1") || personID == QLatin1String("-2") || personID == QLatin1String("-3") ||
-         personID == QLatin1String("-4");
-}
 
 }  // namespace trimlog

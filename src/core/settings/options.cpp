@@ -88,7 +88,7 @@ void StoreLossFactor(Session &session, int lossFactor) {
 }
 
 void ResetQuickJournalPlace(Session &session) {
-  session.quickJournalPlace = DefaultQuickJournalPlace(session.framePlace);
+  session.windows.quickJournalPlace = DefaultQuickJournalPlace(session.windows.framePlace);
   WindowPosition(session, true, WindowGroup::QuickJournalPosition);
   WindowPosition(session, true, WindowGroup::QuickJournalSize);
 }

@@ -33,9 +33,9 @@ class Geometry {
 void ExchangeWindowState(Session &session, bool save) {
   const QString name = QStringLiteral("WindowState");
   if (save) {
-    session.store.SaveSettingLong(settingsRoot, name, session.frameWindowState);
+    session.store.SaveSettingLong(settingsRoot, name, session.windows.frameWindowState);
   } else {
-    session.frameWindowState = session.store.GetSettingString(settingsRoot, name) == maximised ? 2 : 0;
+    session.windows.frameWindowState = session.store.GetSettingString(settingsRoot, name) == maximised ? 2 : 0;
   }
 }
 
@@ -59,8 +59,8 @@ WindowPlace DefaultQuickJournalPlace(const WindowPlace &frame) {
 void WindowPosition(Session &session, bool save, WindowGroup group, const QSize &screen) {
   const SettingsBatch batch(session.store);
   const Geometry geometry(session.store, save);
-  WindowPlace &frame = session.framePlace;
-  WindowPlace &quick = session.quickJournalPlace;
+  WindowPlace &frame = session.windows.framePlace;
+  WindowPlace &quick = session.windows.quickJournalPlace;
   const WindowPlace quickDefault = DefaultQuickJournalPlace(frame);
   switch (group) {
     case WindowGroup::Frame: {

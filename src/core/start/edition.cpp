@@ -15,23 +15,24 @@ QString Stored(const Session &session, const char *name) {
 }  // namespace
 
 void LoadBizEdSettings(Session &session) {
-  session.BizEd = Stored(session, "BizEd") == QLatin1String("-1");
-  session.BizEdLoginMode = Stored(session, "BizEdLoginMode") == QLatin1String("-1");
+  session.edition.BizEd = Stored(session, "BizEd") == QLatin1String("-1");
+  session.edition.BizEdLoginMode = Stored(session, "BizEdLoginMode") == QLatin1String("-1");
 }
 
 void LoadHandheldSettings(Session &session) {
-  session.HandheldSupport = !session.store.GetSettingString(handheldKey, QStringLiteral("DaysHistory")).isEmpty();
+  session.edition.HandheldSupport =
+      !session.store.GetSettingString(handheldKey, QStringLiteral("DaysHistory")).isEmpty();
 }
 
 void LoadSeravaSetting(Session &session) {
   const QString stored = Stored(session, "Serava");
-  session.SeravaEdition = !stored.isEmpty() && stored != QLatin1String("0");
+  session.edition.SeravaEdition = !stored.isEmpty() && stored != QLatin1String("0");
 }
 
 QString ApplicationTitle(const Session &session) {
-  const QString ofGroup = session.BizEdLoginMode ? Stored(session, "BizTitle") : QString();
+  const QString ofGroup = session.edition.BizEdLoginMode ? Stored(session, "BizTitle") : QString();
   if (!ofGroup.isEmpty()) return ofGroup;
-  const QString name = session.SeravaEdition ? product::name + u' ' + product::seravaEdition : product::name;
+  const QString name = session.edition.SeravaEdition ? product::name + u' ' + product::seravaEdition : product::name;
   return name + u' ' + product::version;
 }
 

@@ -53,11 +53,11 @@ void LoadDecimalComma(Session &session) {
 
 void ChooseProfile(Session &session) {
   const ProfileRow profile = StartProfile(session);
-  session.CurrentPersonID = profile.PersonID;
-  session.LastRealPersonID = profile.PersonID;
-  session.BackColor =
+  session.profile.CurrentPersonID = profile.PersonID;
+  session.profile.LastRealPersonID = profile.PersonID;
+  session.profile.BackColor =
       profile.BackColor.isEmpty() ? DefaultBackColor(session) : static_cast<quint32>(profile.BackColor.toLongLong());
-  session.NutTargetID = profile.NutTargetID.isEmpty() ? defaultTargetSet : profile.NutTargetID.toInt();
+  session.profile.NutTargetID = profile.NutTargetID.isEmpty() ? defaultTargetSet : profile.NutTargetID.toInt();
 }
 
 namespace {
@@ -93,7 +93,7 @@ void RecreateDateTable(Session &session) {
 void LoadNutrients(Session &session) {
   FillNutrientDefinitions(session.nutrients, session.Data());
   FillSelectedNutrientsArray(session.nutrients, session.Data());
-  FillNutrientTargets(session.nutrients, session.Data(), session.NutTargetID);
+  FillNutrientTargets(session.nutrients, session.Data(), session.profile.NutTargetID);
 }
 
 }  // namespace trimlog

@@ -31,11 +31,10 @@ Application::Application(Session &session, const RoomHooks &hooks, const FrameDo
 Application::Outcome Application::Main() {
   if (doors_.ActivatePrevInstance && doors_.ActivatePrevInstance()) return Outcome::Ended;
   if (!CheckForConflicts(session_, system_)) return Outcome::Ended;
-  session_.AboutMode = false;
   LoadBizEdSettings(session_);
   LoadHandheldSettings(session_);
   LoadSeravaSetting(session_);
-  if (session_.HandheldSupport) Run(hooks_.RunHandheldSync, false);
+  if (session_.edition.HandheldSupport) Run(hooks_.RunHandheldSync, false);
   const QSize screen = doors_.ScreenSize ? doors_.ScreenSize() : QSize();
   WindowPosition(session_, false, WindowGroup::Frame, screen);
   WindowPosition(session_, false, WindowGroup::QuickJournalPosition, screen);
@@ -68,7 +67,7 @@ void Application::EnterSession(bool &frameShown) {
   LoadControlValues(session_.settings, session_.store, true);
   LoadUnitLabel(session_);
   CreateAdminProfile(session_);
-  if (session_.SeravaEdition) Run(hooks_.MakeDatabaseChangesSerava);
+  if (session_.edition.SeravaEdition) Run(hooks_.MakeDatabaseChangesSerava);
   LoadDecimalComma(session_);
   ChooseProfile(session_);
   RecreateDateTable(session_);
@@ -78,7 +77,7 @@ void Application::EnterSession(bool &frameShown) {
   frameShown = !doors_.ShowFrame || doors_.ShowFrame();
   if (!frameShown) return;
   Run(doors_.LetEventsRun);
-  if (session_.frameWindowState == maximised) Run(doors_.MaximiseFrame);
+  if (session_.windows.frameWindowState == maximised) Run(doors_.MaximiseFrame);
   ShowUpgradeNotices(session_, oldVersion, doors_.OpenSetup);
 }
 
@@ -88,8 +87,8 @@ bool Application::QueryUnload() {
   if (doors_.SaveOpenEdit && !doors_.SaveOpenEdit()) return false;
   GuardedQuietly([this] { StoreSession(); });
   ResetSamples();
-  if (session_.BizEd) ResetSamples();
-  if (session_.HandheldSupport && hooks_.RunHandheldSync) {
+  if (session_.edition.BizEd) ResetSamples();
+  if (session_.edition.HandheldSupport && hooks_.RunHandheldSync) {
     GuardedQuietly([this] { hooks_.RunHandheldSync(ActiveSyncOnExit(session_)); });
   }
   return true;
@@ -104,8 +103,8 @@ void Application::ResetSamples() {
 void Application::StoreSession() {
   Run(doors_.ReadWindowPlaces);
   WindowPosition(session_, true, WindowGroup::Frame);
-  if (session_.QuickJournalOpen) WindowPosition(session_, true, WindowGroup::QuickJournalSize);
-  const QString &person = session_.LastRealPersonID;
+  if (session_.windows.QuickJournalOpen) WindowPosition(session_, true, WindowGroup::QuickJournalSize);
+  const QString &person = session_.profile.LastRealPersonID;
   if (!person.isEmpty() && !IsSampleProfile(person)) {
     session_.settings.PersonID = person;
     SaveSetting(session_.settings, session_.store, QStringLiteral("PersonID"));

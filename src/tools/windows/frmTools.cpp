@@ -42,7 +42,7 @@ const QString startingWeightTopic = QStringLiteral("12");
 QWidget *AddAccentPanel(QLayout *layout, const QString &name, const Session &session) {
   auto *panel = new QWidget;
   panel->setObjectName(name);
-  PaintToolPanel(panel, ColorFromBgr(session.BackColor));
+  PaintToolPanel(panel, ColorFromBgr(session.profile.BackColor));
   layout->addWidget(panel);
   new QHBoxLayout(panel);
   return panel;
@@ -164,7 +164,7 @@ void frmTools::Activate() {
 }
 
 frmTools::Opened frmTools::GreetPerson() {
-  const int person = session_.CurrentPersonID.toInt();
+  const int person = session_.profile.CurrentPersonID.toInt();
   if (person > 0 && !session_.settings.MedicalDisclaimer) frmMedicalDisclaimer(session_, this).exec();
   if (person < 0) session_.boxes.Show(SampleProfileNotice());
   return isVisible() ? Opened::GoOn : Opened::Left;
@@ -233,7 +233,7 @@ void frmTools::FillTool() {
 void frmTools::FollowChange(const DataChange &change) {
   static const QStringList tables = {QStringLiteral("people"), QStringLiteral("weight_loss"),
                                      QStringLiteral("measurements")};
-  const bool ours = change.personID.isEmpty() || change.personID == session_.CurrentPersonID;
+  const bool ours = change.personID.isEmpty() || change.personID == session_.profile.CurrentPersonID;
   if (!ours || !tables.contains(change.table)) return;
   GuardedQuietly([this] {
     profile_ = ReadToolsProfile(session_);

@@ -202,7 +202,7 @@ void PlannerPage::SetToolFields() {
 void PlannerPage::HighlightStep(Step step) {
   if (highlighted_ == step) return;
   highlighted_ = step;
-  const QColor accent = ColorFromBgr(session_.BackColor);
+  const QColor accent = ColorFromBgr(session_.profile.BackColor);
   // On a dark desktop fields and options are drawn in the base colour and would vanish on it.
   const QColor plain = palette().color(IsDark(palette()) ? QPalette::Button : QPalette::Base);
   constexpr std::array<Step, 4> stepOfPanel = {GoalStep, MethodStep, MethodStep, ResultStep};

@@ -228,7 +228,7 @@ void frmData::OnData(const DataChange &change) {
     ShowSettings();
     return;
   }
-  if (entry_->IsSaving() || (!change.personID.isEmpty() && change.personID != session_.CurrentPersonID)) return;
+  if (entry_->IsSaving() || (!change.personID.isEmpty() && change.personID != session_.profile.CurrentPersonID)) return;
   if (change.table.isEmpty() || change.table == QStringLiteral("weight_loss")) {
     model_.Refresh();
   } else {
@@ -257,7 +257,7 @@ void frmData::ShowReward() {
     return;
   }
   const RewardNotice notice = *std::exchange(reward_, std::nullopt);
-  if (session_.SuppressReward) return;
+  if (session_.windows.SuppressReward) return;
   frmReward window(session_, notice, this->window());
   window.exec();
 }
@@ -265,7 +265,7 @@ void frmData::ShowReward() {
 void frmData::ShowMonth() {
   // The focus of a field that is switched off wanders to its neighbour; nobody enters that one.
   entry_->Suspend(true);
-  grid_->Show(model_.Month(), session_.BackColor, session_.Today(), entry_->PendingCell());
+  grid_->Show(model_.Month(), session_.profile.BackColor, session_.Today(), entry_->PendingCell());
   entry_->Suspend(false);
   txtMonth->ShowText(model_.Month().title);
   ShowMonthTotal();
@@ -288,7 +288,7 @@ void frmData::ShowCurrent() {
 }
 
 void frmData::ShowSettings() {
-  const quint32 panel = printing_ ? calendar_colour::white : session_.BackColor;
+  const quint32 panel = printing_ ? calendar_colour::white : session_.profile.BackColor;
   PaintPanel(lblMonth, panel);
   PaintPanel(lblTotal2, panel);
   const QPalette buttons = ButtonPalette(ColorFromBgr(panel, palette()));

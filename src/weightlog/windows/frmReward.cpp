@@ -44,7 +44,7 @@ frmReward::frmReward(Session &session, const RewardNotice &notice, QWidget *owne
   picture->setAlignment(Qt::AlignCenter);
   layout->addWidget(picture);
   const QString personName = GetDataValue(session.Data(), QStringLiteral("PersonName"), QStringLiteral("people"),
-                                          QStringLiteral("PersonID=?"), {}, {session.CurrentPersonID.toInt()});
+                                          QStringLiteral("PersonID=?"), {}, {session.profile.CurrentPersonID.toInt()});
   AddLine(*layout, "lblPersonName", personName, 1.5, true);
   AddLine(*layout, "lblRewardMessage", notice.message, 1.2, false);
   AddLine(*layout, "lblRewardLost", notice.text, 1.2, true);

@@ -120,7 +120,7 @@ void RewardsPage::Show(const RewardForm &form) {
 }
 
 void RewardsPage::Load(const Settings &) {
-  personID_ = session_.CurrentPersonID;
+  personID_ = session_.profile.CurrentPersonID;
   ShowProfile();
   Show(ReadRewardForm(session_));
 }
@@ -136,7 +136,7 @@ void RewardsPage::ShowProfile() {
 
 // Deleting the loaded profile loads another one under the open window: its rule must not take over what stands here.
 void RewardsPage::OnProfiles() {
-  if (session_.CurrentPersonID == personID_) {
+  if (session_.profile.CurrentPersonID == personID_) {
     ShowProfile();
   } else {
     Load(session_.settings);

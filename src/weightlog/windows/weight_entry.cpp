@@ -128,7 +128,7 @@ bool WeightEntry::eventFilter(QObject *watched, QEvent *event) {
 
 void WeightEntry::OnFocusIn(int i, const QFocusEvent &event) {
   if (i == 0) return;
-  session_.SuppressReward = false;
+  session_.windows.SuppressReward = false;
   if (entered_ != 0 && (IsPassing(event) || PendingCell() != 0)) return;
   entered_ = i;
   if (model_.EnterCell(i)) {

@@ -5,7 +5,7 @@
 namespace trimlog {
 
 bool PasteGridRow(Session &session, BoundGrid &grid) {
-  const GridClipboard &copied = session.rowClipboard;
+  const GridClipboard &copied = session.windows.rowClipboard;
   if (copied.rows.isEmpty() || copied.kind != grid.recordSource) {
     session.boxes.Critical(QStringLiteral("Unable to Copy Data"),
                            QStringLiteral("The data that was last copied was not of this type.  Please select and copy "
@@ -26,7 +26,7 @@ GridMenu::GridMenu(Session &session, const Navigator &navigator, QWidget *parent
   copyRow_->setObjectName(QStringLiteral("mnuPM1CopyRow"));
   copyRow_->menuAction()->setObjectName(QStringLiteral("mnuPM1CopyRow"));
   Add(*copyRow_, "mnuPM1CopyRowNormal", tr("Normal Copy"),
-      [this](BoundGrid &grid) { grid.CopyRows(session_.rowClipboard); });
+      [this](BoundGrid &grid) { grid.CopyRows(session_.windows.rowClipboard); });
   Add(*copyRow_, "mnuPM1CopyRowExternal", tr("For External Use"), [](BoundGrid &grid) { grid.CopyRowsExternal(); });
   pasteRow_ =
       Add(*this, "mnuPM1PasteRow", tr("Paste Row(s)"), [this](BoundGrid &grid) { PasteGridRow(session_, grid); });

@@ -16,11 +16,7 @@ namespace trimlog {
 
 namespace {
 
-void ShowAbout(Session &session, frmMDI &frame) {
-  session.AboutMode = true;
-  frmSplash(session, frame.System(), &frame).exec();
-  session.AboutMode = false;
-}
+void ShowAbout(Session &session, frmMDI &frame) { frmSplash(session, frame.System(), true, &frame).exec(); }
 
 /// A door that leads somewhere makes what opens it available.
 template <typename Door>
@@ -84,7 +80,7 @@ std::vector<FrameCommand> FrameCommands(frmMDI &frame, Session &session, const N
       edit("mnuEditCopy", EditCommand::Copy),
       edit("mnuEditPaste", EditCommand::Paste),
       rows("mnuEditUndoRow", [](BoundGrid &grid) { grid.UndoRow(); }),
-      rows("mnuEditCopyRowNormal", [&session](BoundGrid &grid) { grid.CopyRows(session.rowClipboard); }),
+      rows("mnuEditCopyRowNormal", [&session](BoundGrid &grid) { grid.CopyRows(session.windows.rowClipboard); }),
       rows("mnuEditCopyRowExternal", [](BoundGrid &grid) { grid.CopyRowsExternal(); }),
       rows("mnuEditPasteRow", [&session](BoundGrid &grid) { PasteGridRow(session, grid); }),
       rows("mnuEditDeleteRow", [](BoundGrid &grid) { grid.DeleteSelected(); }),
@@ -94,12 +90,12 @@ std::vector<FrameCommand> FrameCommands(frmMDI &frame, Session &session, const N
       {"mnuEditOtherReset", "", {}, saved([&] {
          if (!ResetWeightLossData(session)) return;
          const QString first = QStringLiteral("1");
-         frame.LoadData(ProfileExists(session, first) ? first : session.CurrentPersonID);
+         frame.LoadData(ProfileExists(session, first) ? first : session.profile.CurrentPersonID);
        })},
       {"mnuEditReset", "", {}, saved([&] {
          if (!AskResetSampleProfile(session)) return;
-         ResetSampleProfile(session, session.CurrentPersonID);
-         frame.LoadData(session.CurrentPersonID);
+         ResetSampleProfile(session, session.profile.CurrentPersonID);
+         frame.LoadData(session.profile.CurrentPersonID);
        })},
 
       form("mnuViewData", "cmdData", QStringLiteral("frmData")),

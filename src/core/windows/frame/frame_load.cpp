@@ -28,8 +28,8 @@ bool frmMDI::MDIForm_Load() {
                             QStringLiteral("An error occurred while loading the program.")};
   Guarded(session_, failure, [this] {
     loaded_ = false;
-    menus_->SetVisible(QStringLiteral("mnuFileProfileAdmin"), session_.BizEd);
-    menus_->SetVisible(QStringLiteral("mnuFileSep4"), session_.BizEd);
+    menus_->SetVisible(QStringLiteral("mnuFileProfileAdmin"), session_.edition.BizEd);
+    menus_->SetVisible(QStringLiteral("mnuFileSep4"), session_.edition.BizEd);
     SetTitle();
     ShowStartScreens();
     ApplyPlace();
@@ -66,7 +66,7 @@ void frmMDI::SetTitle() {
 
 void frmMDI::ShowStartScreens() {
   if (!session_.ReloadInProgress && session_.settings.ShowSplash) {
-    splash_ = new frmSplash(session_, system_, this);
+    splash_ = new frmSplash(session_, system_, false, this);
     splash_->setAttribute(Qt::WA_DeleteOnClose);
     splash_->show();
     QApplication::processEvents();
@@ -78,24 +78,24 @@ void frmMDI::CloseSplash() {
 }
 
 void frmMDI::SignIn() {
-  const QString read = session_.CurrentPersonID;
-  if (!CheckProfilePassword(session_, read, true, this)) session_.CurrentPersonID = sampleProfile1;
-  if (session_.CurrentPersonID != read) ApplyProfile(session_, hooks_, session_.CurrentPersonID);
-  menus_->SetVisible(QStringLiteral("mnuEditReset"), session_.IsSample());
+  const QString read = session_.profile.CurrentPersonID;
+  if (!CheckProfilePassword(session_, read, true, this)) session_.profile.CurrentPersonID = sampleProfile1;
+  if (session_.profile.CurrentPersonID != read) ApplyProfile(session_, hooks_, session_.profile.CurrentPersonID);
+  menus_->SetVisible(QStringLiteral("mnuEditReset"), session_.profile.IsSample());
 }
 
 void frmMDI::StartWizardIfNeeded() {
-  if (session_.CurrentPersonID.toInt() != 1) return;
+  if (session_.profile.CurrentPersonID.toInt() != 1) return;
   if (!session_.ReloadInProgress && navigator_.StartWiz && navigator_.StartWiz(false)) {
-    SwitchTo(session_.CurrentPersonID);
-  } else if (!ProfileExists(session_, session_.CurrentPersonID)) {
+    SwitchTo(session_.profile.CurrentPersonID);
+  } else if (!ProfileExists(session_, session_.profile.CurrentPersonID)) {
     SwitchTo(sampleProfile1);  // a wizard that was closed made nobody for whom anything could be saved
   }
 }
 
 void frmMDI::ShowHandheldMenus() {
   if (HasHandheldMeals(session_)) menus_->SetVisible(QStringLiteral("mnuPalm"), true);
-  if (session_.HandheldSupport) menus_->SetVisible(QStringLiteral("mnuPPC"), true);
+  if (session_.edition.HandheldSupport) menus_->SetVisible(QStringLiteral("mnuPPC"), true);
 }
 
 }  // namespace trimlog

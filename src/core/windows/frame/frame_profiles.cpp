@@ -8,14 +8,14 @@ namespace trimlog {
 void frmMDI::LoadData(const QString &personID) {
   Guarded(session_, LoadDataFailure(), [this, &personID] {
     if (!SaveOpenEdit()) return;
-    if (!session_.BizEdLoginMode && !CheckProfilePassword(session_, personID, false, this)) return;
+    if (!session_.edition.BizEdLoginMode && !CheckProfilePassword(session_, personID, false, this)) return;
     SwitchTo(personID);
   });
 }
 
 void frmMDI::SwitchTo(const QString &personID) {
   ApplyProfile(session_, hooks_, personID);
-  menus_->SetVisible(QStringLiteral("mnuEditReset"), session_.IsSample());
+  menus_->SetVisible(QStringLiteral("mnuEditReset"), session_.profile.IsSample());
   if (!currentFormName_.isEmpty()) ReplaceForm(currentFormName_);
   RefreshMain();
   LoadProfilesMenu();
@@ -71,7 +71,7 @@ void frmMDI::RunProfileCommand(const ProfileMenuEntry &entry) {
       break;
     case ProfileCommand::LoadSample:
       LoadData(entry.PersonID);
-      if (session_.CurrentPersonID == entry.PersonID) ShowSampleWelcome(session_, entry.PersonID);
+      if (session_.profile.CurrentPersonID == entry.PersonID) ShowSampleWelcome(session_, entry.PersonID);
       break;
     case ProfileCommand::CreateProfile:
       if (SaveOpenEdit()) CreateProfile();
@@ -92,18 +92,18 @@ void frmMDI::CreateProfile() {
       navigator_.AddProfile(this);
       return;
     }
-    const QString before = session_.CurrentPersonID;
-    session_.CurrentPersonID = QStringLiteral("1");
+    const QString before = session_.profile.CurrentPersonID;
+    session_.profile.CurrentPersonID = QStringLiteral("1");
     const bool written = navigator_.StartWiz(true);
-    if (!written && session_.CurrentPersonID == QStringLiteral("1") && HasNoProfiles(session_)) {
-      session_.CurrentPersonID = before;
+    if (!written && session_.profile.CurrentPersonID == QStringLiteral("1") && HasNoProfiles(session_)) {
+      session_.profile.CurrentPersonID = before;
     }
-    SwitchTo(session_.CurrentPersonID);
+    SwitchTo(session_.profile.CurrentPersonID);
   });
 }
 
 void frmMDI::RunWizard() {
-  if (navigator_.StartWiz(true)) SwitchTo(session_.CurrentPersonID);
+  if (navigator_.StartWiz(true)) SwitchTo(session_.profile.CurrentPersonID);
 }
 
 }  // namespace trimlog

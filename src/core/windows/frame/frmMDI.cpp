@@ -132,7 +132,7 @@ void frmMDI::ReplaceForm(const QString &name) {
 }
 
 void frmMDI::ShowQuickJournal(bool visible) {
-  if (!session_.QuickJournalOpen) return;
+  if (!session_.windows.QuickJournalOpen) return;
   if (auto *quickJournal = findChild<QWidget *>(QStringLiteral("frmQuickDiary"))) quickJournal->setVisible(visible);
 }
 
@@ -147,7 +147,7 @@ void frmMDI::RefreshMain() {
 
 void frmMDI::ShowAsKept() {
   if (isVisible()) return;
-  if (session_.frameWindowState == maximisedState) {
+  if (session_.windows.frameWindowState == maximisedState) {
     showMaximized();
   } else {
     show();
@@ -156,12 +156,12 @@ void frmMDI::ShowAsKept() {
 
 void frmMDI::ReadPlace() {
   const QRect place = isMaximized() ? normalGeometry() : QRect(pos(), size());
-  session_.framePlace = {TwipsFromPixels(place.left()), TwipsFromPixels(place.top()), TwipsFromPixels(place.width()),
-                         TwipsFromPixels(place.height())};
+  session_.windows.framePlace = {TwipsFromPixels(place.left()), TwipsFromPixels(place.top()),
+                                 TwipsFromPixels(place.width()), TwipsFromPixels(place.height())};
 }
 
 void frmMDI::ApplyPlace() {
-  const WindowPlace &place = session_.framePlace;
+  const WindowPlace &place = session_.windows.framePlace;
   QRect wanted(PixelsFromTwips(place.Left), PixelsFromTwips(place.Top), PixelsFromTwips(place.Width),
                PixelsFromTwips(place.Height));
   wanted.setSize(wanted.size().expandedTo(minimumSize()));
@@ -179,14 +179,15 @@ void frmMDI::ApplyPlace() {
 
 void frmMDI::ResetPlace() {
   const QSize screenSize = screen()->size();
-  session_.framePlace = DefaultFramePlace({TwipsFromPixels(screenSize.width()), TwipsFromPixels(screenSize.height())});
+  session_.windows.framePlace =
+      DefaultFramePlace({TwipsFromPixels(screenSize.width()), TwipsFromPixels(screenSize.height())});
   showNormal();
   ApplyPlace();
 }
 
 void frmMDI::changeEvent(QEvent *event) {
   if (event->type() == QEvent::WindowStateChange && loaded_ && !isMinimized()) {
-    session_.frameWindowState = isMaximized() ? maximisedState : 0;
+    session_.windows.frameWindowState = isMaximized() ? maximisedState : 0;
   }
   QMainWindow::changeEvent(event);
 }

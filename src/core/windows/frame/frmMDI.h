@@ -81,7 +81,7 @@ class frmMDI : public QMainWindow {
   void changeEvent(QEvent *event) override;
 
  private:
-  static constexpr int maximisedState = 2;  ///< of session.frameWindowState
+  static constexpr int maximisedState = 2;  ///< of session.windows.frameWindowState
 
   void BuildPanels();
   void ConnectCommands();

@@ -93,14 +93,14 @@ frmMain::frmMain(Session &session, QWidget *parent) : QWidget(parent), session_(
     button->setSizePolicy(QSizePolicy::Preferred, QSizePolicy::Preferred);
     button->setEnabled(false);
     if (destination.suppressesReward) {
-      connect(button, &NavigationButton::MousePressed, this, [this] { session_.SuppressReward = true; });
+      connect(button, &NavigationButton::MousePressed, this, [this] { session_.windows.SuppressReward = true; });
     }
     if (button->objectName() == QStringLiteral("cmdExit")) layout->addStretch(1);
     layout->addWidget(button);
   }
 }
 
-void frmMain::Refresh() { PaintPanel(this, session_.BackColor); }
+void frmMain::Refresh() { PaintPanel(this, session_.profile.BackColor); }
 
 void frmMain::SetCommand(const QString &buttonName, const std::function<void()> &command) {
   NavigationButton *button = Button(buttonName);

@@ -77,7 +77,7 @@ frmMain1::frmMain1(Session &session, QWidget *parent) : QWidget(parent), session
 }
 
 void frmMain1::Refresh() {
-  PaintPanel(this, session_.BackColor);
+  PaintPanel(this, session_.profile.BackColor);
   ShowUnits();
   ShowPerson();
   ShowStatistics();
@@ -94,7 +94,7 @@ void frmMain1::ShowPerson() {
 }
 
 void frmMain1::ShowStatistics() {
-  const Statistics &statistics = session_.statistics;
+  const Statistics &statistics = session_.profile.statistics;
   txtLbsLost->setText(statistics.LbsLost);
   txtLbsPerWeek->setText(statistics.LbsPerWeek);
   txtLbsLeft->setText(statistics.LbsLeft);

@@ -28,8 +28,8 @@ QLabel *AddText(QBoxLayout *layout, const QString &name, const QString &text, bo
 
 }  // namespace
 
-frmSplash::frmSplash(Session &session, const OperatingSystem &system, QWidget *owner)
-    : QDialog(owner, session.AboutMode ? Qt::Dialog : Qt::SplashScreen | Qt::FramelessWindowHint),
+frmSplash::frmSplash(Session &session, const OperatingSystem &system, bool AboutMode, QWidget *owner)
+    : QDialog(owner, AboutMode ? Qt::Dialog : Qt::SplashScreen | Qt::FramelessWindowHint),
       session_(session),
       system_(system) {
   setObjectName(QStringLiteral("frmSplash"));
@@ -44,7 +44,7 @@ frmSplash::frmSplash(Session &session, const OperatingSystem &system, QWidget *o
   Timer1->setInterval(splashMilliseconds);
   Timer1->setSingleShot(true);
   connect(Timer1, &QTimer::timeout, this, &QWidget::close);
-  if (session_.AboutMode) {
+  if (AboutMode) {
     layout->addWidget(BuildButtons());
   } else {
     Timer1->start();
@@ -55,8 +55,9 @@ QWidget *frmSplash::BuildPicture() {
   auto *picture = new QLabel(this);
   picture->setObjectName(QStringLiteral("imgSplash"));
   picture->setAccessibleName(product::name);
-  const QPixmap sponsor =
-      session_.SeravaEdition ? QPixmap(session_.programDirectory + QStringLiteral("/splash_serava.jpg")) : QPixmap();
+  const QPixmap sponsor = session_.edition.SeravaEdition
+                              ? QPixmap(session_.programDirectory + QStringLiteral("/splash_serava.jpg"))
+                              : QPixmap();
   picture->setPixmap(sponsor.isNull() ? SplashPicture(devicePixelRatioF()) : sponsor);
   QPalette onPicture;
   onPicture.setColor(QPalette::WindowText, Qt::white);
@@ -65,7 +66,7 @@ QWidget *frmSplash::BuildPicture() {
   auto *text = new QVBoxLayout(picture);
   text->setContentsMargins(24, 62, 24, 14);
   text->setSpacing(0);
-  if (session_.SeravaEdition) {
+  if (session_.edition.SeravaEdition) {
     AddText(text, QStringLiteral("lblEdition"), QStringLiteral("SERAVA® Edition"), true);
   }
   text->addStretch(1);

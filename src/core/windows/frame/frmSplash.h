@@ -7,11 +7,11 @@
 
 namespace trimlog {
 
-/// The picture shown while the program starts, and with session.AboutMode the About box.
+/// The picture shown while the program starts, and with AboutMode the About box.
 class frmSplash : public QDialog {
   Q_OBJECT
  public:
-  frmSplash(Session &session, const OperatingSystem &system, QWidget *owner);
+  frmSplash(Session &session, const OperatingSystem &system, bool AboutMode, QWidget *owner);
 
  private:
   QWidget *BuildPicture();

@@ -28,7 +28,7 @@ AddProfilePage::AddProfilePage(Session &session, QWidget *parent) : AddRecPage(p
   setObjectName(QStringLiteral("pnlAddRec(5)"));
   auto *form = new QFormLayout(this);
   AddFields(form);
-  if (session_.BizEd) AddSignInFields(form);
+  if (session_.edition.BizEd) AddSignInFields(form);
   setFocusProxy(txtPersonName);
 }
 

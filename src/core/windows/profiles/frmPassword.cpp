@@ -39,10 +39,8 @@ QComboBox *MakeProfileList(Session &session, const QString &personID, QWidget *p
 }  // namespace
 
 bool CheckProfilePassword(Session &session, const QString &personID, bool atStartup, QWidget *owner) {
-  session.PasswordAccepted = true;
   if (personID.toInt() <= 0 || StoredPassword(session, personID).isEmpty()) return true;
-  frmPassword(session, personID, atStartup, owner).exec();
-  return session.PasswordAccepted;
+  return frmPassword(session, personID, atStartup, owner).exec() == QDialog::Accepted;
 }
 
 frmPassword::frmPassword(Session &session, const QString &personID, bool atStartup, QWidget *owner)
@@ -115,15 +113,10 @@ void frmPassword::OnOk() {
     return;
   }
   if (atStartup_) {
-    session_.CurrentPersonID = personID;
-    session_.LastRealPersonID = personID;
+    session_.profile.CurrentPersonID = personID;
+    session_.profile.LastRealPersonID = personID;
   }
   accept();
-}
-
-void frmPassword::reject() {
-  session_.PasswordAccepted = false;
-  QDialog::reject();
 }
 
 }  // namespace trimlog

@@ -11,9 +11,9 @@ class QLineEdit;
 
 namespace trimlog {
 
-/// Runs the password check of a profile and leaves its result in session.PasswordAccepted, which it returns. A profile
-/// without a password and a sample pass unseen. `atStartup` lets the person choose another profile: then
-/// session.CurrentPersonID and LastRealPersonID are the chosen one, and the caller applies it (ApplyProfile).
+/// Runs the password check of a profile: true when it may be shown. A profile without a password and a sample pass
+/// unseen; Cancel, Esc and the close button refuse. `atStartup` lets the person choose another profile: then
+/// session.profile.CurrentPersonID and LastRealPersonID are the chosen one, and the caller applies it (ApplyProfile).
 bool CheckProfilePassword(Session &session, const QString &personID, bool atStartup, QWidget *owner);
 
 /// Asks for a profile's password; at start with a list of all profiles.
@@ -21,7 +21,6 @@ class frmPassword : public QDialog {
   Q_OBJECT
  public:
   frmPassword(Session &session, const QString &personID, bool atStartup, QWidget *owner);
-  void reject() override;  ///< Cancel, Esc and the close button refuse the profile
 
  protected:
   bool event(QEvent *event) override;

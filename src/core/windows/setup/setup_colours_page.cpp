@@ -63,7 +63,7 @@ QWidget *SetupColoursPage::MakeSignGroup() {
 void SetupColoursPage::Load(const Settings &settings) {
   grdPeopleColors->SetColumns(ProfileColourColumns());
   grdPeopleColors->Open(session_.Data(), ProfilesSource());
-  grdPeopleColors->GoToKey(session_.CurrentPersonID.toLongLong());
+  grdPeopleColors->GoToKey(session_.profile.CurrentPersonID.toLongLong());
   (settings.LossFactor < 0 ? optShowNegative : optShowPositive)->setChecked(true);
   ShowColour();
 }

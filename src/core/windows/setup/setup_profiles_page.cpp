@@ -50,7 +50,7 @@ void SetupProfilesPage::SetHooks() {
 void SetupProfilesPage::Load(const Settings &) {
   grdPeople->SetColumns(ProfileColumns(session_));
   grdPeople->Open(session_.Data(), ProfilesSource());
-  grdPeople->GoToKey(session_.CurrentPersonID.toLongLong());
+  grdPeople->GoToKey(session_.profile.CurrentPersonID.toLongLong());
   UpdateButtons();
 }
 
@@ -109,10 +109,10 @@ void SetupProfilesPage::Saved(const QString &personID) {
 
 void SetupProfilesPage::Deleted() {
   const QString next = ProfileToStandOn(session_);
-  if (next != session_.CurrentPersonID && navigator_.LoadData) {
+  if (next != session_.profile.CurrentPersonID && navigator_.LoadData) {
     navigator_.LoadData(next);
     // The next profile may ask for a password and be refused; a sample never does.
-    if (session_.CurrentPersonID != next) navigator_.LoadData(sampleProfile1);
+    if (session_.profile.CurrentPersonID != next) navigator_.LoadData(sampleProfile1);
   }
   session_.changes.AnnounceProfiles();
   UpdateButtons();
