@@ -3,7 +3,7 @@
 #include <QApplication>
 #include <QScreen>
 
-#include "core/windows/controls/twips.h"
+#include "platform/twips.h"
 #include "platform/windows/machine/window_stacking.h"
 
 namespace trimlog {

@@ -13,8 +13,6 @@ namespace trimlog {
 
 namespace {
 
-constexpr int firstCustom = 28;
-constexpr int lastCustom = 32;
 const QString atkins = QStringLiteral("101");
 const QString zone = QStringLiteral("102");
 const QString lowCarb = QStringLiteral("103");
@@ -135,8 +133,8 @@ void FillWizardNutrients(Session &session, const WizardAnswers &answers) {
 QList<OptionChoice> WizardNutrientChoices(Session &session) {
   QList<OptionChoice> choices;
   for (const NutrientChoice &nutrient : SelectableNutrients(session)) {
-    const bool custom = nutrient.NutrientID >= firstCustom && nutrient.NutrientID <= lastCustom;
-    if (nutrient.NutrientID != 0 && !custom) choices.append({nutrient.NutrientID, nutrient.descriptionPlusUnit});
+    if (nutrient.NutrientID != 0 && !IsCustomNutrient(nutrient.NutrientID))
+      choices.append({nutrient.NutrientID, nutrient.descriptionPlusUnit});
   }
   return choices;
 }

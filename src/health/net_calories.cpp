@@ -1,51 +1,56 @@
 #include "health/net_calories.h"
 
+#include <map>
+
 #include "core/session/session.h"
-#include "health/all_dates.h"
 #include "health/basal_rates.h"
 #include "platform/store/recordset.h"
 #include "platform/text/rounding.h"
-#include "platform/text/text_format.h"
 
 namespace trimlog {
 
-std::optional<double> NetCalories(const QString &caloriesEaten, const QString &caloriesBurned, int basal) {
-  if (caloriesEaten.isEmpty() && caloriesBurned.isEmpty()) return std::nullopt;
-  return Val(caloriesEaten) - Val(caloriesBurned) - basal;
+namespace {
+
+using CaloriesByDay = std::map<QDate, double>;
+
+/// The file's saved queries of these sums, narrowed to the person and the days: the queries themselves would add up
+/// the whole history for every month shown.
+CaloriesByDay SumCalories(const Session &session, const QString &table, const QDate &first, const QDate &last) {
+  CaloriesByDay sums;
+  Recordset rows = session.Data().OpenRecordset(
+      QStringLiteral("SELECT %1.ThisDate, Sum(%1.Calories) AS SumCalories FROM %1 "
+                     "WHERE ((%1.IsPlanned=False) AND (%1.PersonID=?) AND (%1.ThisDate Between ? And ?)) "
+                     "GROUP BY %1.ThisDate;")
+          .arg(table),
+      {session.profile.CurrentPersonID.toInt(), first, last}, RecordsetKind::Forward);
+  for (; !rows.Eof(); rows.MoveNext()) {
+    const Value sum = rows.Field(1);
+    if (!sum.isNull()) sums[rows.Field(0).toDate()] = sum.toDouble();
+  }
+  return sums;
+}
+
+std::optional<double> On(const CaloriesByDay &sums, const QDate &date) {
+  const auto found = sums.find(date);
+  return found == sums.end() ? std::nullopt : std::optional(found->second);
+}
+
+}  // namespace
+
+std::optional<double> NetCalories(std::optional<double> eaten, std::optional<double> burned, int basal) {
+  if (!eaten && !burned) return std::nullopt;
+  return eaten.value_or(0) - burned.value_or(0) - basal;
 }
 
 std::vector<NetCaloriesDay> ReadNetCalories(const Session &session, const QDate &first, const QDate &last) {
   std::vector<NetCaloriesDay> days;
   if (!first.isValid() || !last.isValid() || first > last) return days;
-  const int person = session.profile.CurrentPersonID.toInt();
-  FillAllDates(session.Data(), session.profile.CurrentPersonID, first, last);
-  // The two sums are those of the file's saved queries of the same names, narrowed to the person and the days in
-  // question: the queries themselves would add up the whole history for every month shown.
-  const QString statement = QStringLiteral(
-      "SELECT temp_alldates.PersonID, temp_alldates.ThisDate, temp_alldates.ThisIndex, "
-      "qryCalorieSumActivities.CaloriesBurned, qryCalorieSumMeals.CaloriesEaten "
-      "FROM (temp_alldates LEFT JOIN "
-      "(SELECT activities.PersonID, activities.ThisDate, Sum(activities.Calories) AS CaloriesBurned FROM activities "
-      "WHERE ((activities.IsPlanned=False) AND (activities.PersonID=?) AND (activities.ThisDate Between ? And ?)) "
-      "GROUP BY activities.PersonID, activities.ThisDate) AS qryCalorieSumActivities "
-      "ON (temp_alldates.PersonID = qryCalorieSumActivities.PersonID) "
-      "AND (temp_alldates.ThisDate = qryCalorieSumActivities.ThisDate)) "
-      "LEFT JOIN "
-      "(SELECT meals.PersonID, meals.ThisDate, Sum(meals.Calories) AS CaloriesEaten FROM meals "
-      "WHERE ((meals.IsPlanned=False) AND (meals.PersonID=?) AND (meals.ThisDate Between ? And ?)) "
-      "GROUP BY meals.PersonID, meals.ThisDate) AS qryCalorieSumMeals "
-      "ON (temp_alldates.PersonID = qryCalorieSumMeals.PersonID) "
-      "AND (temp_alldates.ThisDate = qryCalorieSumMeals.ThisDate) "
-      "WHERE (((temp_alldates.PersonID)=?)) ORDER BY temp_alldates.ThisIndex;");
-  Recordset rows = session.Data().OpenRecordset(statement, {person, first, last, person, first, last, person});
+  const CaloriesByDay eaten = SumCalories(session, QStringLiteral("meals"), first, last);
+  const CaloriesByDay burned = SumCalories(session, QStringLiteral("activities"), first, last);
   std::optional<BasalRates> rates;
   if (session.settings.NetCaloriesBMR) rates.emplace(session, first, last);
-  for (; !rows.Eof(); rows.MoveNext()) {
-    const QDate date = rows.Field(QStringLiteral("ThisDate")).toDate();
-    const int basal = rates ? WholeLong(rates->On(date)) : 0;
-    days.push_back(
-        {date, rows.Integer(QStringLiteral("ThisIndex")),
-         NetCalories(rows.Text(QStringLiteral("CaloriesEaten")), rows.Text(QStringLiteral("CaloriesBurned")), basal)});
+  for (QDate day = first; day <= last; day = day.addDays(1)) {
+    days.push_back({day, On(eaten, day), On(burned, day), rates ? WholeLong(rates->On(day)) : 0});
   }
   return days;
 }

@@ -1,5 +1,6 @@
 #include "journal/day_totals.h"
 
+#include "core/session/session.h"
 #include "platform/store/recordset.h"
 #include "platform/text/rounding.h"
 #include "platform/text/text_format.h"
@@ -7,18 +8,6 @@
 namespace trimlog {
 
 namespace {
-
-std::array<double, shownNutrients> CellsOf(const DayRows &rows, int row, const QLocale &locale) {
-  std::array<double, shownNutrients> values{};
-  for (int i = 0; i < shownNutrients; ++i) {
-    values[static_cast<std::size_t>(i)] = ValueOrZero(rows.NutText(row, i), locale);
-  }
-  return values;
-}
-
-void Add(std::array<double, shownNutrients> &sums, const std::array<double, shownNutrients> &values) {
-  for (std::size_t i = 0; i < shownNutrients; ++i) sums[i] += values[i];
-}
 
 double PercentOf(int nutrientID, const CalorieSums &sums) {
   double part = sums.fromCarb;
@@ -40,31 +29,28 @@ QString TotalText(const Nutrients &nutrients, const SelectedNutrient &position, 
 
 }  // namespace
 
-CalorieSums ReadCalorieSums(Database &database, const QString &personID, const QDate &date, EntryKind kind) {
-  const QString planned = kind == EntryKind::Planned ? QStringLiteral("True") : QStringLiteral("False");
-  const Recordset row = database.OpenRecordset(
+CalorieSums ReadCalorieSums(const Session &session, const QDate &date, EntryKind entries) {
+  const Recordset row = session.Data().OpenRecordset(
       QStringLiteral("SELECT meals.PersonID, Sum(meals.Calories) AS SumCalories, Sum(meals.CalFromFat) AS SumCFF, "
-                     "Sum(meals.CalFromProtein) AS SumCFP, Sum(meals.CalFromCarb) AS SumCFC "
-                     "From meals Where (((meals.ThisDate) = ") +
-      SQLDate(date) + QStringLiteral(") And ((meals.IsPlanned) = ") + planned +
-      QStringLiteral(")) GROUP BY meals.PersonID HAVING (((meals.PersonID)=") + personID + QStringLiteral("));"));
+                     "Sum(meals.CalFromProtein) AS SumCFP, Sum(meals.CalFromCarb) AS SumCFC From meals "
+                     "Where (((meals.ThisDate) = ?) And ((meals.IsPlanned) = ?)) "
+                     "GROUP BY meals.PersonID HAVING (((meals.PersonID)=?));"),
+      {date, entries == EntryKind::Planned, session.profile.CurrentPersonID.toInt()});
   if (row.Eof()) return {};
   return {true, row.Number(QStringLiteral("SumCalories")), row.Number(QStringLiteral("SumCFF")),
           row.Number(QStringLiteral("SumCFP")), row.Number(QStringLiteral("SumCFC"))};
 }
 
-std::array<double, shownNutrients> SumDay(const DayRows &rows, const QDate &date, const QLocale &locale) {
-  std::array<double, shownNutrients> sums{};
-  const int current = rows.CurrentRow();
-  if (current >= 0) Add(sums, CellsOf(rows, current, locale));
-  for (int row = current - 1; row >= 0 && rows.DateOf(row) == date; --row) Add(sums, CellsOf(rows, row, locale));
-  for (int row = current + 1; row < rows.RowCount() && rows.DateOf(row) == date; ++row) {
-    Add(sums, CellsOf(rows, row, locale));
-  }
-  return sums;
+NutrientSums SumMeals(const DayRows &rows, const QDate &date, const QLocale &locale) {
+  QStringList columns;
+  for (int position = 1; position <= shownNutrients; ++position) columns.append(QStringLiteral("Nut%1").arg(position));
+  const std::vector<double> sums = SumDay(rows, date, columns, locale);
+  NutrientSums day{};
+  std::copy(sums.begin(), sums.end(), day.begin());
+  return day;
 }
 
-ShownCells TotalsRow(const Nutrients &nutrients, const std::array<double, shownNutrients> &day, const CalorieSums &sums,
+ShownCells TotalsRow(const Nutrients &nutrients, const NutrientSums &day, const CalorieSums &sums,
                      const QLocale &locale) {
   ShownCells totals;
   for (std::size_t i = 0; i < shownNutrients; ++i) {
@@ -99,16 +85,15 @@ bool ShowsPercentOfCalories(const Nutrients &nutrients) {
                      [](const SelectedNutrient &position) { return IsPercentOfCalories(position.NutrientID); });
 }
 
-DayTotals UpdateGridTotals(Database &database, const Nutrients &nutrients, const DayRows &rows, const QString &personID,
-                           const QDate &shownDate, EntryKind kind, const ShownCells &previousTargets,
-                           const QLocale &locale) {
-  const QDate date = rows.CurrentRow() < 0 ? shownDate : rows.DateOf(rows.CurrentRow());
-  DayTotals day;
-  day.sums = SumDay(rows, date, locale);
+DayTotals UpdateGridTotals(const Session &session, const MealsOfDay &meals) {
+  const Nutrients &nutrients = session.nutrients;
+  const QDate date = DayOf(meals.rows, meals.shownDate);
   const CalorieSums sums =
-      ShowsPercentOfCalories(nutrients) ? ReadCalorieSums(database, personID, date, kind) : CalorieSums();
-  day.totals = TotalsRow(nutrients, day.sums, sums, locale);
-  day.targets = TargetsRow(nutrients, day.totals, previousTargets, locale);
+      ShowsPercentOfCalories(nutrients) ? ReadCalorieSums(session, date, meals.entries) : CalorieSums();
+  DayTotals day;
+  day.sums = SumMeals(meals.rows, date, session.locale);
+  day.totals = TotalsRow(nutrients, day.sums, sums, session.locale);
+  day.targets = TargetsRow(nutrients, day.totals, meals.previousTargets, session.locale);
   return day;
 }
 

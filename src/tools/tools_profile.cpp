@@ -30,18 +30,10 @@ void ReadPlan(ToolsProfile &profile, const Session &session) {
 }
 
 void ReadWeights(ToolsProfile &profile, const Session &session) {
-  Recordset weights = session.Data().OpenRecordset(
-      QStringLiteral("SELECT weight_loss.ThisDate, weight_loss.ThisWeight FROM weight_loss "
-                     "WHERE (weight_loss.PersonID=?) ORDER BY weight_loss.ThisDate; "),
-      {session.profile.CurrentPersonID.toInt()});
-  if (weights.Eof()) return;
-  const auto entry = [&weights] {
-    return DatedWeight{weights.Field(QStringLiteral("ThisDate")).toDate(),
-                       weights.Number(QStringLiteral("ThisWeight"))};
-  };
-  profile.initialWeight = entry();
-  weights.MoveLast();
-  profile.currentWeight = entry();
+  const std::optional<WeightEnds> ends = ReadWeightEnds(session);
+  if (!ends) return;
+  profile.initialWeight = ends->first;
+  profile.currentWeight = ends->last;
 }
 
 void ReadWaist(ToolsProfile &profile, const Session &session) {

@@ -7,13 +7,9 @@
 
 #include "core/session/session.h"
 #include "health/body_formulas.h"
+#include "health/weight_ends.h"
 
 namespace trimlog {
-
-struct DatedWeight {
-  QDate ThisDate;
-  double ThisWeight = 0;  ///< in the unit in force when it was typed
-};
 
 enum class GoalMethod { ByRate = 1, ByDate = 2 };
 

@@ -100,11 +100,16 @@ bool CalendarModel::FindRecords() {
 
 void CalendarModel::FillCalendarNutrients() {
   if (!session_.settings.ShowCalories) return;
-  for (CalendarCell &cell : month_.cells) cell.calories.clear();
+  for (CalendarCell &cell : month_.cells) {
+    cell.calories.clear();
+    cell.caloriesTip.clear();
+  }
   GuardedQuietly([this] {
-    for (const auto &[date, text] :
+    for (const auto &[date, figure] :
          ReadCalendarNutrients(session_, month_.Cell(1).date, month_.Cell(calendarCells).date)) {
-      if (const int i = month_.IndexOf(date)) month_.Cell(i).calories = text;
+      CalendarCell &cell = month_.Cell(month_.IndexOf(date));
+      cell.calories = figure.text;
+      cell.caloriesTip = figure.tip;
     }
   });
 }

@@ -25,11 +25,12 @@ inline constexpr quint32 buttonFace = 0x8000000F;  ///< the desktop's own button
 /// One day as it is shown. Texts are in the person's locale.
 struct CalendarCell {
   QDate date;
-  QString data;       ///< the weight
-  QString loss;       ///< the loss with the sign that the person chose to see
-  QString calories;   ///< the day's nutrient figure
-  QString day;        ///< day of the month
-  QString dateValue;  ///< short date
+  QString data;         ///< the weight
+  QString loss;         ///< the loss with the sign that the person chose to see
+  QString calories;     ///< the day's nutrient figure
+  QString caloriesTip;  ///< how the figure comes about; may be empty
+  QString day;          ///< day of the month
+  QString dateValue;    ///< short date
   bool visible = true;
   bool enabled = true;  ///< belongs to the month itself, so that a weight can be typed
   bool lossVisible = false;

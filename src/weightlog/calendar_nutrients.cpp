@@ -47,32 +47,44 @@ QString SumText(const Session &session, double sum, int NutrientID) {
   return IsCustomNutrient(NutrientID) ? number : number + u' ' + shown.shortUnit;
 }
 
-std::map<QDate, QString> NetCaloriesTexts(const Session &session, const QDate &first, const QDate &last) {
-  std::map<QDate, QString> texts;
+QString CaloriesText(double calories, const QLocale &locale) {
+  return Format(RoundHalfAway(calories, 2), QStringLiteral("General Number"), locale);
+}
+
+/// How a day's net calories come about: "1200 eaten - 103 burned - 1448 basal rate = -351 Cal".
+QString NetCaloriesTip(const NetCaloriesDay &day, const QLocale &locale) {
+  QString tip = CaloriesText(day.eaten.value_or(0), locale) + QStringLiteral(" eaten - ") +
+                CaloriesText(day.burned.value_or(0), locale) + QStringLiteral(" burned");
+  if (day.basal != 0) tip += QStringLiteral(" - %1 basal rate").arg(day.basal);
+  return tip + QStringLiteral(" = %1 Cal").arg(CaloriesText(*day.Net(), locale));
+}
+
+std::map<QDate, DayFigure> NetCaloriesFigures(const Session &session, const QDate &first, const QDate &last) {
+  std::map<QDate, DayFigure> figures;
   for (const NetCaloriesDay &day : ReadNetCalories(session, first, last)) {
-    if (day.net) {
-      texts[day.date] =
-          Format(RoundHalfAway(*day.net, 2), QStringLiteral("General Number"), session.locale) + QStringLiteral(" Cal");
+    if (const std::optional<double> net = day.Net()) {
+      figures[day.date] = {CaloriesText(*net, session.locale) + QStringLiteral(" Cal"),
+                           NetCaloriesTip(day, session.locale)};
     }
   }
-  return texts;
+  return figures;
 }
 
 }  // namespace
 
-std::map<QDate, QString> ReadCalendarNutrients(const Session &session, const QDate &first, const QDate &last) {
+std::map<QDate, DayFigure> ReadCalendarNutrients(const Session &session, const QDate &first, const QDate &last) {
   const int NutrientID = session.settings.NutrientID;
-  if (NutrientID == nutrient_id::netCalories) return NetCaloriesTexts(session, first, last);
-  std::map<QDate, QString> texts;
+  if (NutrientID == nutrient_id::netCalories) return NetCaloriesFigures(session, first, last);
+  std::map<QDate, DayFigure> figures;
   Recordset days =
       session.Data().OpenRecordset(StatementFor(session.nutrients, NutrientID),
                                    {session.profile.CurrentPersonID.toInt(), first, last}, RecordsetKind::Forward);
   for (; !days.Eof(); days.MoveNext()) {
-    texts[days.Field(QStringLiteral("ThisDate")).toDate()] =
+    figures[days.Field(QStringLiteral("ThisDate")).toDate()].text =
         IsPercentOfCalories(NutrientID) ? PercentText(days, NutrientID)
                                         : SumText(session, days.Number(QStringLiteral("NutrientSum")), NutrientID);
   }
-  return texts;
+  return figures;
 }
 
 }  // namespace trimlog

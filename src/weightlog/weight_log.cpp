@@ -37,10 +37,6 @@ std::optional<WeightRow> WeightLog::FirstOf(const QString &condition, const QStr
   return CurrentRow(rows);
 }
 
-std::optional<WeightRow> WeightLog::First() const { return FirstOf({}, {}); }
-
-std::optional<WeightRow> WeightLog::Last() const { return FirstOf({}, QStringLiteral(" DESC")); }
-
 std::optional<WeightRow> WeightLog::Before(const QDate &date) const {
   return FirstOf(QStringLiteral(" And (weight_loss.ThisDate<?)"), QStringLiteral(" DESC"), {date});
 }

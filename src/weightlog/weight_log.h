@@ -24,8 +24,6 @@ class WeightLog {
  public:
   explicit WeightLog(const Session &session);
 
-  std::optional<WeightRow> First() const;
-  std::optional<WeightRow> Last() const;
   std::optional<WeightRow> Before(const QDate &date) const;
   std::optional<WeightRow> After(const QDate &date) const;
   /// By date, both ends included.

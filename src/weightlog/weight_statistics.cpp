@@ -7,6 +7,7 @@
 #include "platform/store/recordset.h"
 #include "platform/text/rounding.h"
 #include "platform/text/text_format.h"
+#include "weightlog/weight_log.h"
 
 namespace trimlog {
 
@@ -41,26 +42,26 @@ std::optional<double> ReadGoal(const Session &session) {
 
 }  // namespace
 
-Statistics MakeStatistics(const WeightRow &first, const WeightRow &last, const std::optional<double> &goal,
-                          const QLocale &locale) {
+Statistics MakeStatistics(const WeightEnds &weights, const std::optional<double> &goal, const QLocale &locale) {
+  const auto &[first, last] = weights;
   Statistics shown{unknown, unknown, unknown, unknown, unknown};
-  if (goal) shown.LbsLeft = NumberText(RoundTo(LossBetween(last.weight, *goal), 1), locale);
-  if (last.weight >= first.weight) {
-    const double gained = RoundTo(LossBetween(last.weight, first.weight), 1);
-    shown.LbsLost =
-        last.weight == first.weight ? QStringLiteral("0") : QStringLiteral("Gained ") + NumberText(gained, locale);
+  if (goal) shown.LbsLeft = NumberText(RoundTo(LossBetween(last.ThisWeight, *goal), 1), locale);
+  if (last.ThisWeight >= first.ThisWeight) {
+    const double gained = RoundTo(LossBetween(last.ThisWeight, first.ThisWeight), 1);
+    shown.LbsLost = last.ThisWeight == first.ThisWeight ? QStringLiteral("0")
+                                                        : QStringLiteral("Gained ") + NumberText(gained, locale);
     return shown;
   }
-  if (goal && *goal > last.weight) shown.LbsLeft = QStringLiteral("0");
-  const double lost = RoundTo(LossBetween(first.weight, last.weight), 1);
+  if (goal && *goal > last.ThisWeight) shown.LbsLeft = QStringLiteral("0");
+  const double lost = RoundTo(LossBetween(first.ThisWeight, last.ThisWeight), 1);
   shown.LbsLost = NumberText(lost, locale);
-  const double weeks = static_cast<double>(first.date.daysTo(last.date)) / 7;
+  const double weeks = static_cast<double>(first.ThisDate.daysTo(last.ThisDate)) / 7;
   shown.LbsPerWeek = PaceText(lost, shown.LbsLost, weeks, locale);
   if (!goal) return shown;
   const std::optional<int> days = DaysLeft(ValueOrZero(shown.LbsLeft, locale), ValueOrZero(shown.LbsPerWeek, locale));
   if (!days) return shown;
   shown.DaysLeft = QString::number(*days);
-  shown.ProjDate = ShortDate(last.date.addDays(*days), locale);
+  shown.ProjDate = ShortDate(last.ThisDate.addDays(*days), locale);
   return shown;
 }
 
@@ -69,14 +70,11 @@ void UpdateStats(Session &session) {
           {QStringLiteral("basMain"), QStringLiteral("UpdateStats"), QStringLiteral("Error Updating Statistics"),
            QStringLiteral("An error occurred while updating your weight loss statistics.")},
           [&session] {
-            const WeightLog log(session);
-            const std::optional<WeightRow> first = log.First();
-            const std::optional<WeightRow> last = first ? log.Last() : std::nullopt;
-            session.profile.FirstWeightDate = first ? first->date : QDate();
-            session.profile.LastWeightDate = last ? last->date : QDate();
-            session.profile.statistics = first && last
-                                             ? MakeStatistics(*first, *last, ReadGoal(session), session.locale)
-                                             : Statistics{unknown, unknown, unknown, unknown, unknown};
+            const std::optional<WeightEnds> weights = ReadWeightEnds(session);
+            session.profile.FirstWeightDate = weights ? weights->first.ThisDate : QDate();
+            session.profile.LastWeightDate = weights ? weights->last.ThisDate : QDate();
+            session.profile.statistics = weights ? MakeStatistics(*weights, ReadGoal(session), session.locale)
+                                                 : Statistics{unknown, unknown, unknown, unknown, unknown};
           });
   session.changes.AnnounceStatistics();
 }

@@ -52,9 +52,11 @@ class Rows final : public DayRows {
   int RowCount() const override { return static_cast<int>(cells.size()); }
   int CurrentRow() const override { return current; }
   QDate DateOf(int row) const override { return dates.at(static_cast<std::size_t>(row)); }
-  QString NutText(int row, int position) const override {
-    return cells.at(static_cast<std::size_t>(row)).value(position);
+  QString CellText(int row, const QString &column) const override {
+    return cells.at(static_cast<std::size_t>(row)).value(columns.indexOf(column));
   }
+  QStringList columns{QStringLiteral("Nut1"), QStringLiteral("Nut2"), QStringLiteral("Nut3"), QStringLiteral("Nut4"),
+                      QStringLiteral("Nut5")};
   std::vector<QDate> dates;
   std::vector<QStringList> cells;
   int current = -1;
@@ -165,15 +167,17 @@ TEST(DayTotals, SumTheRowsOfTheCurrentDayAndNoOthers) {
   rows.cells = {{"1000", "9", "9", "", "9"},    {"100", "1.25", "1", "", "0.1"}, {"200", "", "2", "", "0.2"},
                 {"300", "0.005", "3", "", "x"}, {"5000", "9", "9", "", "9"},     {"7000", "9", "9", "", "9"}};
   rows.current = 2;
-  const auto sums = SumDay(rows, today, english);
+  const auto sums = SumMeals(rows, today, english);
   const ShownCells totals = TotalsRow(nutrients, sums, {}, english);
   EXPECT_EQ(totals, (ShownCells{"600", "1.255", "", "", "0.30", "", "", "", "", ""}))
       << "the walk stops at the first row of another day";
 
+  rows.current = 0;
+  EXPECT_EQ(SumMeals(rows, today.addDays(1), english)[0], 1000) << "the first row is a day as well";
   rows.current = -1;
-  EXPECT_EQ(TotalsRow(nutrients, SumDay(rows, today, english), {}, english)[0], "0");
+  EXPECT_EQ(TotalsRow(nutrients, SumMeals(rows, today, english), {}, english)[0], "0");
   rows.dates = std::vector<QDate>(6, today);
-  EXPECT_EQ(TotalsRow(nutrients, SumDay(rows, today, english), {}, english)[0], "13600")
+  EXPECT_EQ(TotalsRow(nutrients, SumMeals(rows, today, english), {}, english)[0], "13600")
       << "on the row for new entries the day's rows still count";
 }
 
@@ -220,17 +224,37 @@ TEST(DayTotals, AWholeDayOfSixFoodsFromTheFile) {
       "INSERT INTO meals ( PersonID, RecordID, ThisDate, MealTypeID, MealID, Amount, Calories, CalFromFat, "
       "CalFromProtein, CalFromCarb, IsPlanned ) SELECT 1 AS E1, 7 AS E2, #3/1/2026# AS E3, 1 AS E4, 1 AS E5, "
       "\"1\" AS E6, 900 AS E7, 900 AS E8, 0 AS E9, 0 AS E10, True AS E11;"));
+  session.Data().Execute(QStringLiteral(
+      "INSERT INTO meals ( PersonID, RecordID, ThisDate, MealTypeID, MealID, Amount, Calories, CalFromFat, "
+      "CalFromProtein, CalFromCarb, IsPlanned ) SELECT -1 AS E1, 9007 AS E2, #3/1/2026# AS E3, 1 AS E4, 1 AS E5, "
+      "\"1\" AS E6, 900 AS E7, 900 AS E8, 0 AS E9, 0 AS E10, False AS E11;"));
+  session->nutrients.NutrientTargets[0] = 1500;
+  const MealsOfDay eaten{rows, today, EntryKind::Eaten, {"", "", "12"}};
   rows.current = 5;
   rows.cells[5][0] = QStringLiteral("400");
-  const DayTotals day = UpdateGridTotals(session.Data(), session->nutrients, rows, QStringLiteral("1"), today,
-                                         EntryKind::Eaten, {}, english);
+  const DayTotals day = UpdateGridTotals(*session, eaten);
   EXPECT_EQ(day.totals[0], "1400") << "1350 stored, 50 more not yet saved";
-  EXPECT_EQ(day.totals[1], "50") << "from the stored 675 of 1350; the planned entry does not count";
+  EXPECT_EQ(day.totals[1], "50") << "from the stored 675 of 1350; neither the plan nor someone else's food counts";
   EXPECT_EQ(day.totals[2], "12") << "6 x 27 of 1350 calories";
-  EXPECT_EQ(UpdateGridTotals(session.Data(), session->nutrients, rows, QStringLiteral("1"), today, EntryKind::Planned,
-                             {}, english)
-                .totals[1],
-            "100");
+  EXPECT_EQ(day.targets[0], "-100");
+  EXPECT_EQ(UpdateGridTotals(*session, {rows, today, EntryKind::Planned, {}}).totals[1], "100");
+
+  rows.current = -1;
+  rows.dates.clear();
+  rows.cells.clear();
+  EXPECT_EQ(UpdateGridTotals(*session, {rows, today.addDays(1), EntryKind::Eaten, {}}).targets[0], "-1500")
+      << "an empty day is held against the whole target";
+}
+
+TEST(DayTotals, OfExercisesAreTheirCaloriesAndMinutes) {
+  Rows rows;
+  rows.columns = QStringList{QStringLiteral("Duration"), QStringLiteral("Calories")};
+  rows.dates = {today, today, today, today.addDays(-1)};
+  rows.cells = {{"30", "150,5"}, {"45", "200"}, {"", "x"}, {"60", "900"}};
+  rows.current = 1;
+  const ExerciseTotals totals = SumExercises(rows, today, german);
+  EXPECT_EQ(totals.calories, 350.5);
+  EXPECT_EQ(totals.minutes, 75);
 }
 
 }  // namespace

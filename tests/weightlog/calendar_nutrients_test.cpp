@@ -14,25 +14,25 @@ class CalendarNutrients : public testing::Test {
     calendar.session->settings.NetCaloriesBMR = false;
   }
 
-  void Eat(const char *date, double calories, double fatCalories, double iron, bool planned = false) {
+  void Eat(const char *date, double calories, double fatCalories, double iron, bool planned = false, int person = 1) {
     calendar.session.Data().Execute(
         QStringLiteral("INSERT INTO meals ( PersonID, RecordID, ThisDate, MealTypeID, MealID, Amount, Calories, "
-                       "CalFromFat, Iron, Custom1, IsPlanned ) SELECT 1 AS Expr1, ? AS Expr2, ? AS Expr3, 1 AS Expr4, "
+                       "CalFromFat, Iron, Custom1, IsPlanned ) SELECT ? AS Expr1, ? AS Expr2, ? AS Expr3, 1 AS Expr4, "
                        "? AS Expr5, \"1\" AS Expr6, ? AS Expr7, ? AS Expr8, ? AS Expr9, 1.5 AS Expr10, ? AS Expr11;"),
-        {++records, Day(date),
+        {person, ++records, Day(date),
          calendar.session
              .ValueOf(QStringLiteral("Min(MealID)"), QStringLiteral("meals_list"), QStringLiteral("MealID > 0"))
              .toInt(),
          calories, fatCalories, iron, planned});
   }
-  void Exercise(const char *date, double calories) {
+  void Exercise(const char *date, double calories, bool planned = false, int person = 1) {
     calendar.session.Data().Execute(
         QStringLiteral(
             "INSERT INTO activities ( PersonID, RecordID, ThisDate, ActivityID, Duration, Calories, IsPlanned ) "
-            "SELECT 1 AS Expr1, ? AS Expr2, ? AS Expr3, ? AS Expr4, \"30\" AS Expr5, ? AS Expr6, 0 AS Expr7;"),
-        {++records, Day(date),
+            "SELECT ? AS Expr1, ? AS Expr2, ? AS Expr3, ? AS Expr4, \"30\" AS Expr5, ? AS Expr6, ? AS Expr7;"),
+        {person, ++records, Day(date),
          calendar.session.ValueOf(QStringLiteral("Min(ActivityID)"), QStringLiteral("activities_list")).toInt(),
-         calories});
+         calories, planned});
   }
 
   TypedCalendar calendar;
@@ -44,15 +44,22 @@ TEST_F(CalendarNutrients, ShowsTheDaysFigureByTheChosenNutrient) {
   Eat("2026-03-02", 200, 50, 0.5);
   Eat("2026-03-02", 999, 999, 99, true);  // planned: not eaten
   Eat("2026-03-03", 0, 10, 0);
+  Eat("2026-03-06", 8, 3, 0);  // 37.5 percent
   Exercise("2026-03-02", 150);
+  Exercise("2026-03-02", 999, true);
+  for (const char *day : {"2026-03-02", "2026-03-05"}) {  // someone else's
+    Eat(day, 999, 999, 99, false, -1);
+    Exercise(day, 999, false, -1);
+  }
   Exercise("2026-03-04", 300);
   struct Case {
     int NutrientID;
-    const char *second, *third, *fourth, *fifth;
+    const char *second, *third, *fourth, *fifth, *sixth;
   };
-  for (const Case &c : {Case{1, "600 kcal", "0 kcal", "", ""}, Case{101, "150 kcal", "", "300 kcal", ""},
-                        Case{102, "450 Cal", "0 Cal", "-300 Cal", ""}, Case{23, "25 %", "0 %", "", ""},
-                        Case{7, "1.750 mg", "0.000 mg", "", ""}, Case{28, "3.00", "1.50", "", ""}}) {
+  for (const Case &c :
+       {Case{1, "600 kcal", "0 kcal", "", "", "8 kcal"}, Case{101, "150 kcal", "", "300 kcal", "", ""},
+        Case{102, "450 Cal", "0 Cal", "-300 Cal", "", "8 Cal"}, Case{23, "25 %", "0 %", "", "", "38 %"},
+        Case{7, "1.750 mg", "0.000 mg", "", "", "0.000 mg"}, Case{28, "3.00", "1.50", "", "", "1.50"}}) {
     SCOPED_TRACE(c.NutrientID);
     calendar.session->settings.NutrientID = c.NutrientID;
     calendar.model->BuildMonth(Day("2026-03-01"));
@@ -64,17 +71,22 @@ TEST_F(CalendarNutrients, ShowsTheDaysFigureByTheChosenNutrient) {
     EXPECT_EQ(calendar.Cell("2026-03-03").calories, expected(c.third));
     EXPECT_EQ(calendar.Cell("2026-03-04").calories, expected(c.fourth));
     EXPECT_EQ(calendar.Cell("2026-03-05").calories, expected(c.fifth));
+    EXPECT_EQ(calendar.Cell("2026-03-06").calories, expected(c.sixth));
   }
 }
 
 TEST_F(CalendarNutrients, NetCaloriesFollowTheWeightThatTheBasalRateGoesBy) {
   calendar.session->settings.NetCaloriesBMR = true;
   Eat("2026-03-03", 2000, 0, 0);
+  Exercise("2026-03-03", 103);
   calendar.model->BuildMonth(Day("2026-03-01"));
-  EXPECT_EQ(calendar.Cell("2026-03-03").calories, QStringLiteral("2000 Cal"));
+  EXPECT_EQ(calendar.Cell("2026-03-03").caloriesTip, QStringLiteral("2000 eaten - 103 burned = 1897 Cal"));
   calendar.Type("2026-03-02", "150");
   const QString withRate = calendar.Cell("2026-03-03").calories;
-  EXPECT_NE(withRate, QStringLiteral("2000 Cal"));
+  EXPECT_EQ(withRate, QStringLiteral("449 Cal"));
+  EXPECT_EQ(calendar.Cell("2026-03-03").caloriesTip,
+            QStringLiteral("2000 eaten - 103 burned - 1448 basal rate = 449 Cal"));
+  EXPECT_TRUE(calendar.Cell("2026-03-04").caloriesTip.isEmpty());
   calendar.model->BuildMonth(Day("2026-03-01"));
   EXPECT_EQ(calendar.Cell("2026-03-03").calories, withRate);
 }

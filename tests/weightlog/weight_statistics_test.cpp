@@ -38,7 +38,7 @@ TEST(WeightStatistics, TellsPaceAndProjectionFromTheFirstAndTheLastWeight) {
         Case{"no goal known", 200, 190, 35, std::nullopt, "10 | 2.0 | --- | --- | ---"},
         Case{"binary dust", 200.1, 190.05, 7, 150, "10.1 | 10.1 | 40.1 | 28 | 3/8/2026"}}) {
     const QDate start(2026, 2, 1);
-    const Statistics shown = MakeStatistics({start, c.first, 0}, {start.addDays(c.days), c.last, 0}, c.goal, english);
+    const Statistics shown = MakeStatistics({{start, c.first}, {start.addDays(c.days), c.last}}, c.goal, english);
     EXPECT_EQ(Panel(shown), c.panel) << c.why;
   }
 }

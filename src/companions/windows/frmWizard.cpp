@@ -23,7 +23,6 @@ namespace trimlog {
 
 namespace {
 
-constexpr double fewColours = 256;
 constexpr double titleScale = 1.3;
 
 QLabel *MakeTitle(QWidget *parent) {
@@ -46,10 +45,7 @@ QFrame *MakeLine(QWidget *parent) {
 }  // namespace
 
 frmWizard::frmWizard(Session &session, const Navigator &navigator, bool addingProfile, QWidget *owner)
-    : QDialog(owner),
-      session_(session),
-      navigator_(navigator),
-      plan_(addingProfile, session.machine.GetNumColors() > fewColours) {
+    : QDialog(owner), session_(session), navigator_(navigator), plan_(addingProfile, !ShowsFewColours(session)) {
   setObjectName(QStringLiteral("frmWizard"));
   setWindowTitle(QStringLiteral("Trimlog Pro Configuration Wizard"));
   setWindowFlag(Qt::WindowContextHelpButtonHint, false);

@@ -12,9 +12,9 @@ constexpr double fewColours = 256;
 
 }  // namespace
 
-quint32 DefaultBackColor(const Session &session) {
-  return session.machine.GetNumColors() <= fewColours ? paleYellow : paleBlue;
-}
+bool ShowsFewColours(const Session &session) { return session.machine.GetNumColors() <= fewColours; }
+
+quint32 DefaultBackColor(const Session &session) { return ShowsFewColours(session) ? paleYellow : paleBlue; }
 
 const QList<NamedColour> &BackColours() {
   static const QList<NamedColour> colours = {

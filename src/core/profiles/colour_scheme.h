@@ -16,6 +16,8 @@ struct NamedColour {
 /// The colour scheme of a profile that has chosen none: pale yellow (C0FFFF) on screens of up to 256 colours, pale blue
 /// (FFE0C0) on all others.
 quint32 DefaultBackColor(const Session &session);
+/// A screen of up to 256 colours: pastels would turn into patterns there.
+bool ShowsFewColours(const Session &session);
 
 /// The pastel schemes that a profile can choose from.
 const QList<NamedColour> &BackColours();

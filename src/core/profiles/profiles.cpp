@@ -23,9 +23,8 @@ quint32 SchemeOf(Session &session, const QString &personID) {
     return stored.isEmpty() ? session.profile.BackColor : static_cast<quint32>(stored.toLongLong());
   }
   if (session.edition.BizEdLoginMode) return session.profile.BackColor;
-  const bool fewColours = session.machine.GetNumColors() <= 256;
   const bool shippedSample = personID == sampleProfile1 || personID == sampleProfile2;
-  return fewColours || shippedSample ? DefaultBackColor(session) : session.profile.BackColor;
+  return ShowsFewColours(session) || shippedSample ? DefaultBackColor(session) : session.profile.BackColor;
 }
 
 int TargetSetOf(Session &session, const QString &personID) {

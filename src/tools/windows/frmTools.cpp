@@ -9,6 +9,7 @@
 #include <QStackedWidget>
 #include <QVBoxLayout>
 
+#include "core/profiles/colour_scheme.h"
 #include "core/session/failure_guard.h"
 #include "core/windows/controls/theme.h"
 #include "core/windows/setup/setup_controls.h"
@@ -64,7 +65,7 @@ frmTools::frmTools(Session &session, const Navigator &navigator, ToolsPanel pane
   AddChoice(layout);
   AddPages(layout);
   AddButtons(layout);
-  if (FewColours(session_)) {
+  if (ShowsFewColours(session_)) {
     PaintToolPanel(this, Qt::white);
     for (QWidget *page :
          {static_cast<QWidget *>(pnlPlanner), static_cast<QWidget *>(pnlBMR), static_cast<QWidget *>(pnlBodyFat)}) {

@@ -2,14 +2,13 @@
 
 #include <QWidget>
 
+#include "core/profiles/colour_scheme.h"
 #include "core/windows/controls/theme.h"
 
 namespace trimlog {
 
-bool FewColours(const Session &session) { return session.machine.GetNumColors() <= 256; }
-
 std::array<QColor, 3> ToolColours(const Session &session) {
-  if (FewColours(session)) return {QColor(0xFF, 0xFF, 0), QColor(0, 0xFF, 0), QColor(0, 0xFF, 0xFF)};
+  if (ShowsFewColours(session)) return {QColor(0xFF, 0xFF, 0), QColor(0, 0xFF, 0), QColor(0, 0xFF, 0xFF)};
   return {QColor(0xFF, 0xEE, 0x9C), QColor(0xB4, 0xE6, 0xA8), QColor(0xA6, 0xE3, 0xF0)};
 }
 

@@ -11,9 +11,6 @@ namespace trimlog {
 /// green, cyan; pure ones where the screen shows no more than 256. All are light: black reads well on them.
 std::array<QColor, 3> ToolColours(const Session &session);
 
-/// True when the screen shows no more than 256 colours: panels go plain then.
-bool FewColours(const Session &session);
-
 /// Gives a panel its colour, text that reads well on it, and grey for what is disabled.
 void PaintToolPanel(QWidget *panel, const QColor &background);
 

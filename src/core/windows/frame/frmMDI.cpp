@@ -8,10 +8,10 @@
 #include "core/session/failure_guard.h"
 #include "core/settings/window_position.h"
 #include "core/windows/controls/art.h"
-#include "core/windows/controls/twips.h"
 #include "core/windows/frame/frmMain.h"
 #include "core/windows/frame/frmMain1.h"
 #include "core/windows/frame/frmSplash.h"
+#include "platform/twips.h"
 
 namespace trimlog {
 

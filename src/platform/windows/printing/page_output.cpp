@@ -11,12 +11,12 @@
 #include <optional>
 
 #include "platform/error.h"
+#include "platform/twips.h"
 
 namespace trimlog {
 
 namespace {
 
-constexpr double twipsPerInch = 1440;
 constexpr double marginMillimetres = 15;
 
 QPageSize UsualPageSize() {
@@ -68,7 +68,8 @@ class SystemOutput final : public PageOutput {
       throw Error(error_number::cannotOpen, QStringLiteral("The pages could not be started."));
     }
     painter.setRenderHint(QPainter::SmoothPixmapTransform);
-    painter.scale(device.logicalDpiX() / twipsPerInch, device.logicalDpiY() / twipsPerInch);
+    painter.scale(static_cast<double>(device.logicalDpiX()) / twipsPerInch,
+                  static_cast<double>(device.logicalDpiY()) / twipsPerInch);
     for (int page = 0; page < pages; ++page) {
       if (page > 0 && !device.newPage()) {
         throw Error(error_number::other, QStringLiteral("A page could not be printed."));

@@ -4,12 +4,13 @@
 #include <QWidget>
 #include <algorithm>
 
+#include "platform/twips.h"
+
 namespace trimlog {
 
 namespace {
 
 constexpr int finerThanScreen = 3;
-constexpr double twipsPerPixel = 15;  // at 96 pixels to the inch
 
 }  // namespace
 
