@@ -1,5 +1,6 @@
 #include <QApplication>
 
+#include "core/windows/controls/theme_style.h"
 #include "platform/windows/machine/font_warmth.h"
 #include "platform/windows/machine/qt_boxes.h"
 #include "platform/windows/machine/qt_machine.h"
@@ -9,6 +10,7 @@ int main(int argc, char **argv) {
   using namespace trimlog;
   const FontWarmth warmth;
   QApplication application(argc, argv);
+  QApplication::setStyle(new ThemeStyle(QApplication::style()->name()));
   QApplication::setApplicationName(QStringLiteral("trimlog"));
   // Only closing the main window ends the program: a sign-in window or a box before it must not.
   QApplication::setQuitOnLastWindowClosed(false);

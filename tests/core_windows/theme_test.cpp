@@ -2,7 +2,11 @@
 
 #include <gtest/gtest.h>
 
+#include <QApplication>
+#include <QDialogButtonBox>
 #include <QLabel>
+
+#include "core/windows/controls/theme_style.h"
 
 namespace trimlog {
 namespace {
@@ -49,14 +53,63 @@ TEST(Theme, MeaningKeepsItsValueOnLightAndItsHueOnDark) {
   }
 }
 
-TEST(Theme, PanelTextFollowsThePanelNotTheDesktop) {
-  QWidget panel;
-  QLabel label(QStringLiteral("Name"), &panel);
-  for (const quint32 color : {0xFFE0C0U, 0x400000U}) {
-    PaintPanel(&panel, color);
-    EXPECT_EQ(label.palette().color(QPalette::WindowText), ContrastText(ColorFromBgr(color)));
-    EXPECT_EQ(panel.palette().color(QPalette::Base), QPalette().color(QPalette::Base));
+const std::vector<QPalette> &Desktops() {
+  static const std::vector<QPalette> desktops = {QPalette(QColor(0xEF, 0xEF, 0xEF)), QPalette(QColor(0x35, 0x35, 0x35)),
+                                                 QPalette(QColor(0x1E, 0x1E, 0x1E)), QPalette(Qt::black)};
+  return desktops;
+}
+
+TEST(Theme, PanelsOfAnyColourAreReadableAndNeverGlareOnDarkDesktops) {
+  for (const QPalette &desktop : Desktops()) {
+    for (int red = 0; red <= 255; red += 51) {
+      for (int green = 0; green <= 255; green += 51) {
+        for (int blue = 0; blue <= 255; blue += 51) {
+          const QColor kept(red, green, blue);
+          const QColor panel = PanelColor(BgrFromColor(kept), desktop);
+          EXPECT_GE(ContrastRatio(ContrastText(panel), panel), 4.5) << kept.name().toStdString();
+          if (!IsDark(desktop)) {
+            EXPECT_EQ(panel, kept);
+            continue;
+          }
+          EXPECT_LE(RelativeLuminance(panel), 0.13) << kept.name().toStdString();
+          const bool coloured = panel.saturation() > 60;
+          EXPECT_TRUE(!coloured || qAbs(panel.hslHue() - kept.hslHue()) <= 6) << kept.name().toStdString();
+        }
+      }
+    }
   }
+}
+
+TEST(Theme, APanelFollowsTheDesktopAndPaper) {
+  const QPalette before = QApplication::palette();
+  const QPalette &light = Desktops()[0], &dark = Desktops()[1];
+  QApplication::setPalette(light);
+  QWidget window;
+  auto *panel = new QWidget(&window);
+  auto *label = new QLabel(QStringLiteral("Name"), panel);
+  const auto colour = [label](QPalette::ColorRole role) { return label->palette().color(role); };
+  for (const quint32 kept : {0xFFE0C0U, 0x400000U}) {
+    PaintPanel(panel, kept);
+    EXPECT_EQ(colour(QPalette::Window), ColorFromBgr(kept));
+    EXPECT_EQ(colour(QPalette::WindowText), ContrastText(ColorFromBgr(kept)));
+    EXPECT_EQ(colour(QPalette::Base), light.color(QPalette::Base));
+  }
+  PaintPanel(panel, 0xFFE0C0);
+  QApplication::setPalette(dark);
+  QApplication::processEvents();
+  EXPECT_EQ(colour(QPalette::Window), PanelColor(0xFFE0C0, dark));
+  EXPECT_EQ(colour(QPalette::WindowText), QColor(Qt::white));
+  RepaintPanels(&window, light);
+  EXPECT_EQ(colour(QPalette::Window), QColor(0xC0, 0xE0, 0xFF));
+  QApplication::setPalette(before);
+}
+
+TEST(Theme, ButtonsOfDialogsShowNoPictures) {
+  ThemeStyle style(QStringLiteral("Fusion"));
+  QDialogButtonBox buttons;
+  buttons.setStyle(&style);
+  buttons.setStandardButtons(QDialogButtonBox::Ok | QDialogButtonBox::Cancel | QDialogButtonBox::Help);
+  for (const QAbstractButton *button : buttons.buttons()) EXPECT_TRUE(button->icon().isNull());
 }
 
 }  // namespace

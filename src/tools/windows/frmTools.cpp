@@ -251,9 +251,13 @@ void frmTools::PrintResults() {
       QStringLiteral("basPrinting"), QStringLiteral("PrintWindow"), QStringLiteral("Printer Error"),
       QStringLiteral("An error occurred while printing to your default printer.  Unable to print at this time.")};
   // Dark colours do not belong on paper.
-  if (IsDark(palette())) setPalette(QPalette(QColor(0xF0, 0xF0, 0xF0)));
+  const QPalette desktop = QApplication::palette();
+  const QPalette paper = IsDark(desktop) ? QPalette(QColor(0xF0, 0xF0, 0xF0)) : desktop;
+  setPalette(paper);
+  RepaintPanels(this, paper);
   Guarded(session_, failure, [this] { PrintWindow(*this, session_.boxes); });
   setPalette({});
+  RepaintPanels(this, desktop);
 }
 
 void frmTools::done(int result) {

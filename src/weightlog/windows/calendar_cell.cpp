@@ -40,7 +40,7 @@ CalendarLook::CalendarLook(const QPalette &desktop, quint32 BackColor) : backCol
   const QColor base = desktop.color(QPalette::Base);
   const QColor text = desktop.color(QPalette::Text);
   const QColor face = desktop.color(QPalette::Button);
-  const QColor own = ColorFromBgr(BackColor, desktop);
+  const QColor own = PanelColor(BackColor, desktop);
   day = CellPalette(desktop, base, text, base);
   neighbour = CellPalette(desktop, face, Between(desktop.color(QPalette::ButtonText), face, 0.4), face);
   active = CellPalette(desktop, own, ContrastText(own), base);

@@ -289,9 +289,10 @@ void frmData::ShowCurrent() {
 
 void frmData::ShowSettings() {
   const quint32 panel = printing_ ? calendar_colour::white : session_.profile.BackColor;
-  PaintPanel(lblMonth, panel);
-  PaintPanel(lblTotal2, panel);
-  const QPalette buttons = ButtonPalette(ColorFromBgr(panel, palette()));
+  const QPalette desktop = grid_->DesktopPalette();
+  PaintPanel(lblMonth, panel, desktop);
+  PaintPanel(lblTotal2, panel, desktop);
+  const QPalette buttons = ButtonPalette(PanelColor(panel, desktop));
   for (QToolButton *button : {cmdPrevMonth, cmdNextMonth, cmdToday, cmdDiary, cmdTips}) button->setPalette(buttons);
   chkShowLoss->setChecked(session_.settings.ShowLoss);
   chkShowCalories->setChecked(session_.settings.ShowCalories);

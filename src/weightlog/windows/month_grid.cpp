@@ -68,8 +68,8 @@ void MonthGrid::Show(const CalendarMonth &month, quint32 BackColor, const QDate 
 }
 
 void MonthGrid::ShowHeaders(quint32 BackColor) {
-  for (FitLabel *header : lblDay_) PaintPanel(header, BackColor);
-  PaintPanel(lblTotal1, BackColor);
+  for (FitLabel *header : lblDay_) PaintPanel(header, BackColor, DesktopPalette());
+  PaintPanel(lblTotal1, BackColor, DesktopPalette());
 }
 
 void MonthGrid::ShowTotals(const CalendarMonth &month) {

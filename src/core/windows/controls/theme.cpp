@@ -1,6 +1,7 @@
 #include "core/windows/controls/theme.h"
 
 #include <QApplication>
+#include <QEvent>
 #include <QWidget>
 
 namespace trimlog {
@@ -12,8 +13,50 @@ constexpr quint32 buttonText = 0x80000012;
 constexpr double readableContrast = 4.5;
 constexpr double lightBackground = 0.5;
 constexpr double visibleContrast = 2.5;
+constexpr float deepestTint = 0.22F;   // of a panel on a dark desktop: lightness, a little above the desktop's own,
+constexpr float strongestTint = 0.4F;  // and saturation
 
 double LinearChannel(double value) { return value <= 0.03928 ? value / 12.92 : std::pow((value + 0.055) / 1.055, 2.4); }
+
+/// Lives in a coloured panel and knows its colour.
+class PanelPainter final : public QObject {
+ public:
+  explicit PanelPainter(QWidget *panel) : QObject(panel), panel_(panel) { panel->installEventFilter(this); }
+
+  static PanelPainter *Of(const QWidget *panel) {
+    for (QObject *child : panel->children()) {
+      if (auto *painter = dynamic_cast<PanelPainter *>(child)) return painter;
+    }
+    return nullptr;
+  }
+
+  void Paint(quint32 backColor, const QPalette &desktop) {
+    backColor_ = backColor;
+    Repaint(desktop);
+  }
+
+  void Repaint(const QPalette &desktop) {
+    screen_ = QApplication::palette().cacheKey();
+    const QColor background = PanelColor(backColor_, desktop);
+    QPalette palette;  // only these two are set: all else stays the desktop's
+    palette.setColor(QPalette::Window, background);
+    palette.setColor(QPalette::WindowText, ContrastText(background));
+    panel_->setPalette(palette);
+    panel_->setAutoFillBackground(true);
+  }
+
+ protected:
+  bool eventFilter(QObject *watched, QEvent *event) override {
+    const bool changed = watched == panel_ && event->type() == QEvent::PaletteChange;
+    if (changed && screen_ != QApplication::palette().cacheKey()) Repaint(QApplication::palette());
+    return false;
+  }
+
+ private:
+  QWidget *panel_;
+  quint32 backColor_ = 0;
+  qint64 screen_ = 0;  ///< the desktop on the screen when it was painted
+};
 
 }  // namespace
 
@@ -62,14 +105,28 @@ bool IsDark(const QPalette &palette) {
   return RelativeLuminance(palette.color(QPalette::Window)) < RelativeLuminance(palette.color(QPalette::WindowText));
 }
 
-void PaintPanel(QWidget *panel, quint32 backColor) {
-  const QColor background = ColorFromBgr(backColor, QApplication::palette());
-  const QColor text = ContrastText(background);
-  QPalette palette;  // only these two are set: all else stays the desktop's
-  palette.setColor(QPalette::Window, background);
-  palette.setColor(QPalette::WindowText, text);
-  panel->setPalette(palette);
-  panel->setAutoFillBackground(true);
+QColor PanelColor(const QColor &color, const QPalette &palette) {
+  if (!IsDark(palette) || color.lightnessF() <= deepestTint) return color;
+  return QColor::fromHslF(std::max(color.hslHueF(), 0.0F), std::min(color.hslSaturationF(), strongestTint), deepestTint)
+      .toRgb();
+}
+
+QColor PanelColor(quint32 backColor, const QPalette &palette) {
+  return PanelColor(ColorFromBgr(backColor, palette), palette);
+}
+
+void PaintPanel(QWidget *panel, quint32 backColor) { PaintPanel(panel, backColor, QApplication::palette()); }
+
+void PaintPanel(QWidget *panel, quint32 backColor, const QPalette &desktop) {
+  PanelPainter *painter = PanelPainter::Of(panel);
+  if (!painter) painter = new PanelPainter(panel);
+  painter->Paint(backColor, desktop);
+}
+
+void RepaintPanels(QWidget *window, const QPalette &desktop) {
+  for (QWidget *panel : window->findChildren<QWidget *>()) {
+    if (PanelPainter *painter = PanelPainter::Of(panel)) painter->Repaint(desktop);
+  }
 }
 
 }  // namespace trimlog

@@ -27,8 +27,17 @@ QColor MeaningColor(const QColor &color, const QColor &background);
 /// True when the desktop shows light text on dark.
 bool IsDark(const QPalette &palette);
 
-/// Colours a panel with a profile's colour and gives everything that stands on it a readable text colour. Fields keep
-/// the desktop's own colours.
+/// The colour of a panel in a profile's colour: on a light desktop that colour as it is kept, on a dark one a deep tint
+/// of its hue, so that a pastel does not glare. Text on it is ContrastText.
+QColor PanelColor(quint32 backColor, const QPalette &palette = {});
+QColor PanelColor(const QColor &color, const QPalette &palette);
+
+/// Colours a panel with a profile's colour, by PanelColor, and gives everything that stands on it a readable text
+/// colour. Fields keep the desktop's own colours. The panel follows when the desktop turns dark or light.
 void PaintPanel(QWidget *panel, quint32 backColor);
+/// The same for another desktop than the one on the screen: paper is light.
+void PaintPanel(QWidget *panel, quint32 backColor, const QPalette &desktop);
+/// Paints all coloured panels of a window once more, for another desktop.
+void RepaintPanels(QWidget *window, const QPalette &desktop);
 
 }  // namespace trimlog
