@@ -19,6 +19,7 @@ Program::Program(Session &session, const OperatingSystem &system)
   QObject::connect(&instance_, &SingleInstance::RaiseRequested, &instance_, [this] {
     if (frame_) RaiseWindow(frame_.get());
   });
+  QObject::connect(&endSignals_, &EndSignals::EndRequested, &instance_, [this] { EndForMachine(); });
 }
 
 bool Program::Start() { return application_.Main() == Application::Outcome::Running && !ended_; }
@@ -38,7 +39,10 @@ void Program::FillDoors() {
   doors_.OpenSetup = [this] {
     if (navigator_.OpenSetup) navigator_.OpenSetup(SetupTab::Profiles);
   };
-  doors_.SaveOpenEdit = [this] { return !frame_ || frame_->SaveOpenEdit(); };
+  doors_.SaveOpenEdit = [this] { return frame_ ? frame_->LeaveOpenEdit() : EditOutcome::Saved; };
+  doors_.DropOpenEdit = [this] {
+    if (frame_) frame_->DropOpenEdit();
+  };
   doors_.ReadWindowPlaces = [this] {
     if (frame_) frame_->ReadPlace();
   };
@@ -51,10 +55,24 @@ bool Program::ShowFrame() {
 }
 
 bool Program::Close() {
-  if (!application_.QueryUnload()) return false;
+  if (!application_.QueryUnload(endedBy_)) return false;
   ended_ = true;
   QCoreApplication::exit();
   return true;
+}
+
+void Program::EndForMachine() {
+  if (ended_) return;
+  endedBy_ = EndedBy::Machine;
+  session_.boxes.silent = true;
+  session_.windows.SuppressReward = true;
+  CloseModalWindows();
+  if (frame_ && frame_->isVisible()) {
+    frame_->close();
+  } else {  // still starting: there is nothing to save yet
+    ended_ = true;
+    QCoreApplication::exit();
+  }
 }
 
 }  // namespace trimlog

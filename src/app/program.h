@@ -6,6 +6,7 @@
 #include "core/session/room_hooks.h"
 #include "core/start/startup.h"
 #include "core/windows/frame/frmMDI.h"
+#include "platform/machine/end_signals.h"
 #include "platform/machine/single_instance.h"
 
 namespace trimlog {
@@ -24,15 +25,18 @@ class Program {
   ContentForms Forms();
   bool ShowFrame();
   bool Close();
+  void EndForMachine();
 
   Session &session_;
   const OperatingSystem &system_;
   SingleInstance instance_;
+  EndSignals endSignals_;
   Navigator navigator_;
   RoomHooks hooks_;
   FrameDoors doors_;
   Application application_;
   std::unique_ptr<frmMDI> frame_;
+  EndedBy endedBy_ = EndedBy::Person;
   bool ended_ = false;
 };
 

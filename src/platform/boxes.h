@@ -26,6 +26,9 @@ class Boxes {
  public:
   virtual ~Boxes() = default;
   QString programTitle = {};  ///< what an empty title means
+  /// Nobody is there to answer, because the machine ends the program: nothing is shown, and every box and dialog counts
+  /// as closed without a button.
+  bool silent = false;
   virtual BoxButton Show(const Box &box) = 0;
   /// A line of text, or nothing when cancelled.
   virtual std::optional<QString> AskText(const QString &title, const QString &prompt, const QString &initial) = 0;

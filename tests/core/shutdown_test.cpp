@@ -80,11 +80,33 @@ TEST_F(Stop, AfterARestoreNothingIsStoredAndNothingReset) {
   EXPECT_EQ(bench.calls, QStringList{QStringLiteral("tools closed")});
 }
 
-TEST_F(Stop, ARefusedEditKeepsTheProgramOpen) {
-  bench.editSaves = false;
-  EXPECT_FALSE(bench.application.QueryUnload());
-  EXPECT_EQ(bench.Setting(QStringLiteral("Left")), QStringLiteral("none"));
-  EXPECT_EQ(SampleWeights(), 0);
+TEST_F(Stop, WhatCannotBeSavedKeepsAPersonsProgramOpenAndNoOther) {
+  const struct {
+    const char *what;
+    EditOutcome edit;
+    EndedBy endedBy;
+    std::optional<BoxButton> answer;
+    bool ends;
+  } cases[] = {
+      {"refused", EditOutcome::Refused, EndedBy::Person, {}, false},
+      {"failed, kept", EditOutcome::Failed, EndedBy::Person, BoxButton::No, false},
+      {"refused, ended by the machine", EditOutcome::Refused, EndedBy::Machine, {}, true},
+      {"failed, ended by the machine", EditOutcome::Failed, EndedBy::Machine, {}, true},
+      {"failed, given up", EditOutcome::Failed, EndedBy::Person, BoxButton::Yes, true},
+  };
+  for (const auto &c : cases) {
+    bench.calls.clear();
+    bench.store->DeleteKey(settingsRoot);
+    QFile::remove(bench.directory.filePath(QStringLiteral("errorlog.txt")));
+    bench.edit = c.edit;
+    if (c.answer) bench.boxes.Expect(QStringLiteral("Close Without Saving?"), QStringLiteral("this weight"), *c.answer);
+    EXPECT_EQ(bench.application.QueryUnload(c.endedBy), c.ends) << c.what;
+    EXPECT_EQ(bench.Setting(QStringLiteral("Left")), c.ends ? QStringLiteral("100") : QStringLiteral("none")) << c.what;
+    EXPECT_EQ(bench.calls.contains(QStringLiteral("edit dropped")), c.ends) << c.what;
+    EXPECT_EQ(bench.Log().contains(QStringLiteral("ended from outside")), c.endedBy == EndedBy::Machine) << c.what;
+  }
+  for (const Box &box : bench.boxes.Shown()) EXPECT_EQ(box.defaultButton, BoxButton::No);
+  EXPECT_GT(SampleWeights(), 30);
 }
 
 TEST_F(Stop, TheHandheldComesLast) {

@@ -40,8 +40,9 @@ class StartBench {
     doors.OpenSetup = Remember(QStringLiteral("setup"));
     doors.SaveOpenEdit = [this] {
       calls.append(QStringLiteral("edit saved"));
-      return editSaves;
+      return edit;
     };
+    doors.DropOpenEdit = Remember(QStringLiteral("edit dropped"));
     doors.ReadWindowPlaces = [this] { session.windows.framePlace = {100, 200, 9600, 7200}; };
     hooks.LoadRewardSettings = Remember(QStringLiteral("rewards"));
     hooks.CheckDBVersionAndUpdate = [this] {
@@ -80,7 +81,7 @@ class StartBench {
 
   QStringList calls;
   bool frameLoads = true;
-  bool editSaves = true;
+  EditOutcome edit = EditOutcome::Saved;
   QString oldVersion = QStringLiteral("2.7");
 
  private:

@@ -32,9 +32,9 @@ class TestForm : public ContentWindow {
   ~TestForm() override { Note("gone"); }
 
   bool ValidateFields() override { return behaviour_.leaves; }
-  bool SaveOpenEdit() override {
+  EditOutcome SaveOpenEdit() override {
     Note("save");
-    return behaviour_.saves;
+    return behaviour_.saves ? EditOutcome::Saved : EditOutcome::Refused;
   }
   void Activated() override { Note("activated"); }
   void PrintContents() override { Note("print"); }

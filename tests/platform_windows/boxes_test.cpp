@@ -121,5 +121,19 @@ TEST(WindowStacking, KeepsTheWindowShown) {
   EXPECT_FALSE(window.isMinimized());
 }
 
+TEST(Boxes, WhenTheMachineEndsTheProgramAllAreClosedAndNoneComes) {
+  QtBoxes boxes;
+  QDialog window;
+  QTimer::singleShot(0, &window, [&] {
+    QTimer::singleShot(0, &window, [] { CloseModalWindows(); });
+    EXPECT_FALSE(boxes.Ask(QStringLiteral("Delete?"), QStringLiteral("Sure?"))) << "has no Cancel to be closed by";
+  });
+  EXPECT_EQ(window.exec(), QDialog::Rejected);
+  boxes.silent = true;
+  EXPECT_FALSE(boxes.Ask(QStringLiteral("Delete?"), QStringLiteral("Sure?")));
+  EXPECT_FALSE(boxes.AskText({}, {}, QStringLiteral("text")));
+  EXPECT_EQ(boxes.ChooseSaveFile({}, {}, QStringLiteral("file")), QString());
+}
+
 }  // namespace
 }  // namespace trimlog

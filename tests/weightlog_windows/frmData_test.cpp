@@ -140,7 +140,7 @@ TEST(FrmData, AnInvalidWeightHoldsEveryWayOut) {
        }},
       {"another window or the program's end",
        [&] {
-         EXPECT_FALSE(c.form->SaveOpenEdit());
+         EXPECT_EQ(c.form->SaveOpenEdit(), EditOutcome::Refused);
          QApplication::processEvents();
        }},
       {"another form", [&] {
@@ -159,7 +159,7 @@ TEST(FrmData, AnInvalidWeightHoldsEveryWayOut) {
   EXPECT_TRUE(opened.isEmpty());
   EXPECT_EQ(c.Weight(QDate(2026, 3, 1)), "");
   c.Type("190");
-  EXPECT_TRUE(c.form->SaveOpenEdit());
+  EXPECT_EQ(c.form->SaveOpenEdit(), EditOutcome::Saved);
   EXPECT_EQ(c.Weight(QDate(2026, 3, 1)), "190");
 }
 
@@ -235,8 +235,12 @@ TEST(FrmData, KeepsTheTypedTextWhenTheFileCannotBeWritten) {
   ASSERT_EQ(c.Focus(), c.Field(1));
   EXPECT_EQ(c.Field(1)->text(), QStringLiteral("195.5"));
   c.session.boxes.Expect(QStringLiteral("Error Saving Data"), {});
-  EXPECT_FALSE(c.form->SaveOpenEdit());
+  EXPECT_EQ(c.form->SaveOpenEdit(), EditOutcome::Failed);
   QApplication::processEvents();
+  c.form->DropOpenEdit();
+  EXPECT_EQ(c.Field(1)->text(), QString());
+  EXPECT_EQ(c.form->SaveOpenEdit(), EditOutcome::Saved) << "nothing is left to save";
+  c.Type("195.5");
   c.session->database.reset();
   c.session->database = Database::Open(c.session->DataFilePath());
   c.Press(Qt::Key_Tab);
@@ -350,7 +354,7 @@ TEST(FrmData, CongratulatesOnceTheWeightIsSaved) {
 
   c.Type("190");
   c.session->windows.SuppressReward = true;  // a navigation button was pressed
-  EXPECT_TRUE(c.form->SaveOpenEdit());
+  EXPECT_EQ(c.form->SaveOpenEdit(), EditOutcome::Saved);
   QTest::qWait(60);
   EXPECT_EQ(c.session.machine.played.size(), 1);
 }

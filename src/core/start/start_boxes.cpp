@@ -96,4 +96,13 @@ void ShowUpgradeNotices(Session &session, const QString &oldVersion, const std::
   if (*version < withMealTypes) TellOfMealTypesAndBackup(session);
 }
 
+bool AskToCloseWithoutSaving(Session &session) {
+  return session.boxes.Ask(
+      QStringLiteral("Close Without Saving?"),
+      QStringLiteral(
+          "The weight that you typed could not be saved.  Would you like to close the program without saving "
+          "this weight?"),
+      BoxButton::No);
+}
+
 }  // namespace trimlog

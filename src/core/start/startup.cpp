@@ -81,10 +81,23 @@ void Application::EnterSession(bool &frameShown) {
   ShowUpgradeNotices(session_, oldVersion, doors_.OpenSetup);
 }
 
-bool Application::QueryUnload() {
+bool Application::LeaveOpenEdit(EndedBy endedBy) {
+  const EditOutcome outcome = doors_.SaveOpenEdit ? doors_.SaveOpenEdit() : EditOutcome::Saved;
+  if (outcome == EditOutcome::Saved) return true;
+  if (endedBy == EndedBy::Machine) {
+    LogError(session_, module, QStringLiteral("QueryUnload"),
+             QStringLiteral("The program was ended from outside; what was being typed could not be saved."));
+  } else if (outcome == EditOutcome::Refused || !AskToCloseWithoutSaving(session_)) {
+    return false;
+  }
+  Run(doors_.DropOpenEdit);
+  return true;
+}
+
+bool Application::QueryUnload(EndedBy endedBy) {
   Run(hooks_.CloseToolsWindow);
   if (session_.ReloadInProgress) return true;
-  if (doors_.SaveOpenEdit && !doors_.SaveOpenEdit()) return false;
+  if (!LeaveOpenEdit(endedBy)) return false;
   GuardedQuietly([this] { StoreSession(); });
   ResetSamples();
   if (session_.edition.BizEd) ResetSamples();

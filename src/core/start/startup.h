@@ -5,6 +5,7 @@
 #include <functional>
 #include <memory>
 
+#include "core/frame/edit_outcome.h"
 #include "core/session/room_hooks.h"
 #include "core/session/session.h"
 #include "platform/machine/operating_system.h"
@@ -20,11 +21,14 @@ struct FrameDoors {
   std::function<bool()> ShowFrame;
   std::function<void()> MaximiseFrame;
   std::function<void()> LetEventsRun;
-  std::function<void()> OpenSetup;  ///< frmSetup, modal, owned by the frame
-  /// The current content window saves what is being typed; false when that was refused and the program must stay open.
-  std::function<bool()> SaveOpenEdit;
-  std::function<void()> ReadWindowPlaces;  ///< the frame's (and the Quick Journal's) geometry into the session
+  std::function<void()> OpenSetup;            ///< frmSetup, modal, owned by the frame
+  std::function<EditOutcome()> SaveOpenEdit;  ///< by the current content window
+  std::function<void()> DropOpenEdit;         ///< gives up what could not be saved
+  std::function<void()> ReadWindowPlaces;     ///< the frame's (and the Quick Journal's) geometry into the session
 };
+
+/// Who wants the program to end. The machine waits for no answer and takes no refusal.
+enum class EndedBy { Person, Machine };
 
 /// Start and stop of the program, each as one sequence.
 class Application {
@@ -38,12 +42,14 @@ class Application {
   /// it again. Ended: there is no window, the process is over.
   Outcome Main();
 
-  /// The frame is asked to close. False: it stays open (text being typed was refused). True: everything is stored.
-  bool QueryUnload();
+  /// The frame is asked to close. False: it stays open, because text being typed was refused, or could not be saved and
+  /// the person does not give it up. True: everything is stored.
+  bool QueryUnload(EndedBy endedBy = EndedBy::Person);
 
  private:
   bool OpenDataFile();
   void EnterSession(bool &frameShown);
+  bool LeaveOpenEdit(EndedBy endedBy);
   void StoreSession();
   void ResetSamples();
 

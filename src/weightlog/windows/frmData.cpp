@@ -177,11 +177,13 @@ void frmData::Connect() {
 
 bool frmData::ValidateFields() { return entry_->TryLeave(); }
 
-bool frmData::SaveOpenEdit() {
-  if (!entry_->TryLeave()) return false;
-  ShowReward();
-  return true;
+EditOutcome frmData::SaveOpenEdit() {
+  const EditOutcome outcome = entry_->Leave();
+  if (outcome == EditOutcome::Saved) ShowReward();
+  return outcome;
 }
+
+void frmData::DropOpenEdit() { entry_->Restore(); }
 
 void frmData::Activated() {
   const CalendarMonth &month = model_.Month();

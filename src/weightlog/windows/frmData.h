@@ -27,7 +27,8 @@ class frmData : public ContentWindow {
   ~frmData() override;
 
   bool ValidateFields() override;
-  bool SaveOpenEdit() override;
+  EditOutcome SaveOpenEdit() override;
+  void DropOpenEdit() override;
   void Activated() override;
   void PrintContents() override;
   void PrepareForPrinting(bool printing) override;

@@ -57,18 +57,25 @@ int WeightEntry::PendingCell() const {
   return entered_ != 0 && grid_.Field(entered_)->text() != model_.EntryText() ? entered_ : 0;
 }
 
-bool WeightEntry::TryLeave() {
-  if (refused_) return false;
-  if (PendingCell() == 0) return true;
+EditOutcome WeightEntry::Leave() {
+  if (refused_) return EditOutcome::Refused;
+  if (PendingCell() == 0) return EditOutcome::Saved;
   QLineEdit *field = grid_.Field(entered_);
   const QString text = field->text();
-  if (!model_.ValidateWeight(text) || !Save(text)) {
+  const bool valid = model_.ValidateWeight(text);
+  if (!valid || !Save(text)) {
     Refuse(field);
-    return false;
+    return valid ? EditOutcome::Failed : EditOutcome::Refused;
   }
   field->setText(model_.EntryText());
   Q_EMIT Saved();
-  return true;
+  return EditOutcome::Saved;
+}
+
+void WeightEntry::Restore() {
+  if (PendingCell() == 0) return;
+  grid_.Field(entered_)->setText(model_.EntryText());
+  grid_.Field(entered_)->selectAll();
 }
 
 bool WeightEntry::Save(const QString &text) {
@@ -158,8 +165,7 @@ bool WeightEntry::OnKey(int i, const QKeyEvent &event) {
       return true;
     case Qt::Key_Escape:
       if (PendingCell() == 0) return false;
-      field->setText(model_.EntryText());
-      field->selectAll();
+      Restore();
       return true;
     case Qt::Key_PageUp:
     case Qt::Key_PageDown:

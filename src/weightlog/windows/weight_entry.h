@@ -2,6 +2,8 @@
 
 #include <QObject>
 
+#include "core/frame/edit_outcome.h"
+
 class QFocusEvent;
 class QKeyEvent;
 class QLineEdit;
@@ -20,9 +22,12 @@ class WeightEntry : public QObject {
   WeightEntry(Session &session, CalendarModel &model, MonthGrid &grid);
   ~WeightEntry() override;
 
-  /// Checks and saves what is being typed, as leaving the cell does. False when it was refused or could not be saved:
-  /// the box was shown, the text stays selected in its field and keeps the focus.
-  bool TryLeave();
+  /// Checks and saves what is being typed, as leaving the cell does. Unless it is saved the box was shown, and the text
+  /// stays selected in its field and keeps the focus.
+  EditOutcome Leave();
+  bool TryLeave() { return Leave() == EditOutcome::Saved; }
+  /// Puts the text back that stood in the cell when it was entered.
+  void Restore();
   /// Puts the focus into a cell's field and enters it, also when it has the focus already.
   void Enter(int i);
   /// True while the focus is in one of the fields.

@@ -2,6 +2,8 @@
 
 #include <QWidget>
 
+#include "core/frame/edit_outcome.h"
+
 namespace trimlog {
 
 /// One of the windows that the frame shows in its content area. The frame makes it afresh for each visit.
@@ -12,9 +14,10 @@ class ContentWindow : public QWidget {
   /// May it be left? A refused check has shown its box.
   virtual bool ValidateFields() { return true; }
   /// Checks and saves what is being typed, as leaving the field would. Called before the program ends, the profile
-  /// changes or another window takes this one's place. False when the check refused it or the save failed: the box was
-  /// shown, the text still stands in its field, and whoever asked stays where it is.
-  virtual bool SaveOpenEdit() { return true; }
+  /// changes or another window takes this one's place. Unless it is saved, whoever asked stays where it is.
+  virtual EditOutcome SaveOpenEdit() { return EditOutcome::Saved; }
+  /// Gives up what is being typed, as Esc would.
+  virtual void DropOpenEdit() {}
   /// The window was moved into place and is the current one: set the focus.
   virtual void Activated() {}
   virtual void PrintContents() {}  ///< File, Print

@@ -138,7 +138,11 @@ void frmMDI::ShowQuickJournal(bool visible) {
 
 QWidget *frmMDI::ActiveControl() const { return currentForm_ ? currentForm_->focusWidget() : nullptr; }
 
-bool frmMDI::SaveOpenEdit() { return !currentForm_ || currentForm_->SaveOpenEdit(); }
+EditOutcome frmMDI::LeaveOpenEdit() { return currentForm_ ? currentForm_->SaveOpenEdit() : EditOutcome::Saved; }
+
+void frmMDI::DropOpenEdit() {
+  if (currentForm_) currentForm_->DropOpenEdit();
+}
 
 void frmMDI::RefreshMain() {
   statistics_->Refresh();

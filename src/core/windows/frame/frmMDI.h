@@ -53,8 +53,10 @@ class frmMDI : public QMainWindow {
   const QString &CurrentFormName() const { return currentFormName_; }
   /// The control of the content window that has, or last had, the focus.
   QWidget *ActiveControl() const;
-  /// Saves what is being typed; false when that was refused and stays to be put right.
-  bool SaveOpenEdit();
+  /// Saves what is being typed; false when that did not work and it stays to be put right.
+  bool SaveOpenEdit() { return LeaveOpenEdit() == EditOutcome::Saved; }
+  EditOutcome LeaveOpenEdit();
+  void DropOpenEdit();
 
   /// Switches the whole session to a profile, after its password.
   void LoadData(const QString &personID);

@@ -46,11 +46,17 @@ QMessageBox::StandardButton StandardButtonOf(BoxButton button) {
   return QMessageBox::No;
 }
 
+/// The answer of a box that is closed without a button: what changes nothing.
+BoxButton ClosedBox(const Box &box) {
+  return box.buttons.contains(BoxButton::Cancel) ? BoxButton::Cancel : box.buttons.last();
+}
+
 }  // namespace
 
 QString QtBoxes::TitleOf(const QString &title) const { return title.isEmpty() ? programTitle : title; }
 
 BoxButton QtBoxes::Show(const Box &box) {
+  if (silent) return ClosedBox(box);
   QMessageBox message(Owner());
   message.setIcon(IconOf(box.icon));
   message.setWindowTitle(TitleOf(box.title));
@@ -69,11 +75,11 @@ BoxButton QtBoxes::Show(const Box &box) {
   for (const BoxButton button : box.buttons) {
     if (StandardButtonOf(button) == pressed) return button;
   }
-  // Closed without a button: what changes nothing.
-  return box.buttons.contains(BoxButton::Cancel) ? BoxButton::Cancel : box.buttons.last();
+  return ClosedBox(box);
 }
 
 std::optional<QString> QtBoxes::AskText(const QString &title, const QString &prompt, const QString &initial) {
+  if (silent) return std::nullopt;
   QInputDialog dialog(Owner());
   dialog.setWindowTitle(TitleOf(title));
   dialog.setLabelText(prompt);
@@ -84,14 +90,17 @@ std::optional<QString> QtBoxes::AskText(const QString &title, const QString &pro
 }
 
 QString QtBoxes::ChooseOpenFile(const QString &title, const QStringList &filters, const QString &folder) {
+  if (silent) return {};
   return QFileDialog::getOpenFileName(Owner(), TitleOf(title), folder, filters.join(QLatin1String(";;")));
 }
 
 QString QtBoxes::ChooseSaveFile(const QString &title, const QStringList &filters, const QString &proposed) {
+  if (silent) return {};
   return QFileDialog::getSaveFileName(Owner(), TitleOf(title), proposed, filters.join(QLatin1String(";;")));
 }
 
 QString QtBoxes::ChooseFolder(const QString &title, const QString &folder) {
+  if (silent) return {};
   return QFileDialog::getExistingDirectory(Owner(), TitleOf(title), folder);
 }
 

@@ -11,4 +11,8 @@ void MakeNormal(QWidget *window);
 /// Brings a window to the front, out of its minimised state if it is in one.
 void RaiseWindow(QWidget *window);
 
+/// Closes menus and modal windows from the top down, each as Esc would: it may save what is typed in it. One that
+/// refuses is hidden.
+void CloseModalWindows();
+
 }  // namespace trimlog
