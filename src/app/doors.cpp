@@ -22,8 +22,7 @@ void Program::FillHooks() {
   hooks_.UpdateStats = [this] { UpdateStats(session_); };
   // A goal changed in the options changes what is left and when it is reached.
   QObject::connect(&session_.changes, &DataChanges::Changed, &instance_, [this](const DataChange &change) {
-    if (change.table == QStringLiteral("people") && change.personID == session_.profile.CurrentPersonID)
-      UpdateStats(session_);
+    if (change.table == Table::People && change.Concerns(session_.profile.CurrentPersonID)) UpdateStats(session_);
   });
   hooks_.CloseToolsWindow = [] { CloseToolsWindow(); };
   const QString tutorial = session_.programDirectory + QStringLiteral("/tutorsel.exe");

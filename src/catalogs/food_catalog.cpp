@@ -2,6 +2,7 @@
 
 #include "catalogs/food_lists.h"
 #include "core/data/data_access.h"
+#include "core/session/change.h"
 #include "platform/store/recordset.h"
 #include "platform/text/text_format.h"
 
@@ -44,7 +45,7 @@ FoodRecord ReadFood(Session &session, int mealID) {
 }
 
 int AddFood(Session &session, const FoodRecord &food) {
-  Transaction transaction(session.Data());
+  Change change(session);
   const int mealID = GetNextID(session.Data(), mealsList).toInt();
   QString columns =
       QStringLiteral("INSERT INTO meals_list ( MealID, MealDesc, Amount, MealGroupID, GIValue, RecordTypeID");
@@ -57,13 +58,13 @@ int AddFood(Session &session, const FoodRecord &food) {
     params.append(StoredValue(food, session.nutrients, id));
   }
   session.Data().Execute(columns + values + QStringLiteral(";"), params);
-  transaction.Commit();
-  session.changes.Announce({mealsList, {}, {}});
+  change.Announce({.table = Table::MealsList, .keys = {mealID}});
+  change.Commit();
   return mealID;
 }
 
 void SaveFood(Session &session, const FoodRecord &food) {
-  Transaction transaction(session.Data());
+  Change change(session);
   QString sql = QStringLiteral(
       "UPDATE meals_list SET meals_list.MealDesc = ?, meals_list.MealGroupID = ?, meals_list.IsModified = True");
   Params params = {WithoutDoubleQuotes(food.MealDesc), food.MealGroupID};
@@ -73,12 +74,12 @@ void SaveFood(Session &session, const FoodRecord &food) {
   }
   params.append(food.MealID);
   session.Data().Execute(sql + QStringLiteral(" WHERE (meals_list.MealID=?);"), params);
-  transaction.Commit();
-  session.changes.Announce({mealsList, {}, {}});
+  change.Announce({.table = Table::MealsList, .keys = {food.MealID}});
+  change.Commit();
 }
 
 int CopyFood(Session &session, int mealID) {
-  Transaction transaction(session.Data());
+  Change change(session);
   RefuseDoubleQuotes(session, mealID);
   const int newID = GetNextID(session.Data(), mealsList).toInt();
   QStringList fields;
@@ -89,13 +90,13 @@ int CopyFood(Session &session, int mealID) {
                              nutrientColumns +
                              QStringLiteral(", 2 AS RecordTypeID1 FROM meals_list WHERE (meals_list.MealID=?); "),
                          {newID, mealID});
-  transaction.Commit();
-  session.changes.Announce({mealsList, {}, {}});
+  change.Announce({.table = Table::MealsList, .keys = {newID}});
+  change.Commit();
   return newID;
 }
 
 std::vector<qint64> PasteFoods(Session &session, const QList<QVariantMap> &rows) {
-  Transaction transaction(session.Data());
+  Change change(session);
   std::vector<qint64> keys;
   for (QVariantMap row : rows) {
     row[QStringLiteral("MealID")] = GetNextID(session.Data(), mealsList).toInt();
@@ -104,8 +105,8 @@ std::vector<qint64> PasteFoods(Session &session, const QList<QVariantMap> &rows)
     session.Data().Execute(insert.sql, insert.params);
     keys.push_back(row[QStringLiteral("MealID")].toLongLong());
   }
-  transaction.Commit();
-  session.changes.Announce({mealsList, {}, {}});
+  change.Announce({.table = Table::MealsList, .keys = keys});
+  change.Commit();
   return keys;
 }
 

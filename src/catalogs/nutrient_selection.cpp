@@ -1,6 +1,7 @@
 #include "catalogs/nutrient_selection.h"
 
 #include "core/data/data_access.h"
+#include "core/session/change.h"
 #include "platform/store/recordset.h"
 
 namespace trimlog {
@@ -23,7 +24,7 @@ NutrientSelection ReadNutrientSelection(Session &session) {
 }
 
 void SaveNutrientSelection(Session &session, const NutrientSelection &selection) {
-  Transaction transaction(session.Data());
+  Change change(session);
   QStringList assignments;
   Params params;
   for (int position = 1; position <= shownNutrients; ++position) {
@@ -36,9 +37,9 @@ void SaveNutrientSelection(Session &session, const NutrientSelection &selection)
   session.Data().Execute(QStringLiteral("UPDATE selected_nutrients SET ") + assignments.join(QStringLiteral(", ")) +
                              QStringLiteral(" WHERE ((selected_nutrients.PersonID) = 1);"),
                          params);
-  transaction.Commit();
-  FillSelectedNutrientsArray(session.nutrients, session.Data());
-  session.changes.Announce({QStringLiteral("selected_nutrients"), {}, {}});
+  change.Afterwards([&session] { FillSelectedNutrientsArray(session.nutrients, session.Data()); });
+  change.Announce({.table = Table::SelectedNutrients, .keys = {1}});
+  change.Commit();
 }
 
 bool HandheldHoldsFoods(Session &session) {

@@ -3,6 +3,7 @@
 #include "catalogs/nutrient_selection.h"
 #include "companions/wizard_nutrients.h"
 #include "core/data/data_access.h"
+#include "core/session/change.h"
 #include "platform/store/recordset.h"
 #include "platform/text/text_format.h"
 
@@ -96,7 +97,7 @@ NutrientSelection SelectionOf(const QList<TickedNutrient> &ticked) {
 }  // namespace
 
 QString FinishWizard(Session &session, const WizardAnswers &answers, bool addingProfile) {
-  Transaction transaction(session.Data());
+  Change change(session);
   const QString personID = NewPersonID(session, addingProfile);
   const QString targetID = GetNextID(session.Data(), QStringLiteral("nutrition_targets"));
   InsertPerson(session, answers, personID, targetID);
@@ -104,14 +105,18 @@ QString FinishWizard(Session &session, const WizardAnswers &answers, bool adding
   if (!addingProfile) {
     const QList<TickedNutrient> ticked = ReadTicked(session);
     InsertTargets(session, targetID, ticked);
+    change.Announce({.table = Table::NutritionTargets, .keys = {targetID.toInt()}});
     SaveNutrientSelection(session, SelectionOf(ticked));
   }
-  transaction.Commit();
-  session.changes.AnnounceProfiles();
   if (!addingProfile && answers.diet == DietPlans().last().key) {
-    session.settings.NutrientID = answers.nutrientID;
-    SaveSetting(session.settings, session.store, QStringLiteral("NutrientID"));
+    change.Afterwards([&session, nutrientID = answers.nutrientID] {
+      session.settings.NutrientID = nutrientID;
+      SaveSetting(session.settings, session.store, QStringLiteral("NutrientID"));
+    });
   }
+  change.Announce({.table = Table::People, .keys = {personID.toInt()}});
+  change.Announce({.table = Table::WeightLoss, .personID = personID, .date = answers.startingDate});
+  change.Commit();
   return personID;
 }
 

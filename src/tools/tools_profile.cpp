@@ -1,5 +1,6 @@
 #include "tools/tools_profile.h"
 
+#include "core/session/change.h"
 #include "platform/store/recordset.h"
 #include "platform/text/text_format.h"
 
@@ -63,13 +64,13 @@ void SaveGoalMethod(Session &session, GoalMethod method, const QDate &date, cons
   const ToolsProfile stored = ReadToolsProfile(session);
   if (stored.method == method && stored.GoalMethodDate == date && stored.GoalMethodLbsWeek == rate) return;
   const std::optional<double> number = ParseNumber(rate, session.locale);
-  Transaction transaction(session.Data());
+  Change change(session);
   session.Data().Execute(
       QStringLiteral("UPDATE people SET GoalMethodID=?, GoalMethodDate=?, GoalMethodLbsWeek=? WHERE PersonID=?;"),
       {static_cast<int>(method), date.isValid() ? QVariant(date) : QVariant(), number ? QVariant(*number) : QVariant(),
        session.profile.CurrentPersonID.toInt()});
-  transaction.Commit();
-  session.changes.Announce({QStringLiteral("people"), session.profile.CurrentPersonID, {}});
+  change.Announce({.table = Table::People, .keys = {session.profile.CurrentPersonID.toInt()}});
+  change.Commit();
 }
 
 QString GenderText(int GenderID) { return GenderID == 1 ? QStringLiteral("Male") : QStringLiteral("Female"); }

@@ -1,5 +1,6 @@
 #include "weightlog/calendar_model.h"
 
+#include "core/session/change.h"
 #include "core/session/failure_guard.h"
 #include "core/session/session.h"
 #include "platform/text/text_format.h"
@@ -203,54 +204,52 @@ bool CalendarModel::SaveWeight(const QString &text) {
     cell.data = text;
     return false;
   }
-  UpdateStats(session_);
   reward_ = EvaluateReward(session_, month_, month_.currentIndex);
   entryText_ = cell.data;
   // The basal rate goes by the latest weight, so the net calories of the days behind may follow.
   if (session_.settings.NutrientID == nutrient_id::netCalories && session_.settings.NetCaloriesBMR)
     FillCalendarNutrients();
-  session_.changes.Announce({QStringLiteral("weight_loss"), session_.profile.CurrentPersonID, cell.date});
   return true;
 }
 
 bool CalendarModel::WriteWeight(const std::optional<double> &weight) {
-  bool linked = false;
-  const bool ran = Guarded(session_, SaveFailure(), [&] {
-    Transaction transaction(session_.Data());
-    linked = UpdateLoss(weight);
-    if (!linked) return;  // has shown its own box; what it wrote is rolled back
+  FailureExit failure = SaveFailure();
+  return Guarded(session_, failure, [&] {
+    Change change(session_, this);
+    failure = LossFailure();
+    UpdateLoss(weight);
+    failure = SaveFailure();
     const CalendarCell &cell = month_.Cell(month_.currentIndex);
     WeightLog log(session_);
     log.Delete(cell.date);
     if (weight) {
       log.Insert({cell.date, *weight, ValueOrZero(cell.loss, session_.locale) * session_.settings.LossFactor});
     }
-    transaction.Commit();
+    change.Afterwards([this] { UpdateStats(session_); });
+    change.Announce({.table = Table::WeightLoss, .personID = session_.profile.CurrentPersonID, .date = cell.date});
+    change.Commit();
   });
-  return ran && linked;
 }
 
-bool CalendarModel::UpdateLoss(const std::optional<double> &weight) {
-  return Guarded(session_, LossFailure(), [&] {
-    WeightLog log(session_);
-    CalendarCell &cell = month_.Cell(month_.currentIndex);
-    const std::optional<WeightRow> previous = log.Before(cell.date);
-    if (!weight) {
-      cell.loss.clear();
-    } else if (!previous) {
-      cell.loss = QStringLiteral("0");
-    } else {
-      const double loss = LossBetween(previous->weight, *weight) * session_.settings.LossFactor;
-      cell.loss = Format(loss, QStringLiteral("0.0"), session_.locale);
-    }
-    if (const std::optional<WeightRow> next = log.After(cell.date)) {
-      const double loss = NextLoss(weight, previous, *next);
-      log.StoreLoss(next->date, loss);
-      ShowNextLoss(loss);
-    }
-    UpdateWeeklyTotals(month_, session_.settings, session_.locale);
-    ColorLossCells(month_, session_.settings, session_.locale);
-  });
+void CalendarModel::UpdateLoss(const std::optional<double> &weight) {
+  WeightLog log(session_);
+  CalendarCell &cell = month_.Cell(month_.currentIndex);
+  const std::optional<WeightRow> previous = log.Before(cell.date);
+  if (!weight) {
+    cell.loss.clear();
+  } else if (!previous) {
+    cell.loss = QStringLiteral("0");
+  } else {
+    const double loss = LossBetween(previous->weight, *weight) * session_.settings.LossFactor;
+    cell.loss = Format(loss, QStringLiteral("0.0"), session_.locale);
+  }
+  if (const std::optional<WeightRow> next = log.After(cell.date)) {
+    const double loss = NextLoss(weight, previous, *next);
+    log.StoreLoss(next->date, loss);
+    ShowNextLoss(loss);
+  }
+  UpdateWeeklyTotals(month_, session_.settings, session_.locale);
+  ColorLossCells(month_, session_.settings, session_.locale);
 }
 
 void CalendarModel::ShowNextLoss(double loss) {

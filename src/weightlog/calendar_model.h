@@ -62,7 +62,7 @@ class CalendarModel {
  private:
   void GotoMonth(int months);
   void ShowMonthOf(const QDate &date);
-  bool UpdateLoss(const std::optional<double> &weight);
+  void UpdateLoss(const std::optional<double> &weight);
   void ShowNextLoss(double loss);
   bool WriteWeight(const std::optional<double> &weight);
 

@@ -80,11 +80,8 @@ bool SaveRewardForm(Session &session, RewardForm &form) {
   const FailureExit failure{QStringLiteral("frmSetup"), QStringLiteral("cmdOK_Click"),
                             QStringLiteral("Error Saving Data"),
                             QStringLiteral("An error occurred while saving your reward settings.")};
-  return Guarded(session, failure, [&session, &form] {
-    Transaction transaction(session.Data());
-    SaveRewardSettings(session, ToSettings(form, session.locale));
-    transaction.Commit();
-  });
+  return Guarded(session, failure,
+                 [&session, &form] { SaveRewardSettings(session, ToSettings(form, session.locale)); });
 }
 
 QString RewardTestTitle(RewardType type) {

@@ -1,5 +1,6 @@
 #include "weightlog/rewards.h"
 
+#include "core/session/change.h"
 #include "core/session/failure_guard.h"
 #include "core/session/session.h"
 #include "platform/store/recordset.h"
@@ -122,6 +123,7 @@ void LoadRewardSettings(Session &session) {
 void SaveRewardSettings(Session &session, const RewardSettings &rewards) {
   RewardSettings kept = rewards;
   kept.message = WithoutDoubleQuotes(rewards.message);
+  Change change(session);
   if (HasRow(session, QStringLiteral("rewards"))) {
     session.Data().Execute(
         QStringLiteral("UPDATE rewards SET rewards.RewardType = ?, rewards.RewardWeight = ?, "
@@ -130,7 +132,11 @@ void SaveRewardSettings(Session &session, const RewardSettings &rewards) {
   } else if (HasRow(session, QStringLiteral("people"))) {
     InsertRewards(session, kept);
   }
-  session.profile.rewards = kept;
+  change.Announce({.table = Table::Rewards,
+                   .keys = {session.profile.CurrentPersonID.toInt()},
+                   .personID = session.profile.CurrentPersonID});
+  change.Afterwards([&session, kept] { session.profile.rewards = kept; });
+  change.Commit();
 }
 
 QString DefaultRewardAmount(RewardType type, int UomID) {

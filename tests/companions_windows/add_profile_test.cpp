@@ -1,4 +1,5 @@
 #include "core/windows/profiles/add_profile_page.h"
+#include "support/heard_changes.h"
 #include "wizard_fixture.h"
 
 namespace trimlog {
@@ -16,8 +17,7 @@ class AddProfile : public WizardTest {
 };
 
 TEST_F(AddProfile, StoresWhatWasTypedByKeys) {
-  int announced = 0;
-  QObject::connect(&session->changes, &DataChanges::ProfilesChanged, qApp, [&announced] { ++announced; });
+  HeardChanges heard(*session);
   EXPECT_TRUE(Add([&](QWidget &dialog, Keyboard &keys) {
     EXPECT_EQ(dialog.windowTitle(), "Add a New User or Profile");
     EXPECT_EQ(keys.FocusName(), "txtPersonName");
@@ -27,7 +27,7 @@ TEST_F(AddProfile, StoresWhatWasTypedByKeys) {
   EXPECT_EQ(Person("PersonName", 2) + Person("Goal", 2) + Person("HeightFeet", 2), "Ann ''A''150.55");
   EXPECT_EQ(Person("BirthDate", 2) + Person("GenderID", 2), "2") << "nothing told of the birth date";
   EXPECT_EQ(session->profile.CurrentPersonID, "1") << "the profile in use stays";
-  EXPECT_EQ(announced, 1);
+  EXPECT_EQ(heard.Take(), "people 2");
 }
 
 TEST_F(AddProfile, SaysWhatIsWrongAndGoesThere) {

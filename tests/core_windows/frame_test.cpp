@@ -163,7 +163,7 @@ TEST_F(Frame, PanelShowsFiguresUnitsAndTheirChanges) {
   session->changes.AnnounceSettings();
   EXPECT_EQ(Find<QLabel>("lblLbsLost")->text(), QStringLiteral("Kg Lost"));
   session.Data().Execute(QStringLiteral("UPDATE people SET people.Goal = \"145.5\" WHERE (people.PersonID=1);"));
-  session->changes.AnnounceProfiles();
+  session.Announce({.table = Table::People, .keys = {1}});
   EXPECT_EQ(Find<QLineEdit>("txtGoal")->text(), QStringLiteral("145.5"));
 }
 

@@ -13,6 +13,7 @@
 #include "core/windows/controls/colour_combo.h"
 #include "core/windows/setup/frmSetup.h"
 #include "platform/windows/grid/bound_grid.h"
+#include "support/heard_changes.h"
 #include "support/test_session.h"
 #include "support/windows/controls.h"
 
@@ -231,8 +232,7 @@ TEST_F(SetupWindow, AnotherUnitSystemRenamesTheProfileColumnsAtOnce) {
 
 TEST_F(SetupWindow, AProfileIsChangedInPlaceAndCancelKeepsIt) {
   session.AddProfile(2, QStringLiteral("Ann"));
-  int announced = 0;
-  QObject::connect(&session->changes, &DataChanges::ProfilesChanged, [&announced] { ++announced; });
+  HeardChanges heard(*session);
   Open(SetupTab::Profiles);
   auto &grid = The<BoundGrid>(QStringLiteral("grdPeople"));
   EXPECT_EQ(grid.CurrentKey(), 1) << "the loaded profile is the current row";
@@ -243,7 +243,7 @@ TEST_F(SetupWindow, AProfileIsChangedInPlaceAndCancelKeepsIt) {
   EXPECT_EQ(Person("PersonName", 1), "O'Brien \"Bob\"");
   EXPECT_EQ(Person("Goal", 1), "142.5");
   EXPECT_EQ(Person("PersonName", 2), "Ann");
-  EXPECT_EQ(announced, 1);
+  EXPECT_EQ(heard.Take(), "people 1");
 }
 
 TEST_F(SetupWindow, TheGenderIsChosenFromItsList) {
@@ -353,6 +353,7 @@ TEST_F(SetupWindow, NewProfileIsThereOnlyWithItsDoor) {
   EXPECT_FALSE(The<QPushButton>(QStringLiteral("cmdNewProfile")).isEnabled());
   navigator.AddProfile = [this](QWidget *) {
     session.AddProfile(8, QStringLiteral("Zoe"));
+    session.Announce({.table = Table::People, .keys = {8}});
     return true;
   };
   Open(SetupTab::Profiles);

@@ -189,6 +189,43 @@ TEST_F(StoreFileTest, TransactionsNestAndTheOutermostDecides) {
   EXPECT_EQ(names(), QStringLiteral("C / Bob"));
 }
 
+TEST_F(StoreFileTest, WhatWaitsForTheCommitComesAfterTheOutermostOneOrNever) {
+  QString heard;
+  const auto say = [&](const char *word) {
+    data->AfterCommit([this, &heard, word] {
+      heard += QLatin1String(word) + (data->InTransaction() ? QStringLiteral("(open) ") : QStringLiteral(" "));
+    });
+  };
+  say("alone");
+  EXPECT_EQ(std::exchange(heard, {}), QStringLiteral("alone "));
+  {
+    Transaction outer(*data);
+    say("first");
+    {
+      Transaction inner(*data);
+      say("inner");
+      inner.Commit();
+    }
+    {
+      Transaction dropped(*data);
+      say("dropped");
+    }
+    say("last");
+    EXPECT_EQ(heard, QString());
+    outer.Commit();
+    EXPECT_EQ(std::exchange(heard, {}), QStringLiteral("first inner last "));
+  }
+  {
+    Transaction takenBack(*data);
+    say("never");
+  }
+  Transaction next(*data);
+  data->AfterCommit([] { throw Error(error_number::other, QStringLiteral("late")); });
+  say("still");
+  EXPECT_THROW(next.Commit(), Error);
+  EXPECT_EQ(heard, QStringLiteral("still ")) << "one failure keeps nobody from what follows";
+}
+
 TEST_F(StoreFileTest, AFileThatBecomesUnwritableLosesNothingAndWorksAgainLater) {
   data.reset();
   data = Database::Open(path);

@@ -19,7 +19,12 @@ void QueuedBoxes::ExpectInput(const QString &title, const std::optional<QString>
   queue_.push_back({true, title, {}, BoxButton::Ok, answer});
 }
 
+void QueuedBoxes::CheckPlace(const QString &title) const {
+  EXPECT_FALSE(changeOpen && changeOpen()) << "A box inside a change of the data file: " << title.toStdString();
+}
+
 BoxButton QueuedBoxes::Show(const Box &box) {
+  CheckPlace(box.title);
   shown_.push_back(box);
   if (queue_.empty() || queue_.front().input) {
     ADD_FAILURE() << "Unexpected box: " << box.title.toStdString() << ": " << box.text.toStdString();
@@ -35,6 +40,7 @@ BoxButton QueuedBoxes::Show(const Box &box) {
 }
 
 std::optional<QString> QueuedBoxes::TakeInput(const QString &title) {
+  CheckPlace(title);
   if (queue_.empty() || !queue_.front().input) {
     ADD_FAILURE() << "Unexpected input: " << title.toStdString();
     return std::nullopt;

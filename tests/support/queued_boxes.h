@@ -8,7 +8,8 @@
 namespace trimlog {
 
 /// Boxes answered from a queue: each expected box carries the title and a piece of the text that it must have. An
-/// unexpected box, a wrong text, or an answer left over when the test ends fails the test.
+/// unexpected box, a wrong text, a box while a change of the data file is still open, or an answer left over when the
+/// test ends fails the test.
 class QueuedBoxes final : public Boxes {
  public:
   ~QueuedBoxes() override;
@@ -20,6 +21,9 @@ class QueuedBoxes final : public Boxes {
 
   /// Every message box shown so far, for tests that compare word for word.
   const std::vector<Box> &Shown() const { return shown_; }
+
+  /// Tells whether a change is open; a session's boxes are given it when the session is made.
+  std::function<bool()> changeOpen;
 
   BoxButton Show(const Box &box) override;
   std::optional<QString> AskText(const QString &title, const QString &prompt, const QString &initial) override;
@@ -36,6 +40,7 @@ class QueuedBoxes final : public Boxes {
     std::optional<QString> typed;
   };
   std::optional<QString> TakeInput(const QString &title);
+  void CheckPlace(const QString &title) const;
 
   std::deque<Expected> queue_;
   std::vector<Box> shown_;

@@ -5,6 +5,7 @@
 #include <map>
 
 #include "core/data/data_access.h"
+#include "core/session/change.h"
 #include "support/paths.h"
 
 namespace trimlog {
@@ -43,6 +44,7 @@ std::unique_ptr<SettingsStore> MemorySettings() { return std::make_unique<Memory
 TestSession::TestSession(const QLocale &locale) {
   EXPECT_TRUE(QFile::copy(ShippedDir() + QStringLiteral("/tlg.dat"), directory.filePath(QStringLiteral("tlg.dat"))));
   session = std::make_unique<Session>(SessionPlaces{directory.path(), *store, clock, machine, boxes, locale});
+  boxes.changeOpen = [this] { return session->database && session->database->InTransaction(); };
   session->database = Database::Open(session->DataFilePath());
   LoadControlValues(session->settings, *store, true);
   FillNutrientDefinitions(session->nutrients, Data());
@@ -58,8 +60,20 @@ void TestSession::AddProfile(int personID, const QString &name, const QString &g
                  {personID, name, goal});
 }
 
+void TestSession::Announce(const DataChange &told) {
+  Change change(*session);
+  change.Announce(told);
+  change.Commit();
+}
+
 QString TestSession::ValueOf(const QString &field, const QString &table, const QString &where) {
   return GetDataValue(Data(), field, table, where);
+}
+
+QStringList TestSession::LogLines() const {
+  QFile file(directory.filePath(QStringLiteral("errorlog.txt")));
+  if (!file.open(QIODevice::ReadOnly)) return {};
+  return QString::fromUtf8(file.readAll()).split(QLatin1Char('\n'), Qt::SkipEmptyParts);
 }
 
 }  // namespace trimlog

@@ -54,8 +54,13 @@ class TestSession {
   Database &Data() { return session->Data(); }
   /// Adds a profile by key and name with a goal, e.g. AddProfile(1, "Ann", "150").
   void AddProfile(int personID, const QString &name, const QString &goal = QStringLiteral("150"));
+  /// Tells what a writer elsewhere would have told.
+  void Announce(const DataChange &change);
   /// One value of the data file as text.
   QString ValueOf(const QString &field, const QString &table, const QString &where = {});
+
+  /// The error log, line by line.
+  QStringList LogLines() const;
 
   QTemporaryDir directory;
   FixedClock clock{QDateTime(QDate(2026, 3, 1), QTime(12, 0))};

@@ -376,7 +376,7 @@ TEST_F(ToolsWindow, FollowsTheDataWhileItIsOpen) {
   session.Data().Execute(QStringLiteral("DELETE weight_loss.* FROM weight_loss WHERE ThisDate=#1/5/2026#;"));
   Open();
   session.Data().Execute(QStringLiteral("DELETE weight_loss.* FROM weight_loss WHERE PersonID=1;"));
-  session->changes.Announce({QStringLiteral("weight_loss"), QStringLiteral("1"), QDate(2026, 2, 2)});
+  session.Announce({.table = Table::WeightLoss, .personID = QStringLiteral("1"), .date = QDate(2026, 2, 2)});
   EXPECT_EQ(TextOf("optCurrentWeight").toStdString(), "Use My Current Weight");
   EXPECT_EQ(TextOf("txtGoalConstraint").toStdString(), prompt);
   Click("cmdCalculate");
@@ -387,7 +387,7 @@ TEST_F(ToolsWindow, FollowsTheDataWhileItIsOpen) {
                        QStringLiteral("Please record a weight in the Data Calendar first."));
   Click("cmdBodyFatCalculate");
   Weigh(QDate(2026, 2, 3), 165);
-  session->changes.Announce({QStringLiteral("weight_loss"), QStringLiteral("1"), QDate(2026, 2, 3)});
+  session.Announce({.table = Table::WeightLoss, .personID = QStringLiteral("1"), .date = QDate(2026, 2, 3)});
   EXPECT_EQ(TextOf("optBodyFatCurrentWeight").toStdString(), "Use My Current Weight of 165 Lbs");
 }
 

@@ -2,6 +2,7 @@
 #include <gtest/gtest.h>
 
 #include "core/data/data_access.h"
+#include "support/heard_changes.h"
 #include "typed_calendar.h"
 #include "weightlog/weight_log.h"
 
@@ -205,18 +206,14 @@ TEST(TypedWeight, AnnouncesItselfOnceAndCommitsOnce) {
   TypedCalendar calendar;
   calendar.session->settings.NutrientID = 1;
   calendar.Type("2026-01-02", "200");
-  std::vector<DataChange> changes;
-  QObject::connect(&calendar.session->changes, &DataChanges::Changed,
-                   [&](const DataChange &change) { changes.push_back(change); });
+  HeardChanges heard(*calendar.session);
   calendar.model->GotoCalendarDate(Day("2026-01-05"));
   for (const char *text : {"195", "196", ""}) {
-    changes.clear();
+    heard.Take();
     const qint64 before = calendar.session.Data().Counts().commits;
     calendar.Type("2026-01-05", text);
     EXPECT_EQ(calendar.session.Data().Counts().commits - before, 1) << text;
-    ASSERT_EQ(changes.size(), 1U);
-    EXPECT_EQ(changes[0].table, QStringLiteral("weight_loss"));
-    EXPECT_EQ(changes[0].date, Day("2026-01-05"));
+    EXPECT_EQ(heard.Take(), "statistics; weight_loss person 1 2026-01-05") << text;
   }
 }
 

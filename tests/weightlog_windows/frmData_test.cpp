@@ -314,7 +314,7 @@ TEST(FrmData, FollowsWhatOthersChangeAndKeepsWhatIsBeingTyped) {
   WeightLog(*c.session).Insert({QDate(2026, 3, 5), 190, -4});
   c.session->settings.LossFactor = -1;
   c.session->settings.ShowLoss = true;
-  c.session->changes.Announce({QStringLiteral("weight_loss"), QStringLiteral("1"), QDate(2026, 3, 5)});
+  c.session.Announce({.table = Table::WeightLoss, .personID = QStringLiteral("1"), .date = QDate(2026, 3, 5)});
   c.session->changes.AnnounceSettings();
   EXPECT_EQ(c.Field(5)->text(), QStringLiteral("190"));
   EXPECT_EQ(c.Text("txtLoss(5)"), "4.0");
@@ -397,7 +397,7 @@ TEST(FrmData, OffersACustomNutrientUnderTheNameItWasGiven) {
   auto *figures = c.Find<QComboBox>("cboNutrientID");
   const int chosen = figures->currentData().toInt();
   c.session->nutrients.SelectedNutrients[0] = {nutrient_id::firstCustom, QStringLiteral("Caffeine"), true, {}};
-  c.session->changes.Announce({QStringLiteral("selected_nutrients"), {}, {}});
+  c.session.Announce({.table = Table::SelectedNutrients});
   EXPECT_EQ(figures->itemText(figures->findData(nutrient_id::firstCustom)), QStringLiteral("Caffeine"));
   EXPECT_EQ(figures->currentData().toInt(), chosen);
 }

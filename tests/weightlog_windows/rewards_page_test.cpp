@@ -118,6 +118,7 @@ TEST_F(RewardsTabTest, DeletingTheLoadedProfileShowsTheNextOnesRule) {
   navigator.LoadData = [this](const QString &personID) {
     session->profile.CurrentPersonID = personID;
     LoadRewardSettings(*session);
+    session->changes.AnnounceProfileLoaded();
   };
   Open();
   window->ShowTab(SetupTab::Profiles);

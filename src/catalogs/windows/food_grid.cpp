@@ -2,6 +2,8 @@
 
 #include "catalogs/food_catalog.h"
 #include "catalogs/food_columns.h"
+#include "core/session/change.h"
+#include "core/windows/controls/grid_follow.h"
 #include "platform/grid/grid_clipboard.h"
 #include "platform/grid/grid_row_edit.h"
 
@@ -13,20 +15,20 @@ BoundGrid *MakeFoodGrid(const FoodGridNames &names, Session &session, QWidget *p
   grid->SetColumns(FoodColumns(session, names.dropDown));
   grid->KeepWidths(session.store, settingsRoot + QStringLiteral("\\Grids\\") + names.grid);
 
-  const auto announce = [&session] { session.changes.Announce({QStringLiteral("meals_list"), {}, {}}); };
   GridHooks &hooks = grid->Hooks();
   hooks.guard = [&session, procedure = names.loadProcedure](GridAction action, const std::function<void()> &work) {
     return Guarded(session, FoodGridFailure(action, procedure), work);
   };
   hooks.isReadOnly = IsPreLoadedFood;
   hooks.beforeUpdate = [&session](GridRowEdit &row) { return PrepareEditedFood(session.nutrients, row); };
-  hooks.afterUpdate = [announce](qint64) { announce(); };
   hooks.beforeDelete = [&session](const std::vector<qint64> &keys) { return ConfirmDeleteFoods(session, keys); };
-  hooks.afterDelete = [announce, &session](const std::vector<qint64> &) {
-    announce();
-    session.changes.Announce({QStringLiteral("meals"), {}, {}});  // the entries of these foods went along
+  hooks.withDelete = [&session](const std::vector<qint64> &) {
+    Change change(session);
+    change.Announce({.table = Table::Meals});  // the entries of these foods went along
+    change.Commit();
   };
   hooks.pasteRows = [&session](const GridClipboard &clipboard) { return PasteFoods(session, clipboard.rows); };
+  FollowTable(*grid, session, Table::MealsList);
   return grid;
 }
 

@@ -158,9 +158,7 @@ void frmSetupFoods::OnTabChanged() {
   }
 }
 
-void frmSetupFoods::RefreshLists() {
-  listPage_->Grid()->Refresh();
-  searchPage_->Grid()->Refresh();
+void frmSetupFoods::ShowCounts() {
   listPage_->UpdateHeading();
   searchPage_->UpdateHeading();
   UpdateRowState();
@@ -208,8 +206,8 @@ void frmSetupFoods::OnPrint() {
 }
 
 void frmSetupFoods::OnChanged(const DataChange &change) {
-  if (change.table == QStringLiteral("meals_list")) RefreshLists();
-  if (change.table == QStringLiteral("selected_nutrients")) {
+  if (change.table == Table::MealsList) ShowCounts();
+  if (change.table == Table::SelectedNutrients) {
     listPage_->NutrientsChanged();
     searchPage_->NutrientsChanged();
   }

@@ -34,7 +34,7 @@ class frmSetupFoods : public QDialog {
   BoundGrid *CurrentGrid() const;
   bool OnSearchTab() const;
   void UpdateRowState();
-  void RefreshLists();
+  void ShowCounts();
   void OnTabChanged();
   void OnNew();
   void OnCopy();

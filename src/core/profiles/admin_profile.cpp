@@ -1,5 +1,6 @@
 #include "core/data/data_access.h"
 #include "core/profiles/profiles.h"
+#include "core/session/change.h"
 #include "platform/text/text_format.h"
 
 namespace trimlog {
@@ -15,7 +16,8 @@ QString AdminValue(Database &data, const QString &field) {
 // An ordinary profile stands where the administrator belongs: it moves on, and its data with it.
 void MoveFirstProfile(Database &data) {
   const QString nextID = GetNextID(data, QStringLiteral("people"));
-  data.Execute(QStringLiteral("UPDATE people SET people.PersonID = %1 WHERE (((people.PersonID)=1));").arg(nextID));
+  data.Execute(QStringLiteral("UPDATE people SET people.PersonID = ? WHERE (((people.PersonID)=1));"),
+               {nextID.toInt()});
 }
 
 void InsertAdministrator(Session &session) {
@@ -30,8 +32,8 @@ void InsertAdministrator(Session &session) {
   data.Execute(QStringLiteral("UPDATE people SET people.UserID = \"sample1\" WHERE (((people.PersonID)=-2));"));
   data.Execute(QStringLiteral("UPDATE people SET people.UserID = \"sample2\" WHERE (((people.PersonID)=-1));"));
   data.Execute(QStringLiteral("INSERT INTO weight_loss ( PersonID, ThisDate, ThisWeight, ThisLoss ) SELECT 1 AS Expr1, "
-                              "%1 AS Expr2, 120 AS Expr3, 0 AS Expr4;")
-                   .arg(SQLDate(session.Today())));
+                              "? AS Expr2, 120 AS Expr3, 0 AS Expr4;"),
+               {session.Today()});
 }
 
 }  // namespace
@@ -40,10 +42,12 @@ void CreateAdminProfile(Session &session) {
   if (!session.edition.BizEd) return;
   Database &data = session.Data();
   if (!AdminValue(data, QStringLiteral("UserID")).isEmpty()) return;
-  Transaction transaction(data);
+  Change change(session);
   if (!AdminValue(data, QStringLiteral("PersonName")).isEmpty()) MoveFirstProfile(data);
   InsertAdministrator(session);
-  transaction.Commit();
+  change.Announce({.table = Table::People});
+  change.Announce({.table = Table::WeightLoss});
+  change.Commit();
 }
 
 }  // namespace trimlog

@@ -1,5 +1,6 @@
 #include "core/profiles/colour_scheme.h"
 
+#include "core/session/change.h"
 #include "core/session/failure_guard.h"
 
 namespace trimlog {
@@ -47,17 +48,19 @@ void StoreBackColor(Session &session, const QString &personID, quint32 colour) {
                             QStringLiteral("Error Saving Data"),
                             QStringLiteral("An error occurred while saving your color scheme.")};
   const bool stored = Guarded(session, failure, [&session, &personID, colour] {
-    Transaction transaction(session.Data());
-    session.Data().Execute(
-        QStringLiteral("UPDATE people SET people.BackColor=%1 WHERE (((people.PersonID)=?));").arg(colour),
-        {personID.toInt()});
-    transaction.Commit();
+    Change change(session);
+    session.Data().Execute(QStringLiteral("UPDATE people SET people.BackColor=? WHERE (((people.PersonID)=?));"),
+                           {static_cast<int>(colour), personID.toInt()});
+    change.Announce({.table = Table::People, .keys = {personID.toInt()}});
+    if (personID == session.profile.CurrentPersonID) {
+      change.Afterwards([&session, colour] {
+        session.profile.BackColor = colour;
+        session.changes.AnnounceSettings();
+      });
+    }
+    change.Commit();
   });
   if (!stored) return;
-  if (personID == session.profile.CurrentPersonID) {
-    session.profile.BackColor = colour;
-    session.changes.AnnounceSettings();
-  }
   session.boxes.Inform(QStringLiteral("Color Scheme Changed."),
                        QStringLiteral("Your color scheme changes will completely take effect the next time you log "
                                       "on."));

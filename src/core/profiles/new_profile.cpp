@@ -3,6 +3,7 @@
 #include "core/data/data_access.h"
 #include "core/profiles/colour_scheme.h"
 #include "core/profiles/profile_list.h"
+#include "core/session/change.h"
 #include "platform/text/text_format.h"
 
 namespace trimlog {
@@ -63,7 +64,7 @@ std::optional<NewProfileComplaint> CheckNewProfile(Session &session, const NewPr
 }
 
 QString AddNewProfile(Session &session, const NewProfile &profile) {
-  Transaction transaction(session.Data());
+  Change change(session);
   const QString personID = GetNextID(session.Data(), QStringLiteral("people"));
   const std::optional<double> goal = ParseNumber(profile.goal, session.locale);
   session.Data().Execute(
@@ -75,8 +76,8 @@ QString AddNewProfile(Session &session, const NewProfile &profile) {
        profile.HeightFeet, profile.HeightInches, profile.GenderID,
        profile.BirthDate.isValid() ? Value(profile.BirthDate) : Value(), WithoutDoubleQuotes(profile.Password),
        static_cast<int>(DefaultBackColor(session)), WithoutDoubleQuotes(profile.UserID), referenceTargets});
-  transaction.Commit();
-  session.changes.AnnounceProfiles();
+  change.Announce({.table = Table::People, .keys = {personID.toInt()}});
+  change.Commit();
   return personID;
 }
 

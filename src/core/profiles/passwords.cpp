@@ -1,6 +1,7 @@
 #include "core/profiles/passwords.h"
 
 #include "core/data/data_access.h"
+#include "core/session/change.h"
 #include "core/session/failure_guard.h"
 
 namespace trimlog {
@@ -77,10 +78,11 @@ PasswordOutcome ChangePassword(Session &session, const QString &personID, const 
                             QStringLiteral("Error Changing Password"),
                             QStringLiteral("An error occurred while changing your password.  "), true};
   const bool stored = Guarded(session, failure, [&session, &personID, &entry] {
-    Transaction transaction(session.Data());
+    Change change(session);
     session.Data().Execute(QStringLiteral("UPDATE people SET people.Password = ? WHERE (((people.PersonID)=?));"),
                            {entry.changed, personID.toInt()});
-    transaction.Commit();
+    change.Announce({.table = Table::People, .keys = {personID.toInt()}});
+    change.Commit();
   });
   if (!stored) return PasswordOutcome::Failed;
   ShowSuccess(session.boxes, entry.changed.isEmpty());

@@ -3,6 +3,7 @@
 #include "core/data/data_access.h"
 #include "core/profiles/colour_scheme.h"
 #include "core/profiles/sample_profiles.h"
+#include "core/session/change.h"
 #include "platform/store/recordset.h"
 
 namespace trimlog {
@@ -96,6 +97,7 @@ void ApplyProfile(Session &session, const RoomHooks &hooks, const QString &perso
   if (hooks.LoadRewardSettings) hooks.LoadRewardSettings();
   FillSelectedNutrientsArray(session.nutrients, session.Data());
   if (hooks.UpdateStats) hooks.UpdateStats();
+  session.changes.AnnounceProfileLoaded();
 }
 
 FailureExit LoadDataFailure() {
@@ -123,16 +125,16 @@ bool ResetWeightLossData(Session &session) {
   const FailureExit failure{QStringLiteral("frmMDI"), QStringLiteral("mnuEditOtherReset_Click"), title,
                             QStringLiteral("An error occurred while deleting the weight loss data.  ")};
   const bool deleted = Guarded(session, failure, [&session] {
-    Transaction transaction(session.Data());
+    Change change(session);
     session.Data().Execute(QStringLiteral(
         "DELETE weight_loss.*, weight_loss.ThisDate FROM weight_loss WHERE ((weight_loss.PersonID=1)); "));
     session.Data().Execute(QStringLiteral("DELETE notes.*, notes.ThisDate FROM notes WHERE ((notes.PersonID=1)); "));
-    transaction.Commit();
+    change.Announce({.table = Table::WeightLoss, .personID = QStringLiteral("1")});
+    change.Announce({.table = Table::Notes, .personID = QStringLiteral("1")});
+    change.Commit();
   });
   if (!deleted) return false;
   session.boxes.Plain({}, QStringLiteral("All weight loss data has been deleted successfully."));
-  session.changes.Announce({QStringLiteral("weight_loss"), QStringLiteral("1"), {}});
-  session.changes.Announce({QStringLiteral("notes"), QStringLiteral("1"), {}});
   return true;
 }
 

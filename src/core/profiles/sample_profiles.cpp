@@ -1,6 +1,9 @@
 #include "core/profiles/sample_profiles.h"
 
+#include <array>
+
 #include "core/profiles/profiles.h"
+#include "core/session/change.h"
 #include "core/session/failure_guard.h"
 
 namespace trimlog {
@@ -8,15 +11,12 @@ namespace trimlog {
 namespace {
 
 struct SampleTable {
-  QString table;
+  Table table;
   QStringList columns;
 };
 
-const QStringList &ClearedTables() {
-  static const QStringList tables = {QStringLiteral("activities"), QStringLiteral("meals"), QStringLiteral("notes"),
-                                     QStringLiteral("measurements"), QStringLiteral("weight_loss")};
-  return tables;
-}
+constexpr std::array clearedTables = {Table::Activities, Table::Meals, Table::Notes, Table::Measurements,
+                                      Table::WeightLoss};
 
 QStringList SampleColumns(const char *names) { return QString::fromLatin1(names).split(QLatin1Char(' ')); }
 
@@ -31,32 +31,32 @@ QStringList MealColumns(const Nutrients &nutrients) {
 
 QList<SampleTable> CopiedTables(const Nutrients &nutrients) {
   return {
-      {QStringLiteral("activities"),
+      {Table::Activities,
        SampleColumns("PersonID RecordID ThisDate ActivityID Duration Amount Pace Sets Reps Calories Notes")},
-      {QStringLiteral("meals"), MealColumns(nutrients)},
-      {QStringLiteral("measurements"),
+      {Table::Meals, MealColumns(nutrients)},
+      {Table::Measurements,
        SampleColumns("PersonID RecordID ThisDate Biceps Forearm Thigh Calf Chest Waist Hips BodyFat")},
-      {QStringLiteral("notes"), SampleColumns("PersonID RecordID ThisDate Notes")},
-      {QStringLiteral("weight_loss"), SampleColumns("PersonID ThisDate ThisWeight ThisLoss")},
+      {Table::Notes, SampleColumns("PersonID RecordID ThisDate Notes")},
+      {Table::WeightLoss, SampleColumns("PersonID ThisDate ThisWeight ThisLoss")},
   };
 }
 
-QString CopyStatement(const SampleTable &copied, const QString &personID) {
-  const QString source = copied.table + QStringLiteral("_sample");
+QString CopyStatement(const SampleTable &copied) {
+  const QString table = TableName(copied.table);
+  const QString source = table + QStringLiteral("_sample");
   QStringList values;
   for (const QString &column : copied.columns) values.append(source + QLatin1Char('.') + column);
-  return QStringLiteral("INSERT INTO %1 ( %2 ) SELECT %3 FROM %4 WHERE (((%4.PersonID)=%5));")
-      .arg(copied.table, copied.columns.join(QStringLiteral(", ")), values.join(QStringLiteral(", ")), source,
-           personID);
+  return QStringLiteral("INSERT INTO %1 ( %2 ) SELECT %3 FROM %4 WHERE (((%4.PersonID)=?));")
+      .arg(table, copied.columns.join(QStringLiteral(", ")), values.join(QStringLiteral(", ")), source);
 }
 
-QStringList ResetStatements(const Nutrients &nutrients, const QString &personID) {
+QStringList ResetStatements(const Nutrients &nutrients) {
   QStringList statements;
-  for (const QString &table : ClearedTables()) {
+  for (const Table cleared : clearedTables) {
     statements.append(
-        QStringLiteral("DELETE %1.*, %1.PersonID From %1 WHERE (((%1.PersonID)=%2));").arg(table, personID));
+        QStringLiteral("DELETE %1.*, %1.PersonID From %1 WHERE (((%1.PersonID)=?));").arg(TableName(cleared)));
   }
-  for (const SampleTable &copied : CopiedTables(nutrients)) statements.append(CopyStatement(copied, personID));
+  for (const SampleTable &copied : CopiedTables(nutrients)) statements.append(CopyStatement(copied));
   return statements;
 }
 
@@ -75,16 +75,15 @@ void ResetSampleProfile(Session &session, const QString &personID) {
                                      QStringLiteral(" with SQL=") + running + QStringLiteral(".  Error Description: ") +
                                      description;
                             }};
-  const bool restored = Guarded(session, failure, [&session, &personID, &running] {
-    Transaction transaction(session.Data());
-    for (const QString &statement : ResetStatements(session.nutrients, personID)) {
+  Guarded(session, failure, [&session, &personID, &running] {
+    Change change(session);
+    for (const QString &statement : ResetStatements(session.nutrients)) {
       running = statement;
-      session.Data().Execute(statement);
+      session.Data().Execute(statement, {personID.toInt()});
     }
-    transaction.Commit();
+    for (const Table cleared : clearedTables) change.Announce({.table = cleared, .personID = personID});
+    change.Commit();
   });
-  if (!restored) return;
-  for (const QString &table : ClearedTables()) session.changes.Announce({table, personID, {}});
 }
 
 bool AskResetSampleProfile(Session &session) {

@@ -1,1 +1,13 @@
-#include "core/session/data_changes.h"  // gives the announcing object its meta object
+#include "core/session/data_changes.h"
+
+#include <algorithm>
+
+namespace trimlog {
+
+bool DataChange::Concerns(const QString &person) const {
+  if (!personID.isEmpty()) return personID == person;
+  if (table != Table::People || keys.empty()) return true;
+  return std::find(keys.begin(), keys.end(), person.toLongLong()) != keys.end();
+}
+
+}  // namespace trimlog

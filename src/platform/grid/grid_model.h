@@ -107,6 +107,7 @@ class GridModel : public QAbstractTableModel {
   GridRowEdit &BeginChange(int row);
   void DropEditWhenEmpty();
   qint64 WriteRow();
+  void TakeOverSaved(qint64 key);
   void AnnounceRow(int row);
   QVariant CellText(const QModelIndex &index, const GridColumn &column, bool forEditing) const;
   QString SentenceOf(const QModelIndex &index, const GridColumn &column) const;

@@ -86,20 +86,41 @@ void GridModel::SetRowSentence(const QString &sentence) {
   AnnounceRow(ChangingRow());
 }
 
+// What follows the commit in the model comes before what the hooks give to it: who hears of the row finds it here.
 bool GridModel::SaveRow() {
   if (!edit_) return true;
   if (edit_->HasRefusals()) return false;
-  if (edit_->IsNew() && hooks.beforeInsert) hooks.beforeInsert(*edit_);
-  if (hooks.beforeUpdate) {
-    const QString sentence = hooks.beforeUpdate(*edit_);
+  keys_.ReadAll();
+  qint64 key = 0;
+  {
+    Transaction transaction(*database_);
+    database_->AfterCommit([this, &key] { TakeOverSaved(key); });
+    if (edit_->IsNew() && hooks.beforeInsert) hooks.beforeInsert(*edit_);
+    const QString sentence = hooks.beforeUpdate ? hooks.beforeUpdate(*edit_) : QString();
     if (!sentence.isEmpty()) {
       SetRowSentence(sentence);
       return false;
     }
+    key = WriteRow();
+    if (hooks.withUpdate) hooks.withUpdate(*edit_, key);
+    transaction.Commit();
   }
+  Q_EMIT RowSaved(key);
+  if (hooks.afterUpdate) hooks.afterUpdate(key);
+  return true;
+}
+
+qint64 GridModel::WriteRow() {
+  const GridStatement statement = edit_->IsNew() ? InsertStatement(source_, edit_->Changes())
+                                                 : UpdateStatement(source_, edit_->Key(), edit_->Changes());
+  const qint64 written = database_->Execute(statement.sql, statement.params);
+  if (written == 0) throw Error(error_number::noCurrentRecord, tr("This row has been deleted meanwhile."));
+  return edit_->IsNew() ? edit_->Get(source_.key).toLongLong() : edit_->Key();
+}
+
+void GridModel::TakeOverSaved(qint64 key) {
   const int row = ChangingRow();
   const bool isNew = edit_->IsNew();
-  const qint64 key = WriteRow();
   edit_.reset();
   cache_.Forget(key);
   if (isNew) {
@@ -108,32 +129,21 @@ bool GridModel::SaveRow() {
     endInsertRows();
   }
   AnnounceRow(row);
-  Q_EMIT RowSaved(key);
-  if (hooks.afterUpdate) hooks.afterUpdate(key);
-  return true;
-}
-
-qint64 GridModel::WriteRow() {
-  keys_.ReadAll();
-  Transaction transaction(*database_);
-  const GridStatement statement = edit_->IsNew() ? InsertStatement(source_, edit_->Changes())
-                                                 : UpdateStatement(source_, edit_->Key(), edit_->Changes());
-  const qint64 written = database_->Execute(statement.sql, statement.params);
-  if (written == 0) throw Error(error_number::noCurrentRecord, tr("This row has been deleted meanwhile."));
-  transaction.Commit();
-  return edit_->IsNew() ? edit_->Get(source_.key).toLongLong() : edit_->Key();
 }
 
 void GridModel::DeleteRows(const std::vector<qint64> &keys) {
   if (keys.empty()) return;
   Transaction transaction(*database_);
+  database_->AfterCommit([this, &keys] {
+    if (edit_ && std::find(keys.begin(), keys.end(), edit_->Key()) != keys.end()) edit_.reset();
+    Reread();
+  });
   InBlocks(keys, RowCache::block, [this](const std::vector<qint64> &some) {
     const GridStatement statement = DeleteStatement(source_, some);
     database_->Execute(statement.sql, statement.params);
   });
+  if (hooks.withDelete) hooks.withDelete(keys);
   transaction.Commit();
-  if (edit_ && std::find(keys.begin(), keys.end(), edit_->Key()) != keys.end()) edit_.reset();
-  Reread();
 }
 
 }  // namespace trimlog

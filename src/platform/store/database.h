@@ -2,6 +2,7 @@
 
 #include <QString>
 #include <QVariant>
+#include <functional>
 #include <memory>
 
 #include "platform/error.h"
@@ -63,6 +64,12 @@ class Database {
 
   StoreCounts Counts() const;
 
+  bool InTransaction() const;
+  /// Runs the work once the outermost open transaction is committed, in the order in which it was given; at once when
+  /// none is open. A transaction that is taken back drops what was given inside it. What the work throws comes out of
+  /// the commit, after all the rest has run: the data are saved by then.
+  void AfterCommit(std::function<void()> work);
+
   struct Impl;
   Impl &Internals() { return *impl_; }
 
@@ -71,7 +78,8 @@ class Database {
   std::unique_ptr<Impl> impl_;
 };
 
-/// All or nothing: rolls back unless committed. May be nested; the outermost one decides.
+/// All or nothing: rolls back unless committed. May be nested; the outermost one decides, and delivers what was given
+/// to AfterCommit.
 class Transaction {
  public:
   explicit Transaction(Database &database);
@@ -82,6 +90,7 @@ class Transaction {
 
  private:
   Database &database_;
+  size_t collectedBefore_;  ///< how much waited for the commit when this transaction began
   bool open_ = true;
 };
 

@@ -84,6 +84,7 @@ struct Database::Impl final : public TranslationContext {
   QHash<QString, QString> sideFiles;  ///< schema name by path
   int sideFileNumber = 0;
   int depth = 0;
+  std::vector<std::function<void()>> afterCommit;
   std::vector<std::weak_ptr<PreparedStatement>> compiled;  ///< all that may outlive the connection in a recordset
   const std::shared_ptr<bool> closed = std::make_shared<bool>(false);
   qint64 changesAtBegin = 0;

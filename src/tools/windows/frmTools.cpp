@@ -232,10 +232,9 @@ void frmTools::FillTool() {
 }
 
 void frmTools::FollowChange(const DataChange &change) {
-  static const QStringList tables = {QStringLiteral("people"), QStringLiteral("weight_loss"),
-                                     QStringLiteral("measurements")};
-  const bool ours = change.personID.isEmpty() || change.personID == session_.profile.CurrentPersonID;
-  if (!ours || !tables.contains(change.table)) return;
+  const bool shown =
+      change.table == Table::People || change.table == Table::WeightLoss || change.table == Table::Measurements;
+  if (!shown || !change.Concerns(session_.profile.CurrentPersonID)) return;
   GuardedQuietly([this] {
     profile_ = ReadToolsProfile(session_);
     pnlPlanner->ShowWeights();

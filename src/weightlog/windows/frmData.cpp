@@ -172,7 +172,6 @@ void frmData::Connect() {
   });
   connect(&session_.changes, &DataChanges::Changed, this, &frmData::OnData);
   connect(&session_.changes, &DataChanges::SettingsChanged, this, &frmData::OnSettings);
-  connect(&session_.changes, &DataChanges::ProfilesChanged, this, &frmData::OnSettings);
 }
 
 bool frmData::ValidateFields() { return entry_->TryLeave(); }
@@ -225,13 +224,13 @@ void frmData::DeleteWeight() {
 }
 
 void frmData::OnData(const DataChange &change) {
-  if (change.table == QStringLiteral("selected_nutrients")) {  // a custom nutrient may have got another name
+  if (change.table == Table::SelectedNutrients) {  // a custom nutrient may have got another name
     FillNutrients();
     ShowSettings();
     return;
   }
-  if (entry_->IsSaving() || (!change.personID.isEmpty() && change.personID != session_.profile.CurrentPersonID)) return;
-  if (change.table.isEmpty() || change.table == QStringLiteral("weight_loss")) {
+  if (change.origin == &model_ || !change.Concerns(session_.profile.CurrentPersonID)) return;
+  if (change.table == Table::WeightLoss) {
     model_.Refresh();
   } else {
     model_.FillCalendarNutrients();

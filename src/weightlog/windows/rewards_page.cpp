@@ -24,7 +24,13 @@ RewardsPage::RewardsPage(Session &session, QWidget *parent) : SetupPage(parent),
   layout->addWidget(MakeNoticeGroup());
   pnlRewardNote = AddNote(layout, QStringLiteral("pnlRewardNote"), {});
   layout->addStretch();
-  connect(&session.changes, &DataChanges::ProfilesChanged, this, &RewardsPage::OnProfiles);
+  // Deleting the loaded profile loads another one under the open window, whose rule must not be taken for this one's.
+  connect(&session.changes, &DataChanges::ProfileLoaded, this, [this] {
+    if (session_.profile.CurrentPersonID != personID_) Load(session_.settings);
+  });
+  connect(&session.changes, &DataChanges::Changed, this, [this](const DataChange &change) {
+    if (change.table == Table::People && change.Concerns(personID_)) ShowProfile();
+  });
 }
 
 QWidget *RewardsPage::MakeRuleGroup() {
@@ -132,15 +138,6 @@ void RewardsPage::ShowProfile() {
   pnlRewardNote->setText(QStringLiteral("Note: This setting only affects rewards for ") + personName +
                          QStringLiteral(".  To change rewards for someone else, load their profile from the Profiles "
                                         "menu and return to this window."));
-}
-
-// Deleting the loaded profile loads another one under the open window: its rule must not take over what stands here.
-void RewardsPage::OnProfiles() {
-  if (session_.profile.CurrentPersonID == personID_) {
-    ShowProfile();
-  } else {
-    Load(session_.settings);
-  }
 }
 
 void RewardsPage::UpdateFields() {

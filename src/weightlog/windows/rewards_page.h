@@ -38,7 +38,6 @@ class RewardsPage : public SetupPage {
   RewardForm Form() const;
   void Show(const RewardForm &form);
   void ShowProfile();
-  void OnProfiles();
   void OnChosen(RewardType type);
   void OnBrowse();
   void OnTest();

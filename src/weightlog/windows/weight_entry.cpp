@@ -63,7 +63,7 @@ EditOutcome WeightEntry::Leave() {
   QLineEdit *field = grid_.Field(entered_);
   const QString text = field->text();
   const bool valid = model_.ValidateWeight(text);
-  if (!valid || !Save(text)) {
+  if (!valid || !model_.SaveWeight(text)) {
     Refuse(field);
     return valid ? EditOutcome::Failed : EditOutcome::Refused;
   }
@@ -76,13 +76,6 @@ void WeightEntry::Restore() {
   if (PendingCell() == 0) return;
   grid_.Field(entered_)->setText(model_.EntryText());
   grid_.Field(entered_)->selectAll();
-}
-
-bool WeightEntry::Save(const QString &text) {
-  saving_ = true;
-  const bool saved = model_.SaveWeight(text);
-  saving_ = false;
-  return saved;
 }
 
 void WeightEntry::Refuse(QLineEdit *field) {

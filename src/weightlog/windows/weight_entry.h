@@ -34,8 +34,6 @@ class WeightEntry : public QObject {
   bool HasFocus() const;
   /// The cell whose field holds text that is not saved yet, 0 for none.
   int PendingCell() const;
-  /// True while a weight is being saved: what it announces is the calendar's own doing.
-  bool IsSaving() const { return saving_; }
   /// While the grid is being redrawn, fields gain and lose the focus without anyone entering or leaving a cell.
   void Suspend(bool suspended) { suspended_ = suspended; }
   /// The month under the fields is another one: nobody has entered a cell of it.
@@ -55,7 +53,6 @@ class WeightEntry : public QObject {
   bool OnArrow(int i, const QKeyEvent &event);
   void OnFocusIn(int i, const QFocusEvent &event);
   void OnFocusOut(const QFocusEvent &event);
-  bool Save(const QString &text);
   void Refuse(QLineEdit *field);
 
   Session &session_;
@@ -63,7 +60,6 @@ class WeightEntry : public QObject {
   MonthGrid &grid_;
   int entered_ = 0;
   bool suspended_ = false;
-  bool saving_ = false;
   bool refused_ = false;  ///< within the action under way: one mistake gives one box
 };
 

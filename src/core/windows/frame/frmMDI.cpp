@@ -48,8 +48,8 @@ frmMDI::frmMDI(const FrameParts &parts)
   BuildPanels();
   ConnectCommands();
   connect(&session_.changes, &DataChanges::SettingsChanged, this, &frmMDI::RefreshMain);
-  connect(&session_.changes, &DataChanges::ProfilesChanged, this, [this] {
-    if (loaded_) GuardedQuietly([this] { LoadProfilesMenu(); });
+  connect(&session_.changes, &DataChanges::Changed, this, [this](const DataChange &change) {
+    if (loaded_ && change.table == Table::People) GuardedQuietly([this] { LoadProfilesMenu(); });
   });
 }
 

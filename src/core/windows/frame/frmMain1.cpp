@@ -70,9 +70,8 @@ frmMain1::frmMain1(Session &session, QWidget *parent) : QWidget(parent), session
 
   connect(&session_.changes, &DataChanges::StatisticsChanged, this, &frmMain1::ShowStatistics);
   connect(&session_.changes, &DataChanges::SettingsChanged, this, &frmMain1::Refresh);
-  connect(&session_.changes, &DataChanges::ProfilesChanged, this, &frmMain1::ShowPerson);
   connect(&session_.changes, &DataChanges::Changed, this, [this](const DataChange &change) {
-    if (change.table == QStringLiteral("people")) ShowPerson();
+    if (change.table == Table::People) ShowPerson();
   });
 }
 

@@ -7,6 +7,7 @@
 #include "core/profiles/profile_list.h"
 #include "core/settings/options.h"
 #include "core/windows/controls/colour_combo.h"
+#include "core/windows/controls/grid_follow.h"
 #include "core/windows/setup/setup_controls.h"
 #include "platform/windows/grid/bound_grid.h"
 
@@ -16,7 +17,6 @@ SetupColoursPage::SetupColoursPage(Session &session, QWidget *parent) : SetupPag
   auto *layout = new QVBoxLayout(this);
   layout->addWidget(MakeSchemeGroup());
   layout->addWidget(MakeSignGroup());
-  connect(&session.changes, &DataChanges::ProfilesChanged, this, [this] { grdPeopleColors->Refresh(); });
 }
 
 QWidget *SetupColoursPage::MakeSchemeGroup() {
@@ -28,6 +28,7 @@ QWidget *SetupColoursPage::MakeSchemeGroup() {
   grdPeopleColors->Hooks().guard = [this](GridAction action, const std::function<void()> &work) {
     return Guarded(session_, ProfileListFailure(action), work);
   };
+  FollowTable(*grdPeopleColors, session_, Table::People);
   layout->addWidget(grdPeopleColors, 1);
   auto *side = new QVBoxLayout;
   layout->addLayout(side);
@@ -80,7 +81,6 @@ void SetupColoursPage::StoreColour(quint32 colour) {
   const std::optional<qint64> profile = grdPeopleColors->CurrentKey();
   if (!profile) return;
   StoreBackColor(session_, QString::number(*profile), colour);
-  grdPeopleColors->Refresh();
   ShowColour();
 }
 

@@ -6,6 +6,7 @@
 #include "core/profiles/profile_list.h"
 #include "core/profiles/profiles.h"
 #include "core/settings/options.h"
+#include "core/windows/controls/grid_follow.h"
 #include "core/windows/profiles/frmEditPassword.h"
 #include "core/windows/setup/setup_controls.h"
 #include "platform/windows/grid/bound_grid.h"
@@ -44,7 +45,7 @@ void SetupProfilesPage::SetHooks() {
     return AskDeleteProfiles(session_, static_cast<int>(keys.size()));
   };
   hooks.afterDelete = [this](const std::vector<qint64> &) { Deleted(); };
-  hooks.afterUpdate = [this](qint64 key) { Saved(QString::number(key)); };
+  FollowTable(*grdPeople, session_, Table::People);
 }
 
 void SetupProfilesPage::Load(const Settings &) {
@@ -91,8 +92,6 @@ bool SetupProfilesPage::Validate() {
 
 void SetupProfilesPage::OnNewProfile() {
   if (!grdPeople->CommitRow() || !navigator_.AddProfile(this)) return;
-  grdPeople->Refresh();
-  session_.changes.AnnounceProfiles();
   UpdateButtons();
 }
 
@@ -102,11 +101,6 @@ void SetupProfilesPage::OnPassword() {
   frmEditPassword(session_, QString::number(*grdPeople->CurrentKey()), name, this).exec();
 }
 
-void SetupProfilesPage::Saved(const QString &personID) {
-  session_.changes.Announce({QStringLiteral("people"), personID, {}});
-  session_.changes.AnnounceProfiles();
-}
-
 void SetupProfilesPage::Deleted() {
   const QString next = ProfileToStandOn(session_);
   if (next != session_.profile.CurrentPersonID && navigator_.LoadData) {
@@ -114,7 +108,6 @@ void SetupProfilesPage::Deleted() {
     // The next profile may ask for a password and be refused; a sample never does.
     if (session_.profile.CurrentPersonID != next) navigator_.LoadData(sampleProfile1);
   }
-  session_.changes.AnnounceProfiles();
   UpdateButtons();
 }
 

@@ -25,7 +25,6 @@ class SetupProfilesPage : public SetupPage {
   void UpdateButtons();
   void OnNewProfile();
   void OnPassword();
-  void Saved(const QString &personID);
   /// The loaded profile may be among the deleted ones.
   void Deleted();
   QModelIndex GoalCell() const;  ///< of the current row

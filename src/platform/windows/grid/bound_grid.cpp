@@ -186,6 +186,8 @@ bool BoundGrid::Refresh() {
   return RunGuarded(GridAction::Load, [this] { KeepingPlace([this] { model_->Refresh(); }); });
 }
 
+bool BoundGrid::RefreshRows(const std::vector<qint64> &) { return Refresh(); }
+
 // The cell that a person would begin with: the first that shows something.
 int BoundGrid::FirstColumn() const {
   const GridColumns &columns = model_->Columns();

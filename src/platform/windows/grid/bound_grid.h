@@ -48,6 +48,8 @@ class BoundGrid : public QTableView {
   /// `whole` reads all keys in one pass: for a search, whose rows cost as much to count as to find.
   bool SetSource(const GridSource &source, bool whole = false);
   bool Refresh();  ///< current cell, marked rows and scroll place are kept by key
+  /// Rows that somebody else changed, added or deleted; empty: any. Keeps the place, and the row being typed.
+  bool RefreshRows(const std::vector<qint64> &keys);
   /// Sorts by a column, then the key. False when nothing was sorted.
   bool SortBy(const QString &columnName, bool descending);
 
