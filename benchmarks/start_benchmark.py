@@ -70,23 +70,21 @@ def main():
     parser.add_argument("benchmarks_directory", type=pathlib.Path)
     parser.add_argument("--runs", type=int, default=20)
     options = parser.parse_args()
-    screen = road.Screen()
-    trimlog = road.Trimlog(screen, options.app_directory, options.shipped_directory)
-    try:
+    benchmarks = options.benchmarks_directory.resolve()
+    if not (benchmarks / "empty_window").is_file():
+        parser.error(f"{benchmarks} holds no empty_window: build it first")
+    with road.stage(options.app_directory, options.shipped_directory) as trimlog:
         trimlog.add_person(weights=ten_years())
-        empty = [str(options.benchmarks_directory / "empty_window"), *SIZE]
+        empty = [str(benchmarks / "empty_window"), *SIZE]
         program = [str(trimlog.program_directory / "trimlog")]
         print(f"{'':10} {'':15} {'wall':>9} {'processor':>12}")
         for platform in ("xcb", "offscreen"):
             environment = trimlog.environment | {"QT_QPA_PLATFORM": platform}
             base, ours = measure([(empty, "empty"), (program, "frmData")], environment,
-                                 options.benchmarks_directory / "plugins", options.runs)
+                                 benchmarks / "plugins", options.runs)
             print(f"{platform:10} {'empty window':15} {base[0]:6.1f} ms {base[1]:9.1f} ms")
             print(f"{platform:10} {'first calendar':15} {ours[0]:6.1f} ms {ours[1]:9.1f} ms   "
                   f"x{ours[0] / base[0]:.2f} wall, x{ours[1] / base[1]:.2f} processor")
-    finally:
-        trimlog.remove()
-        screen.close()
 
 
 main()

@@ -4,9 +4,11 @@ at the data file afterwards. Nothing here knows the program's insides.
 A road is a script that ends with `road.walk(function)`: the function gets an installation of its own, and the program
 directory and the folder of shipped files come from the command line."""
 import configparser
+import contextlib
 import datetime
 import os
 import pathlib
+import select
 import shutil
 import signal
 import sqlite3
@@ -31,21 +33,55 @@ def until(condition, seconds=15, pause=0.05):
     return None
 
 
+def child(command, **arguments):
+    """Starts a process that ends with this one, on whatever way this one ends."""
+    return subprocess.Popen(["setpriv", "--pdeathsig", "KILL", *map(str, command)], **arguments)
+
+
+def end(process):
+    """Ends a process that may have ended, or that does not care to."""
+    process.terminate()
+    try:
+        process.wait(timeout=5)
+    except subprocess.TimeoutExpired:
+        process.kill()
+        process.wait()
+
+
 class Screen:
     """An X screen of its own with a window manager, so that windows get the focus as on a desktop."""
 
     def __init__(self, width=1280, height=1024):
+        self.processes = []
+        try:
+            self.display = self._start_server(f"{width}x{height}x24")
+            self.environment = {"DISPLAY": self.display, "PATH": os.environ["PATH"], "QT_QPA_PLATFORM": "xcb"}
+            self._start_manager()
+        except BaseException:
+            self.close()
+            raise
+
+    def _start_server(self, size):
+        """Starts the server on the first display that is free."""
         read, write = os.pipe()
-        self.server = subprocess.Popen(
-            ["Xvfb", "-displayfd", str(write), "-screen", "0", f"{width}x{height}x24", "-nolisten", "tcp"],
-            pass_fds=[write], stderr=subprocess.DEVNULL)
-        os.close(write)
-        with os.fdopen(read) as answer:
-            self.display = ":" + answer.readline().strip()
-        self.environment = {"DISPLAY": self.display, "PATH": os.environ["PATH"], "QT_QPA_PLATFORM": "xcb"}
-        self.manager = subprocess.Popen(["openbox", "--sm-disable"], env=self.environment | {"HOME": tempfile.gettempdir()},
-                                        stdout=subprocess.DEVNULL, stderr=subprocess.DEVNULL)
-        if not until(self._managed):
+        with os.fdopen(read, "rb", buffering=0) as answer:
+            try:
+                server = child(["Xvfb", "-displayfd", write, "-screen", "0", size, "-nolisten", "tcp", "-noreset"],
+                               pass_fds=[write], stderr=subprocess.DEVNULL)
+            finally:
+                os.close(write)
+            self.processes.append(server)
+            ready = select.select([answer], [], [], 30)[0]
+            display = answer.readline().decode().strip() if ready else ""
+        if not display:
+            raise AssertionError("the X server did not start")
+        return ":" + display
+
+    def _start_manager(self):
+        manager = child(["openbox", "--sm-disable"], env=self.environment | {"HOME": tempfile.gettempdir()},
+                        stdout=subprocess.DEVNULL, stderr=subprocess.DEVNULL)
+        self.processes.append(manager)
+        if not until(lambda: self._managed() or manager.poll() is not None) or manager.poll() is not None:
             raise AssertionError("the window manager did not start")
 
     def _managed(self):
@@ -53,29 +89,38 @@ class Screen:
         return subprocess.run(["xdotool", "get_num_desktops"], env=self.environment, capture_output=True).returncode == 0
 
     def close(self):
-        for process in (self.manager, self.server):
-            process.terminate()
-            process.wait()
+        while self.processes:
+            end(self.processes.pop())
 
 
 class Trimlog:
     """One installation in a folder of its own: the program directory, a home and a configuration folder."""
 
     def __init__(self, screen, app_directory, shipped_directory, locale="en_US.UTF-8"):
+        for path in (pathlib.Path(app_directory) / "trimlog", pathlib.Path(shipped_directory) / "tlg.dat"):
+            if not path.is_file():
+                raise AssertionError(f"{path} is not there: build the program first")
         self.screen = screen
+        self.process = None
+        self.keystrokes = 0
         self.folder = pathlib.Path(tempfile.mkdtemp(prefix="trimlog-road-"))
-        self.program_directory = self.folder / "app"
-        shutil.copytree(app_directory, self.program_directory,
-                        ignore=shutil.ignore_patterns("tlg.dat*", "errorlog.txt", ".*"))
-        shutil.copy(pathlib.Path(shipped_directory) / "tlg.dat", self.program_directory / "tlg.dat")
-        os.chmod(self.program_directory / "tlg.dat", 0o644)
+        try:
+            self._install(pathlib.Path(app_directory), pathlib.Path(shipped_directory))
+        except BaseException:
+            self.remove()
+            raise
         home = self.folder / "home"
-        home.mkdir()
         self.environment = screen.environment | {
             "HOME": str(home), "XDG_CONFIG_HOME": str(home / ".config"), "XDG_RUNTIME_DIR": str(self.folder),
             "LC_ALL": locale, "QT_ACCESSIBILITY": "0"}
-        self.process = None
-        self.keystrokes = 0
+
+    def _install(self, app_directory, shipped_directory):
+        self.program_directory = self.folder / "app"
+        shutil.copytree(app_directory, self.program_directory,
+                        ignore=shutil.ignore_patterns("tlg.dat*", "errorlog.txt", ".*"))
+        shutil.copy(shipped_directory / "tlg.dat", self.program_directory / "tlg.dat")
+        os.chmod(self.program_directory / "tlg.dat", 0o644)
+        (self.folder / "home").mkdir()
 
     def add_person(self, name="Ann", goal="150", weights=()):
         """An ordinary profile without the wizard, with weights as (date, weight); the program must not be running."""
@@ -96,11 +141,10 @@ class Trimlog:
 
     def launch(self):
         """Starts one more copy."""
-        return subprocess.Popen([str(self.program_directory / "trimlog")], env=self.environment, cwd=self.folder,
-                                stderr=subprocess.PIPE)
+        return child([self.program_directory / "trimlog"], env=self.environment, cwd=self.folder, stderr=subprocess.PIPE)
 
     def wait_for_window(self, title, seconds=20):
-        """Waits until a window whose title begins so is active, and has drawn itself."""
+        """Waits until a window whose title begins so is active."""
 
         def active():
             if self.process.poll() is not None:
@@ -111,7 +155,6 @@ class Trimlog:
         name = until(active, seconds)
         if name is None:
             self._give_up(f"no window {title!r} became active; the active one is {self.active_window()!r}")
-        time.sleep(0.15)
         return name
 
     def active_window(self):
@@ -122,7 +165,6 @@ class Trimlog:
         for name in names:
             self._xdotool("key", "--clearmodifiers", name)
             self.keystrokes += 1
-            time.sleep(0.02)
 
     def type(self, text):
         self._xdotool("type", "--clearmodifiers", "--delay", "12", text)
@@ -150,12 +192,12 @@ class Trimlog:
 
     def expect_picture(self, wanted, what):
         """The window in front comes to look like an earlier picture of it, pixel by pixel (a text cursor blinks)."""
-        if not until(lambda: same_picture(wanted, self.picture("now.png")), seconds=6, pause=0.2):
+        if not until(lambda: same_picture(wanted, self.picture("now.png")), pause=0.2):
             self._give_up(f"{what}: the window looks otherwise than {wanted}; see {self.folder}/now.png")
 
     def expect_change(self, former, what):
         """The window in front comes to look otherwise than in an earlier picture, by more than a text cursor."""
-        if not until(lambda: different_pixels(former, self.picture("now.png")) > 100, seconds=6, pause=0.2):
+        if not until(lambda: different_pixels(former, self.picture("now.png")) > 100, pause=0.2):
             self._give_up(f"{what}: the window still looks like {former}")
 
     def quit(self, seconds=15):
@@ -246,27 +288,40 @@ def first_of_last_month():
     return (datetime.date.today().replace(day=1) - datetime.timedelta(days=1)).replace(day=1)
 
 
+@contextlib.contextmanager
+def stage(app_directory, shipped_directory, keep_on_failure=False, **screen):
+    """A screen with an installation on it; both are gone on every way out. What a failure left lies on if it shall."""
+    if not all(shutil.which(tool) for tool in TOOLS):
+        print("needs", ", ".join(TOOLS))
+        sys.exit(NOT_POSSIBLE_HERE)
+    for number in (signal.SIGTERM, signal.SIGHUP, signal.SIGINT):
+        signal.signal(number, lambda number, _: sys.exit(128 + number))
+    with contextlib.ExitStack() as ways_out:
+        display = Screen(**screen)
+        ways_out.callback(display.close)
+        trimlog = Trimlog(display, app_directory, shipped_directory)
+        ways_out.callback(trimlog.kill)
+        try:
+            yield trimlog
+        except Exception:
+            if not keep_on_failure:
+                trimlog.remove()
+            raise
+        except BaseException:  # ended from outside
+            trimlog.remove()
+            raise
+        trimlog.remove()
+
+
 def _too_long(*_):
     raise AssertionError(f"the road takes more than {ROAD_SECONDS} seconds")
 
 
-def walk(road, keep_on_failure=True, **screen):
+def walk(road, **screen):
     """Runs a road as a test: `script.py APP_DIRECTORY SHIPPED_DIRECTORY`. What it left lies on where it failed."""
-    if not all(shutil.which(tool) for tool in TOOLS):
-        print("needs", ", ".join(TOOLS))
-        sys.exit(NOT_POSSIBLE_HERE)
-    display = Screen(**screen)
-    trimlog = Trimlog(display, *sys.argv[1:3])
-    passed = False
-    signal.signal(signal.SIGALRM, _too_long)
-    signal.alarm(ROAD_SECONDS)
-    try:
+    with stage(*sys.argv[1:3], keep_on_failure=True, **screen) as trimlog:
+        signal.signal(signal.SIGALRM, _too_long)
+        signal.alarm(ROAD_SECONDS)
         road(trimlog)
-        check(trimlog.log(), "", "errorlog.txt")
-        passed = True
-    finally:
         signal.alarm(0)
-        trimlog.kill()
-        if passed or not keep_on_failure:
-            trimlog.remove()
-        display.close()
+        check(trimlog.log(), "", "errorlog.txt")
