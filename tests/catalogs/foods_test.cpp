@@ -6,13 +6,13 @@
 #include "catalogs/food_lists.h"
 #include "catalogs/nutrient_selection.h"
 #include "platform/store/recordset.h"
+#include "support/locales.h"
 #include "support/test_session.h"
 
 namespace trimlog {
 namespace {
 
 const QLocale english(QLocale::English, QLocale::UnitedStates);
-const QLocale german(QLocale::German, QLocale::Germany);
 
 class Foods : public ::testing::Test {
  protected:

@@ -5,13 +5,13 @@
 #include "companions/wizard_nutrients.h"
 #include "companions/wizard_plan.h"
 #include "platform/store/recordset.h"
+#include "support/locales.h"
 #include "support/test_session.h"
 
 namespace trimlog {
 namespace {
 
 const QLocale english(QLocale::English, QLocale::UnitedStates);
-const QLocale german(QLocale::German, QLocale::Germany);
 
 QStringList Titles(const WizardPlan &plan) {
   QStringList titles;

@@ -3,13 +3,13 @@
 #include "journal/day_totals.h"
 #include "journal/nutrient_columns.h"
 #include "journal/servings_rule.h"
+#include "support/locales.h"
 #include "support/test_session.h"
 
 namespace trimlog {
 namespace {
 
 const QLocale english(QLocale::English, QLocale::UnitedStates);
-const QLocale german(QLocale::German, QLocale::Germany);
 
 /// The vocabulary with positions chosen by a test: {NutrientID, totalled}.
 struct Position {

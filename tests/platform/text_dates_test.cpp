@@ -2,15 +2,12 @@
 
 #include "platform/error.h"
 #include "platform/text/text_format.h"
+#include "support/locales.h"
 
 namespace trimlog {
 namespace {
 
-const QLocale us(QLocale::English, QLocale::UnitedStates);
 const QLocale british(QLocale::English, QLocale::UnitedKingdom);
-const QLocale german(QLocale::German, QLocale::Germany);
-const QLocale swiss(QLocale::German, QLocale::Switzerland);
-const QLocale french(QLocale::French, QLocale::France);
 const QLocale swedish(QLocale::Swedish, QLocale::Sweden);
 
 TEST(FormatDate, Patterns) {

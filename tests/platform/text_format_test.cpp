@@ -1,4 +1,5 @@
 #include "platform/text/text_format.h"
+#include "support/locales.h"
 
 #include <gtest/gtest.h>
 
@@ -9,11 +10,6 @@
 
 namespace trimlog {
 namespace {
-
-const QLocale us(QLocale::English, QLocale::UnitedStates);
-const QLocale german(QLocale::German, QLocale::Germany);
-const QLocale swiss(QLocale::German, QLocale::Switzerland);
-const QLocale french(QLocale::French, QLocale::France);
 
 int NumberOf(const std::function<void()> &work) {
   try {

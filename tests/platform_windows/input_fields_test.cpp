@@ -7,12 +7,10 @@
 #include "platform/windows/fields/date_field.h"
 #include "platform/windows/fields/number_field.h"
 #include "platform/windows/fields/text_field.h"
+#include "support/locales.h"
 
 namespace trimlog {
 namespace {
-
-const QLocale us(QLocale::English, QLocale::UnitedStates);
-const QLocale german(QLocale::German, QLocale::Germany);
 
 TEST(NumberFieldTest, ReadsWhatAPersonTypes) {
   struct Row {

@@ -3,13 +3,13 @@
 #include <gtest/gtest.h>
 
 #include "platform/error.h"
+#include "support/locales.h"
 
 namespace trimlog {
 namespace {
 
 constexpr int male = 1;
 constexpr int female = 2;
-const QLocale us(QLocale::English, QLocale::UnitedStates);
 
 TEST(BodyFatBarPlace, FollowsThePercentageAndStaysOnTheBar) {
   struct Case {

@@ -3,11 +3,11 @@
 #include <gtest/gtest.h>
 
 #include "platform/error.h"
+#include "support/locales.h"
 
 namespace trimlog {
 namespace {
 
-const QLocale us(QLocale::English, QLocale::UnitedStates);
 const QDate today(2026, 3, 1);
 
 ToolsProfile Woman() {

@@ -2,11 +2,11 @@
 
 #include <gtest/gtest.h>
 
+#include "support/locales.h"
+
 namespace trimlog {
 namespace {
 
-const QLocale us(QLocale::English, QLocale::UnitedStates);
-const QLocale german(QLocale::German, QLocale::Germany);
 const BodyProfile tall{2, QDate(1990, 1, 1), 5, 6};     // 5 feet 6
 const BodyProfile metric{2, QDate(1990, 1, 1), 1, 70};  // 1.70 m
 const DatedWeight start{QDate(2026, 2, 2), 170};        // a Monday

@@ -9,11 +9,6 @@
 namespace trimlog {
 namespace {
 
-struct Typed {
-  const char *date;
-  const char *text;
-};
-
 TEST(TypedWeight, KeepsEveryLossConsistentWithTheWeightBefore) {
   struct Case {
     const char *why;

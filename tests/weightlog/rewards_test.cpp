@@ -8,11 +8,6 @@
 namespace trimlog {
 namespace {
 
-struct Typed {
-  const char *date;
-  const char *text;
-};
-
 // March 2026 starts on a Sunday: the 7th and the 14th are Saturdays.
 TEST(Rewards, FollowTheirRule) {
   struct Case {

@@ -13,6 +13,12 @@ namespace trimlog {
 
 inline QDate Day(const char *iso) { return QDate::fromString(QString::fromLatin1(iso), Qt::ISODate); }
 
+/// What is typed into the cell of a day.
+struct Typed {
+  const char *date;
+  const char *text;
+};
+
 /// A calendar on which weights are typed by date, as a person does who goes to the day, types and leaves the cell.
 class TypedCalendar {
  public:
