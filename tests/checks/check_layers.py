@@ -1,6 +1,6 @@
 #!/usr/bin/env python3
 """Holds the house to its plan: logic never reaches Qt Widgets, windows never include another room's window, arrows go
-down only, and boxes have one door.
+down only, boxes have one door, and files that are compiled as one do not get in each other's way.
 
 usage: check_layers.py SOURCE_DIR BUILD_DIR
 """
@@ -56,6 +56,32 @@ def shared_names(root):
             yield f"{' and '.join(headers)}: both define {name}"
 
 
+def units(root):
+    """The files that the builder may compile as one: a room's logic, its windows, its tests."""
+    found = {}
+    for path in sorted([*(root / "src").rglob("*.cpp"), *(root / "tests").glob("*/*_test.cpp")]):
+        here = path.relative_to(root)
+        if here.parts[1] == "crash":
+            continue  # programs of one file each
+        found.setdefault((*here.parts[:2], "windows" in here.parts), []).append(path)
+    return found.values()
+
+
+def names_that_meet(root):
+    """Names that two files of a room keep each for itself, and that meet when the files are compiled as one."""
+    declared = re.compile(r"^(?:struct|class|enum class|enum|union) (\w+)|^(?:inline |static )?(?:constexpr|const) [^=({;]*?"
+                          r"(\w+)(?:\[\w*\])?(?:[=({;]| =)|^using (\w+) =", re.M)
+    for unit in units(root):
+        homes = {}
+        for path in unit:
+            for block in re.findall(r"^namespace \{$(.*?)^\}  // namespace$", path.read_text("utf-8"), re.M | re.S):
+                for names in declared.findall(block):
+                    homes.setdefault("".join(names), set()).add(str(path.relative_to(root)))
+        for name, files in homes.items():
+            if len(files) > 1:
+                yield f"{' and '.join(sorted(files))}: both name something {name}"
+
+
 def linked_widgets(root, build):
     """Logic targets whose compile commands see the Qt Widgets headers."""
     commands = json.loads((build / "compile_commands.json").read_text())
@@ -68,7 +94,7 @@ def linked_widgets(root, build):
 
 def main():
     root, build = pathlib.Path(sys.argv[1]), pathlib.Path(sys.argv[2])
-    found = list(faults(root)) + list(shared_names(root)) + sorted(set(linked_widgets(root, build)))
+    found = list(faults(root)) + list(shared_names(root)) + list(names_that_meet(root)) + sorted(set(linked_widgets(root, build)))
     print("\n".join(found) or "The layers hold.")
     return 1 if found else 0
 

@@ -10,8 +10,6 @@ namespace trimlog {
 
 namespace {
 
-constexpr int defaultTargetSet = 30;
-
 QString PeopleValue(Session &session, const QString &field, const QString &personID) {
   return GetDataValue(session.Data(), field, QStringLiteral("people"), QStringLiteral("((people.PersonID)=?)"), {},
                       {personID.toInt()});

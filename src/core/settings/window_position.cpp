@@ -4,7 +4,7 @@ namespace trimlog {
 
 namespace {
 
-const QString maximised = QStringLiteral("2");
+const QString storedMaximised = QStringLiteral("2");
 
 class Geometry {
  public:
@@ -35,7 +35,7 @@ void ExchangeWindowState(Session &session, bool save) {
   if (save) {
     session.store.SaveSettingLong(settingsRoot, name, session.windows.frameWindowState);
   } else {
-    session.windows.frameWindowState = session.store.GetSettingString(settingsRoot, name) == maximised ? 2 : 0;
+    session.windows.frameWindowState = session.store.GetSettingString(settingsRoot, name) == storedMaximised ? 2 : 0;
   }
 }
 

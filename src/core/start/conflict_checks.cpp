@@ -7,7 +7,7 @@ namespace trimlog {
 
 namespace {
 
-const QString blankLine = QStringLiteral("\n\n");
+const QString paragraph = QStringLiteral("\n\n");
 const QString settled = QStringLiteral("0");
 
 /// What one check says and where it leads.
@@ -47,7 +47,7 @@ bool AskAboutConflict(Session &session, const Conflict &conflict) {
   if (answer == BoxButton::Yes) {
     if (!session.machine.OpenInBrowser(conflict.page)) {
       session.boxes.Critical(QStringLiteral("Problem Opening Web Browser"),
-                             conflict.browserFailure + blankLine + conflict.page);
+                             conflict.browserFailure + paragraph + conflict.page);
     }
     return false;
   }
@@ -55,7 +55,7 @@ bool AskAboutConflict(Session &session, const Conflict &conflict) {
       conflict.title,
       QStringLiteral("Please write down the following address to our web site, where you can go if you happen to "
                      "experience a problem:") +
-          blankLine + conflict.page + blankLine +
+          paragraph + conflict.page + paragraph +
           QStringLiteral(
               "You will not receive this message again.  Thank you and remember -- if you have any questions "
               "or problems, feel free to contact us at ") +
@@ -77,11 +77,11 @@ Conflict VideoDriver() {
       QStringLiteral("CheckForConflicts1"), QStringLiteral("Possible Video Driver Problem"),
       QStringLiteral("It appears that you have an \"nVidia TNT\" compatible video card in your computer with older "
                      "drivers.  This is a specific scenerio, which we have found to cause problems with Trimlog Pro.") +
-          blankLine +
+          paragraph +
           QStringLiteral("To resolve this problem just go to the \"Support\" area of our web site where we have "
                          "provided a way for you to update your video drivers.  We have made every attempt to make "
                          "this as quick and easy as possible.") +
-          blankLine + QStringLiteral("Would you like to go to there now to learn more and update your drivers?"),
+          paragraph + QStringLiteral("Would you like to go to there now to learn more and update your drivers?"),
       QStringLiteral("There was a problem opening your default web browser.  Please open your web browser and go to "
                      "the following web site now, where you can obtain newer video drivers for your computer:"),
       product::videoDriverPage};
@@ -92,7 +92,7 @@ Conflict GuardDog() {
       QStringLiteral("CheckForConflicts2"), QStringLiteral("Internet Guard Dog Conflict"),
       QStringLiteral("It appears that McAfee Internet Guard Dog is currently running.  This specific application has "
                      "been known interfere with Trimlog Pro, causing problems when trying to close the program.") +
-          blankLine +
+          paragraph +
           QStringLiteral("We suggest that you go to the Trimlog Pro web site now to learn more about this known "
                          "problem.  Would you like to do this now?"),
       QStringLiteral("There was a problem opening your default web browser.  Please open your web browser and go to "

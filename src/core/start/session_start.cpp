@@ -2,6 +2,7 @@
 
 #include "core/data/data_access.h"
 #include "core/profiles/colour_scheme.h"
+#include "core/profiles/profiles.h"
 #include "core/session/failure_guard.h"
 #include "core/session/system_services.h"
 #include "platform/store/recordset.h"
@@ -11,7 +12,6 @@ namespace trimlog {
 
 namespace {
 
-constexpr int defaultTargetSet = 30;
 const QString firstPerson = QStringLiteral("1");
 
 struct ProfileRow {
