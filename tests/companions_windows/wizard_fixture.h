@@ -38,7 +38,7 @@ class Keyboard {
   /// A button pressed by its access key stays down for a moment before it acts.
   void Alt(Qt::Key key) {
     Press(key, Qt::AltModifier);
-    QTest::qWait(150);
+    WaitForPressedButtons();
   }
   void Tab(int times = 1) {
     while (times-- > 0) Press(Qt::Key_Tab);

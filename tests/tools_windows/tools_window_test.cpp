@@ -127,7 +127,7 @@ TEST_F(ToolsWindow, EveryEditAsksToCalculateAgain) {
   Type("txtGoal", "155");
   EXPECT_EQ(TextOf("txtGoalConstraint").toStdString(), prompt);
   QTest::keyClick(window.get(), Qt::Key_A, Qt::AltModifier);
-  QTest::qWait(150);
+  WaitForPressedButtons();
   EXPECT_TRUE(TextOf("txtGoalConstraint").startsWith(QStringLiteral("If you can lose 2 lbs/week")));
   Choose("optGoalDate");
   EXPECT_EQ(TextOf("txtGoalConstraint").toStdString(), prompt);
@@ -172,7 +172,7 @@ TEST_F(ToolsWindow, ARefusedFieldKeepsTheFocusAndItsTextSelected) {
   Type("txtGoal", "0");
   session.boxes.Expect(QStringLiteral("Invalid Goal"), QStringLiteral("positive value"));
   QTest::keyClick(window.get(), Qt::Key_A, Qt::AltModifier);
-  QTest::qWait(150);
+  WaitForPressedButtons();
   EXPECT_EQ(TextOf("txtGoalConstraint").toStdString(), prompt);
   Type("txtGoal", "0");
   session.boxes.Expect(QStringLiteral("Invalid Goal"), QStringLiteral("positive value"));

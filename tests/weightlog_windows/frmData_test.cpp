@@ -12,6 +12,7 @@
 #include "platform/store/recordset.h"
 #include "platform/text/text_format.h"
 #include "support/test_session.h"
+#include "support/windows/controls.h"
 #include "weightlog/weight_log.h"
 #include "weightlog/windows/fit_label.h"
 #include "weightlog/windows/frmReward.h"
@@ -332,9 +333,11 @@ TEST(FrmData, CongratulatesOnceTheWeightIsSaved) {
   c.Open();
   c.Type("199");
   bool seen = false;
-  QTimer::singleShot(50, c.form.get(), [&] {
+  QTimer look;
+  QObject::connect(&look, &QTimer::timeout, [&] {
     auto *reward = qobject_cast<frmReward *>(QApplication::activeModalWidget());
-    ASSERT_NE(reward, nullptr);
+    if (!reward || c.session.machine.played.isEmpty()) return;  // nor before its sound
+    look.stop();
     seen = true;
     EXPECT_EQ(reward->windowTitle(), QStringLiteral("Daily Reward"));
     EXPECT_EQ(reward->findChild<QLabel *>(QStringLiteral("lblRewardLost"))->text(),
@@ -344,9 +347,9 @@ TEST(FrmData, CongratulatesOnceTheWeightIsSaved) {
     EXPECT_EQ(reward->findChild<QLabel *>(QStringLiteral("lblLbsLeft"))->text(), QStringLiteral("49 pounds to go!"));
     QTest::keyClick(reward, Qt::Key_Escape);
   });
+  look.start();
   QTest::keyClick(c.Focus(), Qt::Key_Tab);
-  QTest::qWait(150);
-  EXPECT_TRUE(seen);
+  ASSERT_TRUE(QTest::qWaitFor([&] { return seen && !QApplication::activeModalWidget(); }, patience));
   EXPECT_EQ(c.session.machine.played, QStringList(QStringLiteral("/tada.wav")));
   c.form->activateWindow();
   ASSERT_TRUE(QTest::qWaitForWindowActive(c.form.get()));
@@ -355,7 +358,8 @@ TEST(FrmData, CongratulatesOnceTheWeightIsSaved) {
   c.Type("190");
   c.session->windows.SuppressReward = true;  // a navigation button was pressed
   EXPECT_EQ(c.form->SaveOpenEdit(), EditOutcome::Saved);
-  QTest::qWait(60);
+  QCoreApplication::processEvents();  // in which the reward would come
+  QCoreApplication::processEvents();  // and its sound
   EXPECT_EQ(c.session.machine.played.size(), 1);
 }
 

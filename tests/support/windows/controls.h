@@ -2,9 +2,12 @@
 
 #include <gtest/gtest.h>
 
+#include <QAbstractButton>
 #include <QApplication>
+#include <QTest>
 #include <QTimer>
 #include <QWidget>
+#include <algorithm>
 #include <functional>
 #include <stdexcept>
 
@@ -22,6 +25,17 @@ Control &Find(QWidget &window, const QString &name) {
   }
   throw std::runtime_error("No control " + name.toStdString() + " of this kind among " +
                            names.join(u' ').toStdString());
+}
+
+constexpr int patience = 30000;  ///< milliseconds; only a failure takes that long
+
+/// A button pressed by its access key stays down for a moment before it acts: waits until it has acted.
+inline void WaitForPressedButtons() {
+  const auto down = [](const QWidget *widget) {
+    const auto *button = qobject_cast<const QAbstractButton *>(widget);
+    return button && button->isDown();
+  };
+  EXPECT_TRUE(QTest::qWaitFor([&] { return std::ranges::none_of(QApplication::allWidgets(), down); }, patience));
 }
 
 /// Acts on the next modal window once it stands, and closes it when the act did not: a test never hangs in exec().
