@@ -5,7 +5,6 @@
 #include "catalogs/windows/frmSelectedNutrients.h"
 #include "catalogs/windows/frmSetupFoods.h"
 #include "companions/windows/frmWizard.h"
-#include "core/session/help.h"
 #include "core/windows/profiles/add_profile_page.h"
 #include "core/windows/setup/frmSetup.h"
 #include "program.h"
@@ -36,7 +35,7 @@ void Program::FillNavigator() {
   navigator_.LoadData = [this](const QString &personID) { frame_->LoadData(personID); };
   navigator_.ExitProgram = [this] { frame_->close(); };
   navigator_.ResetMainWindow = [this] { frame_->ResetPlace(); };
-  navigator_.ShowHelp = [this](const QString &topic) { ShowHelp(session_, topic); };
+  navigator_.ShowHelp = [this](const QString &topic) { help_.Show(topic); };
   navigator_.OpenTools = [this](ToolsPanel panel) { OpenTools(session_, navigator_, panel, frame_.get()); };
   navigator_.OpenFoodSetup = [this](QWidget *owner) {
     frmSetupFoods(session_, navigator_, owner ? owner : frame_.get()).exec();

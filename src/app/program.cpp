@@ -12,6 +12,7 @@ Program::Program(Session &session, const OperatingSystem &system)
     : session_(session),
       system_(system),
       instance_(session.programDirectory),
+      help_(session),
       application_(session, hooks_, doors_, system) {
   FillHooks();
   FillNavigator();

@@ -6,6 +6,7 @@
 #include "core/session/room_hooks.h"
 #include "core/start/startup.h"
 #include "core/windows/frame/frmMDI.h"
+#include "core/windows/help/help_desk.h"
 #include "platform/machine/end_signals.h"
 #include "platform/machine/single_instance.h"
 
@@ -31,6 +32,7 @@ class Program {
   const OperatingSystem &system_;
   SingleInstance instance_;
   EndSignals endSignals_;
+  HelpDesk help_;
   Navigator navigator_;
   RoomHooks hooks_;
   FrameDoors doors_;
