@@ -1,6 +1,7 @@
 #include <QApplication>
 
 #include "core/windows/controls/theme_style.h"
+#include "platform/windows/fields/wheel_guard.h"
 #include "platform/windows/machine/font_warmth.h"
 #include "platform/windows/machine/qt_boxes.h"
 #include "platform/windows/machine/qt_machine.h"
@@ -11,6 +12,7 @@ int main(int argc, char **argv) {
   const FontWarmth warmth;
   QApplication application(argc, argv);
   QApplication::setStyle(new ThemeStyle(QApplication::style()->name()));
+  const WheelGuard wheelGuard(&application);
   QApplication::setApplicationName(QStringLiteral("trimlog"));
   // Only closing the main window ends the program: a sign-in window or a box before it must not.
   QApplication::setQuitOnLastWindowClosed(false);

@@ -81,6 +81,16 @@ TEST_F(GridTest, JumpKeysMarkTheRowTheyComeTo) {
   EXPECT_EQ(grid.MarkedKeys(), std::vector<qint64>{1});
   Press(Qt::Key_End, Qt::ControlModifier);
   EXPECT_EQ(grid.MarkedKeys(), std::vector<qint64>{40});
+  GoTo(37, "Nut1");
+  Press(Qt::Key_Down);
+  Press(Qt::Key_End, Qt::ControlModifier | Qt::ShiftModifier);
+  EXPECT_EQ(grid.MarkedKeys(), (std::vector<qint64>{38, 39, 40}));
+  ASSERT_TRUE(grid.GoToKey(2));
+  Press(Qt::Key_Home, Qt::ControlModifier | Qt::ShiftModifier);
+  EXPECT_EQ(grid.MarkedKeys(), (std::vector<qint64>{1, 2}));
+  GoTo(40, "FoodDesc");
+  Press(Qt::Key_End);
+  EXPECT_EQ(grid.CurrentColumn().toStdString(), "IsModified") << "not the empty column behind it";
   Press(Qt::Key_Tab, Qt::ControlModifier);
   EXPECT_EQ(grid.CurrentKey(), 40) << "Ctrl+Tab is for the pages around the grid";
   EXPECT_EQ(grid.CurrentColumn().toStdString(), "IsModified");
@@ -262,6 +272,7 @@ TEST_F(GridTest, DeletingAsksOnceAndKeepsThePlace) {
   EXPECT_EQ(Count(), 37);
   EXPECT_EQ(grid.CurrentKey(), 6) << "the row behind the first deleted one";
   GoTo(40, "FoodDesc");
+  Press(Qt::Key_Space, Qt::ShiftModifier);
   Press(Qt::Key_Delete);
   EXPECT_EQ(grid.CurrentKey(), 39) << "at the end of the list, the last row";
 }

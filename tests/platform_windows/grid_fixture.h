@@ -114,6 +114,14 @@ class GridTest : public ::testing::Test {
     for (const QChar character : text) QTest::keyClick(Focus(), character.toLatin1());
     QApplication::processEvents();
   }
+  /// The mouse as the window system brings it: to the window, at the place where the cell is now.
+  QPoint PlaceOf(const QModelIndex &cell) {
+    return grid.viewport()->mapTo(grid.window(), grid.visualRect(cell).center());
+  }
+  void Click(const QPoint &place, Qt::MouseButton button = Qt::LeftButton, Qt::KeyboardModifiers modifiers = {}) {
+    QTest::mouseClick(grid.window()->windowHandle(), button, modifiers, place);
+    QApplication::processEvents();
+  }
   QWidget *Focus() { return QApplication::focusWidget() ? QApplication::focusWidget() : &grid; }
 
   QTemporaryDir directory;

@@ -1,6 +1,7 @@
 #include "platform/grid/grid_keys.h"
 
 #include <algorithm>
+#include <unordered_set>
 
 namespace trimlog {
 
@@ -54,6 +55,20 @@ std::vector<qint64> GridKeys::Range(int first, int last) {
   last = std::min(last, static_cast<int>(keys_.size()) - 1);
   if (first > last) return {};
   return {keys_.begin() + first, keys_.begin() + last + 1};
+}
+
+void GridKeys::OrderLike(const GridKeys &older) {
+  ReadAll();
+  std::unordered_set<qint64> left(keys_.begin(), keys_.end());
+  std::vector<qint64> ordered;
+  ordered.reserve(keys_.size());
+  for (const qint64 key : older.keys_) {
+    if (left.erase(key) > 0) ordered.push_back(key);
+  }
+  for (const qint64 key : keys_) {
+    if (left.contains(key)) ordered.push_back(key);
+  }
+  keys_ = std::move(ordered);
 }
 
 void GridKeys::Append(qint64 key) {

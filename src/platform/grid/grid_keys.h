@@ -28,6 +28,8 @@ class GridKeys {
   const std::vector<qint64> &All();
   std::vector<qint64> Range(int first, int last);  ///< both ends included, clipped to the list
   void Append(qint64 key);
+  /// Brings the keys into the order of an older reading; what that did not hold follows in the order read.
+  void OrderLike(const GridKeys &older);
 
  private:
   ReadTop read_;

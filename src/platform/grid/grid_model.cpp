@@ -1,5 +1,6 @@
 #include "platform/grid/grid_model.h"
 
+#include <QSet>
 #include <algorithm>
 #include <utility>
 
@@ -108,9 +109,9 @@ void GridModel::SetSource(const GridSource &source, bool whole) {
   }
 }
 
-void GridModel::Refresh() { Reread(); }
+void GridModel::Refresh(bool keepOrder) { Reread(keepOrder, keepOrder); }
 
-void GridModel::Reread(bool whole) {
+void GridModel::Reread(bool whole, bool keepOrder) {
   if (!database_) return;
   GridKeys fresh;
   const auto read = [database = database_, source = source_](int top) {
@@ -124,6 +125,7 @@ void GridModel::Reread(bool whole) {
       return database_->OpenRecordset(count.sql, count.params, RecordsetKind::Forward).Field(0).toInt();
     });
   }
+  if (keepOrder) fresh.OrderLike(keys_);
   beginResetModel();
   keys_ = std::move(fresh);
   cache_.Clear();
@@ -134,6 +136,21 @@ void GridModel::Reread(bool whole) {
 void GridModel::RefreshRow(qint64 key) {
   cache_.Forget(key);
   AnnounceRow(keys_.RowOf(key));
+}
+
+bool GridModel::RefreshRows(const std::vector<qint64> &keys) {
+  constexpr size_t cheaperReadWhole = 1000;
+  if (!database_) return true;
+  if (keys.size() > cheaperReadWhole) return false;
+  QSet<qint64> belonging;
+  InBlocks(keys, RowCache::block, [&](const std::vector<qint64> &some) {
+    for (const qint64 key : KeysOf(*database_, BelongingStatement(source_, some))) belonging.insert(key);
+  });
+  for (const qint64 key : keys) {
+    if (belonging.contains(key) != (keys_.RowOf(key) >= 0)) return false;
+  }
+  for (const qint64 key : keys) RefreshRow(key);
+  return true;
 }
 
 void GridModel::LoadAllKeys() {
@@ -274,8 +291,12 @@ QVariant GridModel::data(const QModelIndex &index, int role) const try {
     case Qt::TextAlignmentRole:
       return QVariant::fromValue(AlignmentOf(*column));
     case Qt::ToolTipRole:
+    case Qt::AccessibleDescriptionRole:
     case SentenceRole:
       return SentenceOf(index, *column);
+    case Qt::AccessibleTextRole:
+      if (column->type != GridType::Check || index.row() >= RecordCount()) return {};
+      return FieldOf(index.row(), column->field).toBool() ? tr("Checked") : tr("Not checked");
     case CellChangedRole:
       return IsFieldChanged(index);
     case ValueRole:
@@ -287,21 +308,29 @@ QVariant GridModel::data(const QModelIndex &index, int role) const try {
   return {};  // a row that cannot be read is shown empty; what the person does next meets the same failure and tells it
 }
 
+QString GridModel::RowStateInWords(int row) const {
+  if (!edit_ || row != ChangingRow()) return row == RecordCount() && allowNew_ ? tr("New row") : QString();
+  return edit_->HasRefusals() || !edit_->rowSentence.isEmpty() ? tr("Refused") : tr("Changed, not saved yet");
+}
+
 QVariant GridModel::headerData(int section, Qt::Orientation orientation, int role) const {
   if (orientation == Qt::Vertical) {
     if (role == Qt::TextAlignmentRole) return Qt::AlignCenter;
     if (role == Qt::ToolTipRole && edit_ && section == ChangingRow()) return edit_->rowSentence;
+    if (role == Qt::AccessibleTextRole) return RowStateInWords(section);
     if (role != Qt::DisplayRole) return {};
     if (edit_ && section == ChangingRow()) {
       return edit_->HasRefusals() || !edit_->rowSentence.isEmpty() ? QStringLiteral("!") : QString(QChar(0x2022));
     }
-    return section == RecordCount() ? QStringLiteral("*") : QString();
+    return section == RecordCount() && allowNew_ ? QStringLiteral("*") : QString();
   }
   if (section < 0 || section >= static_cast<int>(columns_.size())) return {};
   const GridColumn &column = columns_[section];
   switch (role) {
     case Qt::DisplayRole:
       return column.caption;
+    case Qt::AccessibleTextRole:
+      return QString(column.caption).replace(QLatin1Char('\n'), QLatin1Char(' '));
     case ColumnNameRole:
       return column.name;
     case Qt::TextAlignmentRole:

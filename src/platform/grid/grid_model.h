@@ -51,8 +51,12 @@ class GridModel : public QAbstractTableModel {
   void SetSource(const GridSource &source, bool whole = false);
   const GridSource &Source() const { return source_; }
   bool IsOpen() const { return database_ != nullptr; }
-  void Refresh();               ///< reads everything afresh; the row being changed stays as typed
+  /// Reads everything afresh; the row being changed stays as typed. `keepOrder` leaves the rows where they stand, with
+  /// what is new behind them.
+  void Refresh(bool keepOrder = false);
   void RefreshRow(qint64 key);  ///< reads one row afresh
+  /// Reads rows afresh, each at its place. False, with nothing done, when one of them came to the source or left it.
+  bool RefreshRows(const std::vector<qint64> &keys);
   void LoadAllKeys();
   bool AllKeysLoaded() const;
   /// Reads the rows of a visible range, so that painting finds them.
@@ -103,7 +107,7 @@ class GridModel : public QAbstractTableModel {
   const GridRow *FetchedRow(int row) const;  ///< good until the next row is fetched
   std::vector<GridRow> FetchRows(const std::vector<qint64> &keys) const;
   void CollectFields();
-  void Reread(bool whole = false);
+  void Reread(bool whole = false, bool keepOrder = false);
   GridRowEdit &BeginChange(int row);
   void DropEditWhenEmpty();
   qint64 WriteRow();
@@ -111,6 +115,7 @@ class GridModel : public QAbstractTableModel {
   void AnnounceRow(int row);
   QVariant CellText(const QModelIndex &index, const GridColumn &column, bool forEditing) const;
   QString SentenceOf(const QModelIndex &index, const GridColumn &column) const;
+  QString RowStateInWords(int row) const;
 
   QLocale locale_;
   Database *database_ = nullptr;

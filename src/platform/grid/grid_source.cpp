@@ -35,9 +35,7 @@ Condition Shown(const GridSource &source) {
 
 // The number of question marks is rounded up to a power of two, with the last key repeated, so that few different
 // statements need to be prepared.
-Condition WithKeys(const GridSource &source, const std::vector<qint64> &keys) {
-  Condition condition;
-  AddScope(condition, source);
+void AddKeys(Condition &condition, const GridSource &source, const std::vector<qint64> &keys) {
   size_t places = 1;
   while (places < keys.size()) places *= 2;
   Params values;
@@ -48,6 +46,12 @@ Condition WithKeys(const GridSource &source, const std::vector<qint64> &keys) {
   }
   condition.Add(QStringLiteral("%1 IN (%2)").arg(QualifiedField(source, source.key), marks.join(QStringLiteral(", "))),
                 values);
+}
+
+Condition WithKeys(const GridSource &source, const std::vector<qint64> &keys) {
+  Condition condition;
+  AddScope(condition, source);
+  AddKeys(condition, source, keys);
   return condition;
 }
 
@@ -99,6 +103,12 @@ GridStatement RowsStatement(const GridSource &source, const QStringList &fields,
   return {QStringLiteral("SELECT %1 FROM %2%3;")
               .arg(columns.join(QStringLiteral(", ")), whole ? source.table : FromClause(source), condition.Where()),
           condition.params};
+}
+
+GridStatement BelongingStatement(const GridSource &source, const std::vector<qint64> &keys) {
+  Condition condition = Shown(source);
+  AddKeys(condition, source, keys);
+  return SelectKeys(source, condition, 0);
 }
 
 GridStatement UpdateStatement(const GridSource &source, qint64 key, const QVariantMap &values) {

@@ -48,6 +48,8 @@ GridStatement CountStatement(const GridSource &source);
 GridStatement FindStatement(const GridSource &source, const QString &criterion, const Params &params);
 /// Key and fields of the rows with these keys, in any order; all columns of the table when `fields` is empty.
 GridStatement RowsStatement(const GridSource &source, const QStringList &fields, const std::vector<qint64> &keys);
+/// Those of the keys whose rows the source shows.
+GridStatement BelongingStatement(const GridSource &source, const std::vector<qint64> &keys);
 GridStatement UpdateStatement(const GridSource &source, qint64 key, const QVariantMap &values);
 /// Scope columns and values; `values` holds the key as well.
 GridStatement InsertStatement(const GridSource &source, const QVariantMap &values);

@@ -80,8 +80,8 @@ void GridMenu::UpdateActions(BoundGrid &grid) {
   copyRow_->setEnabled(onRow);
   pasteRow_->setEnabled(static_cast<bool>(grid.Hooks().pasteRows));
   deleteRow_->setEnabled(onRow && grid.canDelete);
-  undoField_->setEnabled(grid.Model().IsFieldChanged(cell));
-  undoRow_->setEnabled(grid.Model().IsChanging());
+  undoField_->setEnabled(grid.Model().IsFieldChanged(cell) || grid.IsTyping());
+  undoRow_->setEnabled(grid.Model().IsChanging() || grid.IsTyping());
   sortAscending_->setEnabled(sortable);
   sortDescending_->setEnabled(sortable);
   targets_->setEnabled(static_cast<bool>(navigator_.OpenTargets));

@@ -1,7 +1,9 @@
 #include "platform/windows/grid/bound_grid.h"
 
+#include <QApplication>
 #include <QEvent>
 #include <QHeaderView>
+#include <QPainter>
 #include <QScrollBar>
 #include <algorithm>
 #include <utility>
@@ -17,6 +19,7 @@ struct BoundGrid::Place {
   int row = -1;
   int column = -1;
   bool onNewRow = false;
+  bool rowChosen = false;
   std::optional<qint64> topKey;
   std::vector<qint64> marked;
 };
@@ -49,6 +52,8 @@ BoundGrid::BoundGrid(const QString &objectName, const QString &label, const QLoc
   connect(captions, &QHeaderView::sectionResized, this, [this] {
     if (!applyingWidths_ && store_) saveWidthsLater_.start();
   });
+  disconnect(verticalHeader(), SIGNAL(sectionPressed(int)), this, SLOT(selectRow(int)));
+  connect(verticalHeader(), &QHeaderView::sectionPressed, this, &BoundGrid::ChooseRow);
   verticalHeader()->setSectionResizeMode(QHeaderView::Fixed);
   verticalHeader()->setHighlightSections(true);
   ApplyFont();
@@ -183,10 +188,17 @@ bool BoundGrid::SetSource(const GridSource &source, bool whole) {
 }
 
 bool BoundGrid::Refresh() {
-  return RunGuarded(GridAction::Load, [this] { KeepingPlace([this] { model_->Refresh(); }); });
+  return RunGuarded(GridAction::Load, [this] { KeepingPlace([this] { model_->Refresh(HoldsOrder()); }); });
 }
 
-bool BoundGrid::RefreshRows(const std::vector<qint64> &) { return Refresh(); }
+bool BoundGrid::RefreshRows(const std::vector<qint64> &keys) {
+  bool inPlace = false;
+  const bool read = RunGuarded(GridAction::Load, [&] { inPlace = !keys.empty() && model_->RefreshRows(keys); });
+  if (inPlace) PrefetchVisible();
+  return read && (inPlace || Refresh());
+}
+
+bool BoundGrid::HoldsOrder() const { return committing_ || QApplication::mouseButtons() != Qt::NoButton; }
 
 // The cell that a person would begin with: the first that shows something.
 int BoundGrid::FirstColumn() const {
@@ -194,6 +206,13 @@ int BoundGrid::FirstColumn() const {
   const auto first = std::find_if(columns.begin(), columns.end(),
                                   [](const GridColumn &column) { return column.visible && !column.field.isEmpty(); });
   return first == columns.end() ? 0 : static_cast<int>(first - columns.begin());
+}
+
+int BoundGrid::LastColumn() const {
+  const GridColumns &columns = model_->Columns();
+  const auto last = std::find_if(columns.rbegin(), columns.rend(),
+                                 [](const GridColumn &column) { return column.visible && !column.field.isEmpty(); });
+  return last == columns.rend() ? 0 : static_cast<int>(columns.rend() - last) - 1;
 }
 
 void BoundGrid::GoToFirstRow() {
@@ -214,6 +233,7 @@ bool BoundGrid::SortBy(const QString &columnName, bool descending) {
   const bool sorted = RunGuarded(GridAction::Load, [&] { KeepingPlace([&] { model_->SetSource(source, true); }); });
   ShowSortIndicator();
   if (currentIndex().isValid()) scrollTo(currentIndex());
+  if (sorted) Q_EMIT Sorted();
   return sorted;
 }
 
@@ -228,7 +248,7 @@ void BoundGrid::SortByClick(int section) {
   const QList<GridOrder> &order = model_->Source().order;
   const GridColumn &column = model_->Columns()[section];
   const bool again = SortsBy(column) && !order.first().descending;
-  SortBy(column.name, again);
+  if (!SortBy(column.name, again)) ShowSortIndicator();  // the click has moved the arrow
 }
 
 void BoundGrid::ShowSortIndicator() {
@@ -255,6 +275,7 @@ BoundGrid::Place BoundGrid::TakePlace() const {
   place.onNewRow = current.isValid() && !place.key;
   place.topKey = model_->KeyOfRow(rowAt(0));
   place.marked = MarkedKeys();
+  place.rowChosen = rowChosen_;
   return place;
 }
 
@@ -270,7 +291,7 @@ void BoundGrid::RestorePlace(const Place &place) {
     const int top = model_->RowOfKey(*place.topKey);
     if (top > 0) verticalScrollBar()->setValue(top);
   }
-  MarkRows(place.marked);
+  SelectRows(place.marked);
   const int rows = model_->rowCount();
   int row = place.key ? model_->RowOfKey(*place.key) : -1;
   if (row < 0) row = place.onNewRow ? rows - 1 : std::min(place.row, model_->RecordCount() - 1);
@@ -280,6 +301,7 @@ void BoundGrid::RestorePlace(const Place &place) {
         model_->index(row, std::clamp(place.column, 0, model_->columnCount() - 1)),
         markIt ? QItemSelectionModel::ClearAndSelect | QItemSelectionModel::Rows : QItemSelectionModel::NoUpdate);
   }
+  rowChosen_ = place.rowChosen;
   PrefetchVisible();
   TellCurrentRow();
 }
@@ -314,8 +336,9 @@ bool BoundGrid::GoToKey(qint64 key, bool atTop) {
   const int column = currentIndex().column();
   const QModelIndex cell = model_->index(row, column < 0 || isColumnHidden(column) ? FirstColumn() : column);
   selectionModel()->setCurrentIndex(cell, QItemSelectionModel::ClearAndSelect | QItemSelectionModel::Rows);
+  if (CurrentKey() != key) return false;
   scrollTo(cell, atTop ? QAbstractItemView::PositionAtTop : QAbstractItemView::EnsureVisible);
-  return CurrentKey() == key;
+  return true;
 }
 
 std::vector<int> BoundGrid::MarkedRowNumbers() const {
@@ -337,6 +360,11 @@ std::vector<qint64> BoundGrid::MarkedKeys() const {
 }
 
 void BoundGrid::MarkRows(const std::vector<qint64> &keys) {
+  SelectRows(keys);
+  rowChosen_ = true;
+}
+
+void BoundGrid::SelectRows(const std::vector<qint64> &keys) {
   const std::vector<int> rows = model_->RowsOfKeys(keys);
   const int lastColumn = model_->columnCount() - 1;
   QItemSelection selection;
@@ -351,6 +379,12 @@ void BoundGrid::MarkRows(const std::vector<qint64> &keys) {
 
 void BoundGrid::ClearMarks() { selectionModel()->clearSelection(); }
 
+bool BoundGrid::RowsMarked() const {
+  const QItemSelection selection = selectionModel()->selection();
+  if (selection.isEmpty()) return false;
+  return rowChosen_ || selection.size() > 1 || selection.first().height() > 1;
+}
+
 void BoundGrid::TellCurrentRow() {
   if (const std::optional<qint64> key = CurrentKey(); key != lastKey_ || !key) {
     lastKey_ = key;
@@ -360,6 +394,8 @@ void BoundGrid::TellCurrentRow() {
 
 void BoundGrid::currentChanged(const QModelIndex &current, const QModelIndex &previous) {
   QTableView::currentChanged(current, previous);
+  rowChosen_ = false;
+  if (!extending_) anchorKey_ = CurrentKey();
   viewport()->update(visualRect(previous));
   if (current.row() != previous.row() || !current.isValid()) TellCurrentRow();
 }
@@ -397,6 +433,21 @@ void BoundGrid::changeEvent(QEvent *event) {
 void BoundGrid::paintEvent(QPaintEvent *event) {
   QTableView::paintEvent(event);
   if (model_->IsOpen() && !model_->AllKeysLoaded()) readKeysLater_.start();
+  if (model_->rowCount() == 0 && !placeholderText_.isEmpty()) DrawPlaceholder();
+}
+
+void BoundGrid::SetPlaceholderText(const QString &text) {
+  placeholderText_ = text;
+  setAccessibleDescription(text);
+  viewport()->update();
+}
+
+void BoundGrid::DrawPlaceholder() {
+  QPainter painter(viewport());
+  painter.setPen(palette().color(QPalette::PlaceholderText));
+  const int margin = fontMetrics().height();
+  painter.drawText(viewport()->rect().adjusted(margin, margin, -margin, -margin),
+                   Qt::AlignHCenter | Qt::AlignTop | Qt::TextWordWrap, placeholderText_);
 }
 
 }  // namespace trimlog

@@ -47,8 +47,11 @@ class BoundGrid : public QTableView {
   bool Open(Database &database, const GridSource &source);
   /// `whole` reads all keys in one pass: for a search, whose rows cost as much to count as to find.
   bool SetSource(const GridSource &source, bool whole = false);
-  bool Refresh();  ///< current cell, marked rows and scroll place are kept by key
-  /// Rows that somebody else changed, added or deleted; empty: any. Keeps the place, and the row being typed.
+  /// Reads everything afresh; current cell, marked rows and scroll place are kept by key. While a row is being left or
+  /// a mouse button is down the rows stay in their order: what the person points at must not move away.
+  bool Refresh();
+  /// Reads afresh what was changed, added or deleted elsewhere; no keys mean any row. The row being typed stays as
+  /// typed.
   bool RefreshRows(const std::vector<qint64> &keys);
   /// Sorts by a column, then the key. False when nothing was sorted.
   bool SortBy(const QString &columnName, bool descending);
@@ -62,14 +65,22 @@ class BoundGrid : public QTableView {
   std::vector<qint64> MarkedKeys() const;  ///< in the order shown
   void MarkRows(const std::vector<qint64> &keys);
   void ClearMarks();
+  void selectAll() override;
+  /// True when rows are marked as such (by hand, or more than one), not only because a cell in them is current.
+  bool RowsMarked() const;
 
   /// Saves what is being typed, as leaving the row would. False when it was refused or failed: the person must see it.
   bool CommitRow();
   /// Deletes the marked rows (the current one when none is marked) in one transaction, after the before-delete hook
   /// agreed.
   bool DeleteSelected();
+  bool IsTyping() const;  ///< a cell's editor is open and holds something else than the cell
   void UndoField();
   void UndoRow();
+  /// Empties the current cell where it can be typed in; false where it cannot.
+  bool ClearCell();
+  /// What an empty list says to do; "" for nothing.
+  void SetPlaceholderText(const QString &text);
 
   // The Edit commands, on the text of the active cell.
   void Cut();
@@ -85,10 +96,13 @@ class BoundGrid : public QTableView {
   void RowActivated(qint64 key);             ///< double click on, or Enter in, a row that cannot be changed
   void MenuWanted(const QPoint &globalPos);  ///< right click or the menu key; current cell is the one under it
   void RefusedRow(const QString &sentence);
+  void Sorted();  ///< the rows stand in another order now: a caption, the menu or SortBy
 
  protected:
   void keyPressEvent(QKeyEvent *event) override;
   void mousePressEvent(QMouseEvent *event) override;
+  void mouseMoveEvent(QMouseEvent *event) override;
+  void mouseReleaseEvent(QMouseEvent *event) override;
   void mouseDoubleClickEvent(QMouseEvent *event) override;
   void contextMenuEvent(QContextMenuEvent *event) override;
   void focusOutEvent(QFocusEvent *event) override;
@@ -98,6 +112,7 @@ class BoundGrid : public QTableView {
   void changeEvent(QEvent *event) override;
   void closeEditor(QWidget *editor, QAbstractItemDelegate::EndEditHint hint) override;
   QModelIndex moveCursor(CursorAction action, Qt::KeyboardModifiers modifiers) override;
+  void setSelection(const QRect &rect, QItemSelectionModel::SelectionFlags command) override;
   QItemSelectionModel::SelectionFlags selectionCommand(const QModelIndex &index, const QEvent *event) const override;
   void currentChanged(const QModelIndex &current, const QModelIndex &previous) override;
   void scrollContentsBy(int dx, int dy) override;
@@ -112,8 +127,16 @@ class BoundGrid : public QTableView {
   void KeepingPlace(const std::function<void()> &work);
   void RestorePlace(const Place &place);
   int FirstColumn() const;
+  int LastColumn() const;
   void GoToFirstRow();
   void TellCurrentRow();
+  void SelectRows(const std::vector<qint64> &keys);
+  bool HoldsOrder() const;
+  QModelIndex PressedCell(const QPoint &place) const;
+  void ChooseRow(int row);
+  bool OpenCellList();
+  void OpenMenuByKey();
+  void DrawPlaceholder();
   std::vector<int> MarkedRowNumbers() const;
   std::vector<qint64> RowsToCopy() const;
   void PrefetchVisible();
@@ -150,6 +173,12 @@ class BoundGrid : public QTableView {
   bool applyingWidths_ = false;
   bool committing_ = false;
   std::optional<qint64> lastKey_;
+  std::optional<qint64> pressedKey_;  ///< of the row that the mouse last went down on
+  bool pressSettled_ = false;         ///< that press was acted on here: what follows it must not go by the old place
+  std::optional<qint64> anchorKey_;   ///< where marking with Shift begins
+  bool extending_ = false;
+  bool rowChosen_ = false;  ///< the current row was marked as a row, by hand
+  QString placeholderText_;
 };
 
 }  // namespace trimlog

@@ -1,6 +1,7 @@
 // The changing half of BoundGrid: keys, leaving a row, deleting, copy and paste.
 #include <QApplication>
 #include <QClipboard>
+#include <QComboBox>
 #include <QContextMenuEvent>
 #include <QDateTime>
 #include <QLineEdit>
@@ -9,6 +10,7 @@
 #include <algorithm>
 
 #include "platform/grid/grid_export.h"
+#include "platform/grid/pasted_text.h"
 #include "platform/windows/grid/bound_grid.h"
 
 namespace trimlog {
@@ -23,6 +25,11 @@ bool CanChange(const QModelIndex &cell) {
 
 QWidget *BoundGrid::OpenEditor() const {
   return state() == QAbstractItemView::EditingState ? indexWidget(currentIndex()) : nullptr;
+}
+
+bool BoundGrid::IsTyping() const {
+  const auto *field = qobject_cast<QLineEdit *>(OpenEditor());
+  return field && field->text() != currentIndex().data(Qt::EditRole).toString();
 }
 
 void BoundGrid::CloseOpenEditor(bool keep) {
@@ -73,6 +80,7 @@ void BoundGrid::ShowRefusal() {
 // The index to go to after the row being changed was saved (saving may have moved the rows); an invalid one when it may
 // not be left.
 QModelIndex BoundGrid::LeaveRowFor(const QModelIndex &target) {
+  if (target.isValid() && target.row() != currentIndex().row()) CloseOpenEditor(true);
   if (!target.isValid() || !model_->IsChanging() || model_->ChangingRow() == target.row()) return target;
   const std::optional<qint64> key = model_->KeyOfRow(target.row());
   if (!CommitRow()) return {};
@@ -122,6 +130,7 @@ QModelIndex BoundGrid::moveCursor(CursorAction action, Qt::KeyboardModifiers mod
   } else {
     target = QTableView::moveCursor(action, modifiers);
     if (action == MoveHome && target.isValid()) target = target.siblingAtColumn(FirstColumn());
+    if (action == MoveEnd && target.isValid()) target = target.siblingAtColumn(LastColumn());
   }
   const QModelIndex left = LeaveRowFor(target);
   return left.isValid() ? left : currentIndex();
@@ -130,10 +139,12 @@ QModelIndex BoundGrid::moveCursor(CursorAction action, Qt::KeyboardModifiers mod
 QItemSelectionModel::SelectionFlags BoundGrid::selectionCommand(const QModelIndex &index, const QEvent *event) const {
   if (event && event->type() == QEvent::KeyPress) {
     const auto *key = static_cast<const QKeyEvent *>(event);
-    // Ctrl+Home and Ctrl+End go to a row; with Ctrl alone the view would leave the mark on the row that was left.
+    // Ctrl+Home and Ctrl+End go to a row, with Shift they mark up to it; the view would leave the marks as they are.
     const bool jump = key->key() == Qt::Key_Home || key->key() == Qt::Key_End;
-    if (jump && key->modifiers() == Qt::ControlModifier) {
-      return QItemSelectionModel::ClearAndSelect | QItemSelectionModel::Rows;
+    const Qt::KeyboardModifiers held = key->modifiers() & ~Qt::KeypadModifier;
+    if (jump && held == Qt::ControlModifier) return QItemSelectionModel::ClearAndSelect | QItemSelectionModel::Rows;
+    if (jump && held == (Qt::ControlModifier | Qt::ShiftModifier)) {
+      return QItemSelectionModel::SelectCurrent | QItemSelectionModel::Rows;
     }
   }
   return QTableView::selectionCommand(index, event);
@@ -163,7 +174,12 @@ bool BoundGrid::HandleEditingKey(QKeyEvent *event) {
       return true;
     }
     case Qt::Key_Delete:
-      return event->modifiers() == Qt::NoModifier && canDelete && (DeleteSelected(), true);
+      if ((event->modifiers() & ~Qt::KeypadModifier) != Qt::NoModifier) return false;
+      return (!RowsMarked() && ClearCell()) || (canDelete && (DeleteSelected(), true));
+    case Qt::Key_Backspace:
+      return event->modifiers() == Qt::NoModifier && ClearCell();
+    case Qt::Key_F4:
+      return event->modifiers() == Qt::NoModifier && OpenCellList();
     default:
       return false;
   }
@@ -176,11 +192,29 @@ bool BoundGrid::ActivateRow() {
   return true;
 }
 
+// Marking with Shift reaches from the row that was last gone to, by whatever road, to the current one.
+void BoundGrid::setSelection(const QRect &rect, QItemSelectionModel::SelectionFlags command) {
+  const int anchor = extending_ && anchorKey_ ? model_->RowOfKey(*anchorKey_) : -1;
+  if (anchor < 0 || !command.testFlag(QItemSelectionModel::Current)) return QTableView::setSelection(rect, command);
+  const int row = currentIndex().row();
+  const QItemSelection rows(model_->index(std::min(anchor, row), 0),
+                            model_->index(std::max(anchor, row), model_->columnCount() - 1));
+  selectionModel()->select(rows, QItemSelectionModel::ClearAndSelect);
+}
+
 void BoundGrid::keyPressEvent(QKeyEvent *event) {
+  const QScopedValueRollback<bool> extending(extending_, event->modifiers().testFlag(Qt::ShiftModifier));
   const bool ours = state() != QAbstractItemView::EditingState;
-  static constexpr int handled[] = {Qt::Key_Escape, Qt::Key_Return,  Qt::Key_Enter,
-                                    Qt::Key_Tab,    Qt::Key_Backtab, Qt::Key_Delete};
-  if (ours && std::find(std::begin(handled), std::end(handled), event->key()) != std::end(handled)) {
+  static constexpr int handled[] = {Qt::Key_Escape,  Qt::Key_Return, Qt::Key_Enter, Qt::Key_Tab,
+                                    Qt::Key_Backtab, Qt::Key_Delete, Qt::Key_F4,    Qt::Key_Backspace};
+  const Qt::KeyboardModifiers held = event->modifiers();
+  if (event->key() == Qt::Key_F10 && held == Qt::ShiftModifier) {
+    OpenMenuByKey();
+  } else if (ours && event->key() == Qt::Key_Down && held.testFlag(Qt::AltModifier)) {
+    OpenCellList();
+  } else if (ours && event->key() == Qt::Key_Space && held == Qt::ShiftModifier) {
+    ChooseRow(currentIndex().row());
+  } else if (ours && std::find(std::begin(handled), std::end(handled), event->key()) != std::end(handled)) {
     event->setAccepted(HandleEditingKey(event));
   } else if (ours && IsTypingAhead() && !event->text().isEmpty() && event->text().front().isPrint()) {
     keyboardSearch(event->text());  // a search that came to a row that can be changed goes on
@@ -195,32 +229,101 @@ void BoundGrid::keyPressEvent(QKeyEvent *event) {
   }
 }
 
+// Leaving a row saves it, and that may bring other rows under the mouse: the row that the person pointed at is told by
+// its key before anything else happens.
 void BoundGrid::mousePressEvent(QMouseEvent *event) {
-  const QModelIndex target = indexAt(event->position().toPoint());
-  if (target.isValid() && !LeaveRowFor(target).isValid()) {
-    event->accept();
-    return;
+  const QModelIndex pointed = indexAt(event->position().toPoint());
+  pressedKey_ = model_->KeyOfRow(pointed.row());
+  pressSettled_ = false;
+  if (pointed.isValid()) {
+    const QModelIndex cell = LeaveRowFor(pointed);
+    pressSettled_ = cell.row() != indexAt(event->position().toPoint()).row();
+    if (pressSettled_) {
+      if (cell.isValid()) selectionModel()->setCurrentIndex(cell, selectionCommand(cell, event));
+      event->accept();
+      return;
+    }
   }
+  const QScopedValueRollback<bool> extending(extending_, event->modifiers().testFlag(Qt::ShiftModifier));
   QTableView::mousePressEvent(event);
+  rowChosen_ = (event->modifiers() & (Qt::ShiftModifier | Qt::ControlModifier)) != Qt::NoModifier;
+}
+
+void BoundGrid::mouseMoveEvent(QMouseEvent *event) {
+  if (!pressSettled_) QTableView::mouseMoveEvent(event);
+}
+
+void BoundGrid::mouseReleaseEvent(QMouseEvent *event) {
+  if (!pressSettled_) QTableView::mouseReleaseEvent(event);
+}
+
+// The cell of the pressed row in the column at a place; an invalid index when that row is not shown any more.
+QModelIndex BoundGrid::PressedCell(const QPoint &place) const {
+  const int row = pressedKey_ ? model_->RowOfKey(*pressedKey_) : -1;
+  return row < 0 ? QModelIndex() : model_->index(row, std::max(0, columnAt(place.x())));
 }
 
 void BoundGrid::mouseDoubleClickEvent(QMouseEvent *event) {
-  const QModelIndex cell = indexAt(event->position().toPoint());
-  QTableView::mouseDoubleClickEvent(event);
-  if (event->button() == Qt::LeftButton && cell.isValid() && !CanChange(cell)) ActivateRow();
+  const QPoint place = event->position().toPoint();
+  const QModelIndex under = indexAt(place);
+  const bool moved = pressSettled_ || model_->KeyOfRow(under.row()) != pressedKey_;
+  const QModelIndex cell = moved ? PressedCell(place) : under;
+  if (!moved) {
+    QTableView::mouseDoubleClickEvent(event);
+  } else if (cell.isValid()) {
+    selectionModel()->setCurrentIndex(cell, QItemSelectionModel::ClearAndSelect | QItemSelectionModel::Rows);
+    if (currentIndex() == cell && cell.flags().testFlag(Qt::ItemIsEditable)) edit(cell);
+  }
+  const bool there = cell.isValid() && currentIndex() == cell;
+  if (event->button() == Qt::LeftButton && there && !CanChange(cell)) ActivateRow();
 }
 
 void BoundGrid::contextMenuEvent(QContextMenuEvent *event) {
-  QPoint place = event->globalPos();
-  if (event->reason() == QContextMenuEvent::Keyboard) {
-    place = viewport()->mapToGlobal(visualRect(currentIndex()).bottomLeft());
-  } else {
-    // The pressed row is current already; the column under the mouse is the one that the menu sorts by.
-    const QModelIndex cell = indexAt(viewport()->mapFromGlobal(event->globalPos()));
-    if (cell.isValid()) selectionModel()->setCurrentIndex(cell, QItemSelectionModel::NoUpdate);
-  }
-  Q_EMIT MenuWanted(place);
   event->accept();
+  if (event->reason() == QContextMenuEvent::Keyboard) return OpenMenuByKey();
+  // The pressed row is current already; the column under the mouse is the one that the menu sorts by.
+  const QPoint place = viewport()->mapFromGlobal(event->globalPos());
+  const QModelIndex cell = pressSettled_ ? PressedCell(place) : indexAt(place);
+  if (cell.isValid() && cell != currentIndex()) {
+    selectionModel()->setCurrentIndex(cell, QItemSelectionModel::NoUpdate);
+    if (currentIndex() != cell) return;  // the refused row stays current: no command may act on it by mistake
+  }
+  Q_EMIT MenuWanted(event->globalPos());
+}
+
+void BoundGrid::OpenMenuByKey() {
+  scrollTo(currentIndex());
+  Q_EMIT MenuWanted(viewport()->mapToGlobal(visualRect(currentIndex()).bottomLeft()));
+}
+
+void BoundGrid::ChooseRow(int row) {
+  const QModelIndex cell = LeaveRowFor(model_->index(row, FirstColumn()));
+  if (!cell.isValid()) return;
+  selectRow(cell.row());
+  rowChosen_ = true;
+  viewport()->update();
+}
+
+void BoundGrid::selectAll() {
+  QTableView::selectAll();
+  rowChosen_ = true;
+}
+
+// The drop-down list of a cell that has one.
+bool BoundGrid::OpenCellList() {
+  const QModelIndex cell = currentIndex();
+  if (!cell.flags().testFlag(Qt::ItemIsEditable)) return false;
+  if (model_->Columns()[cell.column()].type != GridType::Choice) return false;
+  edit(cell);
+  if (auto *list = qobject_cast<QComboBox *>(OpenEditor())) list->showPopup();
+  return true;
+}
+
+bool BoundGrid::ClearCell() {
+  const QModelIndex cell = currentIndex();
+  if (!cell.flags().testFlag(Qt::ItemIsEditable)) return false;
+  if (model_->Columns()[cell.column()].type != GridType::Choice) model_->setData(cell, QString());
+  return true;
 }
 
 bool BoundGrid::IsTypingAhead() const {
@@ -301,14 +404,14 @@ void BoundGrid::Cut() {
     return;
   }
   Copy();
-  if (CanChange(currentIndex())) model_->setData(currentIndex(), QString());
+  ClearCell();
 }
 
 void BoundGrid::Paste() {
   if (auto *field = qobject_cast<QLineEdit *>(OpenEditor())) {
-    field->paste();
-  } else if (CanChange(currentIndex())) {
-    model_->setData(currentIndex(), QApplication::clipboard()->text().trimmed());
+    field->insert(PastedCell(QApplication::clipboard()->text()));
+  } else if (currentIndex().flags().testFlag(Qt::ItemIsEditable)) {
+    model_->setData(currentIndex(), PastedCell(QApplication::clipboard()->text()));
   }
 }
 

@@ -43,6 +43,9 @@ void DrawChangedCorner(QPainter *painter, const QRect &cell, const QColor &color
   painter->restore();
 }
 
+// A name may look like markup; it is shown as it is written.
+QString PlainToolTip(const QString &text) { return QStringLiteral("<div>%1</div>").arg(text.toHtmlEscaped()); }
+
 }  // namespace
 
 QColor RefusalColor(const QPalette &palette) {
@@ -60,6 +63,7 @@ QWidget *GridDelegate::createEditor(QWidget *parent, const QStyleOptionViewItem 
     QComboBox *const list = MakeList(column, parent);
     list->setObjectName(column.dropDown.isEmpty() ? name : column.dropDown);
     list->setAccessibleName(label);
+    list->setContextMenuPolicy(Qt::NoContextMenu);
     auto *self = const_cast<GridDelegate *>(this);
     connect(list, &QComboBox::activated, self, [self, list] { Q_EMIT self->commitData(list); });
     return list;
@@ -70,8 +74,9 @@ QWidget *GridDelegate::createEditor(QWidget *parent, const QStyleOptionViewItem 
   } else if (column.type == GridType::Date) {
     field = new DateField(name, label, locale, parent);
   } else {
-    field = new TextField(name, label, column.maxLength, parent);
+    field = new TextField(name, label, 0, parent);  // a text that is too long is refused, not cut
   }
+  field->setContextMenuPolicy(Qt::NoContextMenu);  // the grid's menu
   field->setFrame(false);
   field->setAlignment(AlignmentOf(column));
   return field;
@@ -111,7 +116,8 @@ void GridDelegate::paint(QPainter *painter, const QStyleOptionViewItem &option, 
   initStyleOption(&cell, index);
   const bool current = index == grid_->currentIndex();
   const bool refused = !index.data(GridModel::SentenceRole).toString().isEmpty();
-  const bool plain = current || refused;  // stands out of a marked row, whose colour the view has already laid down
+  const bool plain = (current && !grid_->RowsMarked()) ||
+                     refused;  // stands out of a marked row, whose colour the view has already laid down
   const bool marked = cell.state.testFlag(QStyle::State_Selected) && !plain;
   cell.state &= ~QStyle::State_HasFocus;
   if (plain) {
@@ -135,7 +141,7 @@ bool GridDelegate::helpEvent(QHelpEvent *event, QAbstractItemView *view, const Q
   }
   const QString text = index.data().toString();
   const bool cut = option.fontMetrics.horizontalAdvance(text) > view->visualRect(index).width() - 6;
-  QToolTip::showText(event->globalPos(), cut ? text : QString(), view);
+  QToolTip::showText(event->globalPos(), cut ? PlainToolTip(text) : QString(), view);
   return true;
 }
 
@@ -146,6 +152,10 @@ bool GridDelegate::eventFilter(QObject *watched, QEvent *event) {
   const bool enter = key->key() == Qt::Key_Return || key->key() == Qt::Key_Enter;
   const bool leavesByArrow = (key->key() == Qt::Key_Up || key->key() == Qt::Key_Down) &&
                              !(key->modifiers() & ~Qt::KeypadModifier) && qobject_cast<QLineEdit *>(editor);
+  if (key->matches(QKeySequence::Paste) && qobject_cast<QLineEdit *>(editor)) {
+    grid_->Paste();
+    return true;
+  }
   if (!enter && !leavesByArrow) return QStyledItemDelegate::eventFilter(watched, event);
   Q_EMIT commitData(editor);
   Q_EMIT closeEditor(editor, enter ? QAbstractItemDelegate::EditNextItem : QAbstractItemDelegate::NoHint);
