@@ -1,6 +1,7 @@
 #include <QApplication>
 
 #include "core/windows/controls/theme_style.h"
+#include "platform/windows/fields/plain_labels.h"
 #include "platform/windows/fields/wheel_guard.h"
 #include "platform/windows/machine/font_warmth.h"
 #include "platform/windows/machine/qt_boxes.h"
@@ -16,6 +17,7 @@ int main(int argc, char **argv) {
   QApplication::setApplicationName(QStringLiteral("trimlog"));
   // Only closing the main window ends the program: a sign-in window or a box before it must not.
   QApplication::setQuitOnLastWindowClosed(false);
+  const PlainLabels plainLabels(&application);
   QApplication::setDesktopFileName(QStringLiteral("trimlog"));
 
   const std::unique_ptr<SettingsStore> store = OpenUserSettings();

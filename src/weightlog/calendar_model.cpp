@@ -51,6 +51,8 @@ void ShowWeights(CalendarMonth &month, const std::vector<WeightRow> &rows, int L
 
 CalendarModel::CalendarModel(Session &session) : session_(session) {}
 
+bool CalendarModel::IsNewcomer() const { return !session_.profile.LastWeightDate.isValid(); }
+
 void CalendarModel::Load() {
   UpdateStats(session_);
   const QDate remembered = session_.windows.RememberedDate;

@@ -18,6 +18,8 @@ class CalendarModel {
   explicit CalendarModel(Session &session);
 
   const CalendarMonth &Month() const { return month_; }
+  /// True until the profile has its first weight: there is nothing to add up yet.
+  bool IsNewcomer() const;
 
   /// What opening the calendar does: statistics, the month to begin with, and its active cell.
   void Load();

@@ -15,6 +15,8 @@ namespace {
 
 const QString unknown = QStringLiteral("---");
 
+Statistics NoStatistics() { return {unknown, unknown, unknown, unknown, unknown, {}}; }
+
 QString NumberText(double value, const QLocale &locale) {
   return Format(value, QStringLiteral("General Number"), locale);
 }
@@ -44,7 +46,10 @@ std::optional<double> ReadGoal(const Session &session) {
 
 Statistics MakeStatistics(const WeightEnds &weights, const std::optional<double> &goal, const QLocale &locale) {
   const auto &[first, last] = weights;
-  Statistics shown{unknown, unknown, unknown, unknown, unknown};
+  Statistics shown = NoStatistics();
+  if (goal && *goal < first.ThisWeight) {
+    shown.Progress = std::clamp((first.ThisWeight - last.ThisWeight) / (first.ThisWeight - *goal), 0.0, 1.0);
+  }
   if (goal) shown.LbsLeft = NumberText(RoundTo(LossBetween(last.ThisWeight, *goal), 1), locale);
   if (last.ThisWeight >= first.ThisWeight) {
     const double gained = RoundTo(LossBetween(last.ThisWeight, first.ThisWeight), 1);
@@ -73,8 +78,8 @@ void UpdateStats(Session &session) {
             const std::optional<WeightEnds> weights = ReadWeightEnds(session);
             session.profile.FirstWeightDate = weights ? weights->first.ThisDate : QDate();
             session.profile.LastWeightDate = weights ? weights->last.ThisDate : QDate();
-            session.profile.statistics = weights ? MakeStatistics(*weights, ReadGoal(session), session.locale)
-                                                 : Statistics{unknown, unknown, unknown, unknown, unknown};
+            session.profile.statistics =
+                weights ? MakeStatistics(*weights, ReadGoal(session), session.locale) : NoStatistics();
           });
   session.changes.AnnounceStatistics();
 }

@@ -1,5 +1,6 @@
 #include <QCloseEvent>
 #include <QDir>
+#include <QProgressBar>
 #include <QTest>
 
 #include "frame_fixture.h"
@@ -106,6 +107,44 @@ TEST_F(Frame, KeepsItsLeastSizeAndStandsOnTheScreen) {
   EXPECT_EQ(session->windows.framePlace.Height, 10500);
 }
 
+TEST_F(Frame, MarksASampleAndLeadsFromItToTheOwnProfile) {
+  session->profile.CurrentPersonID = QStringLiteral("-1");
+  Load();
+  EXPECT_TRUE(Find<QWidget>("pnlSample")->isVisible());
+  QTest::mouseClick(Find<QWidget>("cmdOwnProfile"), Qt::LeftButton);
+  EXPECT_EQ(session->profile.CurrentPersonID, QStringLiteral("1"));
+  EXPECT_FALSE(Find<QWidget>("pnlSample")->isVisible());
+
+  frame->LoadData(QStringLiteral("-1"));
+  session.Data().Execute(QStringLiteral("DELETE people.* FROM people WHERE PersonID > 0;"));
+  bool made = false;
+  navigator.StartWiz = [&made](bool) { return made = true; };
+  QTest::mouseClick(Find<QWidget>("cmdOwnProfile"), Qt::LeftButton);
+  EXPECT_TRUE(made) << "without one, it is made";
+}
+
+TEST_F(Frame, TheStatisticsAreReachedByKeyboardAndHeard) {
+  session->profile.statistics = {QStringLiteral("8"),  QStringLiteral("1.9"),       QStringLiteral("10.2"),
+                                 QStringLiteral("38"), QStringLiteral("12/7/2026"), 0.439};
+  Load();
+  Find<QWidget>("txtPersonName")->setFocus();
+  for (const auto &[field, name, text] : {std::tuple{"txtPersonName", "Name", "Test Person"},
+                                          {"txtGoal", "Goal (Lbs)", "150"},
+                                          {"txtLbsLost", "Lbs Lost", "8"},
+                                          {"txtLbsPerWeek", "Lbs/Week", "1.9"},
+                                          {"txtLbsLeft", "Lbs Left", "10.2"},
+                                          {"txtDaysLeft", "Days Left", "38"},
+                                          {"txtProjDate", "Proj. Date", "12/7/2026"}}) {
+    auto *figure = Find<QLineEdit>(field);
+    EXPECT_EQ(frame->focusWidget(), figure) << field;
+    EXPECT_EQ(figure->accessibleName(), QLatin1String(name));
+    EXPECT_EQ(figure->text(), QLatin1String(text));
+    EXPECT_TRUE(figure->isReadOnly());
+    QTest::keyClick(figure, Qt::Key_Tab);
+  }
+  EXPECT_EQ(Find<QProgressBar>("pnlProgress")->value(), 43) << "not more than is done";
+}
+
 TEST_F(Frame, WindowStateFollowsAndMinimisedIsNoState) {
   Load();
   frame->setWindowState(Qt::WindowMaximized);
@@ -154,8 +193,8 @@ TEST_F(Frame, PanelShowsFiguresUnitsAndTheirChanges) {
   Load();
   EXPECT_EQ(Find<QLabel>("lblGoal")->text(), QStringLiteral("Goal (Lbs)"));
   EXPECT_EQ(Find<QLabel>("lblLbsPerWeek")->text(), QStringLiteral("Lbs/Week"));
-  session->profile.statistics = {QStringLiteral("8.5"), QStringLiteral("1.2"), QStringLiteral("20"),
-                                 QStringLiteral("117"), QStringLiteral("6/26/2026")};
+  session->profile.statistics = {QStringLiteral("8.5"), QStringLiteral("1.2"),       QStringLiteral("20"),
+                                 QStringLiteral("117"), QStringLiteral("6/26/2026"), {}};
   session->changes.AnnounceStatistics();
   EXPECT_EQ(Find<QLineEdit>("txtLbsLost")->text(), QStringLiteral("8.5"));
   EXPECT_EQ(Find<QLineEdit>("txtProjDate")->text(), QStringLiteral("6/26/2026"));

@@ -3,6 +3,7 @@
 #include <gtest/gtest.h>
 
 #include "platform/text/text_format.h"
+#include "weightlog/calendar_speech.h"
 
 namespace trimlog {
 namespace {
@@ -99,6 +100,31 @@ TEST(CalendarMonth, LossCellsTakeTheColourOfTheTrueLoss) {
   EXPECT_EQ(month.Cell(1).lossColor, calendar_colour::loss);
   EXPECT_EQ(month.Cell(2).lossColor, calendar_colour::gain);
   EXPECT_EQ(month.Cell(3).lossColor, calendar_colour::even);
+}
+
+TEST(CalendarMonth, IsSpokenWithWhatItShows) {
+  struct Case {
+    const char *loss, *calories, *tip;
+    bool showsLoss, showsCalories;
+    int LossFactor;
+    const char *spoken;
+  };
+  for (const Case &c :
+       {Case{"1.5", "600 kcal", "", true, true, 1, "Lost 1.5. Figure: 600 kcal"},
+        Case{"-1.5", "", "", true, true, 1, "Gained 1.5"}, Case{"-1.5", "", "", true, true, -1, "Lost 1.5"},
+        Case{"0.0", "", "", true, true, -1, "No loss"},
+        Case{"1.5", "7 Cal", "9 eaten - 2 burned = 7 Cal", false, true, 1, "Figure: 9 eaten - 2 burned = 7 Cal"},
+        Case{"1.5", "600 kcal", "", true, false, 1, "Lost 1.5"}, Case{"", "", "", true, true, 1, ""}}) {
+    Settings settings;
+    settings.LossFactor = c.LossFactor;
+    CalendarCell cell;
+    cell.loss = QLatin1String(c.loss);
+    cell.calories = QLatin1String(c.calories);
+    cell.caloriesTip = QLatin1String(c.tip);
+    cell.lossVisible = c.showsLoss;
+    cell.caloriesVisible = c.showsCalories;
+    EXPECT_EQ(SpokenDetails(cell, QStringLiteral("Figure"), settings, english), QLatin1String(c.spoken));
+  }
 }
 
 TEST(CalendarMonth, ArrowsMoveOntoDaysOfTheMonthOnly) {

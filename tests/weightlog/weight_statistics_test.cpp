@@ -58,5 +58,29 @@ TEST(WeightStatistics, FollowsTheDataFileAndTheLocale) {
   EXPECT_EQ(Panel(calendar.session->profile.statistics), "2,5 | 1,3 | 0 | 0 | 15.02.2026");
 }
 
+TEST(WeightStatistics, TellsHowMuchOfTheWayToTheGoalIsDone) {
+  const QDate day(2026, 2, 1);
+  struct Case {
+    double first, last;
+    std::optional<double> goal, progress;
+  };
+  for (const Case &c : {Case{200, 190, 150, 0.2}, Case{200, 200, 150, 0.0}, Case{200, 210, 150, 0.0},
+                        Case{200, 140, 150, 1.0}, Case{200, 190, 200, {}}, Case{200, 190, {}, {}}}) {
+    EXPECT_EQ(MakeStatistics({{day, c.first}, {day.addDays(7), c.last}}, c.goal, QLocale::c()).Progress, c.progress)
+        << c.last;
+  }
+}
+
+TEST(WeightStatistics, ThatCannotBeReadAreToldAndLeaveTheShownOnes) {
+  TypedCalendar calendar;
+  calendar.Type("2026-02-01", "200");
+  const std::string before = Panel(calendar.session->profile.statistics);
+  calendar.session.Data().Execute(QStringLiteral("ALTER TABLE weight_loss RENAME COLUMN ThisWeight TO Hidden;"));
+  calendar.session.boxes.Expect(QStringLiteral("Error Updating Statistics"),
+                                QStringLiteral("An error occurred while updating your weight loss statistics."));
+  UpdateStats(*calendar.session);
+  EXPECT_EQ(Panel(calendar.session->profile.statistics), before);
+}
+
 }  // namespace
 }  // namespace trimlog

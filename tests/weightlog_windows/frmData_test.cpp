@@ -44,7 +44,8 @@ class Calendar {
     return control;
   }
   QLineEdit *Field(int i) { return Find<QLineEdit>(qPrintable(QStringLiteral("txtData(%1)").arg(i))); }
-  std::string Text(const char *name) { return Find<QLabel>(name)->text().toStdString(); }
+  /// Of a label or a field.
+  std::string Text(const char *name) { return Find<QWidget>(name)->property("text").toString().toStdString(); }
   QWidget *Focus() { return QApplication::focusWidget(); }
   void Type(const char *text) { QTest::keyClicks(Focus(), QString::fromUtf8(text)); }
   void Press(Qt::Key key, Qt::KeyboardModifiers modifiers = Qt::NoModifier) {
@@ -87,8 +88,8 @@ TEST(FrmData, AWeekIsTypedCorrectedAndMovedThroughWithoutTheMouse) {
   c.Type("197");
   c.Press(Qt::Key_Down);
   ASSERT_EQ(c.Focus(), c.Field(11));
-  c.Press(Qt::Key_Up);
-  c.Press(Qt::Key_Left);
+  c.Press(Qt::Key_Up, Qt::ControlModifier);
+  c.Press(Qt::Key_Left, Qt::AltModifier);
   ASSERT_EQ(c.Focus(), c.Field(3));
   EXPECT_EQ(c.Field(3)->selectedText(), QStringLiteral("198.5"));  // typing corrects the whole weight
   c.Type("198");
@@ -363,6 +364,131 @@ TEST(FrmData, CongratulatesOnceTheWeightIsSaved) {
   EXPECT_EQ(c.session.machine.played.size(), 1);
 }
 
+TEST(FrmData, ARewardComesBeforeTheQuestionOfWhatWasChosenNext) {
+  Calendar c;
+  WeightLog(*c.session).Insert({QDate(2026, 2, 28), 201, 0});
+  c.session->profile.rewards = {RewardType::Daily, 1, QStringLiteral("Well done"), {}};
+  c.Open();
+  c.Type("199");
+  bool seen = false;
+  QTimer::singleShot(0, c.form.get(), [&] {
+    auto *reward = qobject_cast<frmReward *>(QApplication::activeModalWidget());
+    ASSERT_NE(reward, nullptr);
+    seen = c.session.boxes.Shown().empty();
+    reward->close();
+  });
+  c.session.boxes.Expect(QStringLiteral("Print Window?"), {}, BoxButton::No);
+  c.form->PrintContents();
+  EXPECT_TRUE(seen);
+}
+
+TEST(FrmData, SaysWhatToDoUntilTheFirstWeightIsThere) {
+  Calendar c;
+  c.Open();
+  EXPECT_TRUE(c.Find<QLabel>("lblNewcomer")->isVisible());
+  EXPECT_FALSE(c.Find<QWidget>("txtTotal(1)")->isVisible());
+  EXPECT_FALSE(c.Find<QWidget>("txtTotalMonth")->isVisible());
+  c.Type("200");
+  c.Press(Qt::Key_Tab);
+  EXPECT_FALSE(c.Find<QLabel>("lblNewcomer")->isVisible());
+  EXPECT_TRUE(c.Find<QWidget>("txtTotal(1)")->isVisible());
+  EXPECT_EQ(c.Text("txtTotalMonth"), "0.0");
+}
+
+/// Calls back when the focus comes to a field: what a screen reader would ask then.
+class FocusWatch : public QObject {
+ public:
+  FocusWatch(QObject *field, std::function<void()> arrived) : arrived_(std::move(arrived)) {
+    field->installEventFilter(this);
+  }
+  bool eventFilter(QObject *, QEvent *event) override {
+    if (event->type() == QEvent::FocusIn) arrived_();
+    return false;
+  }
+
+ private:
+  std::function<void()> arrived_;
+};
+
+TEST(FrmData, AMonthMoveIsHeardAsNamesFocusAndFigures) {
+  Calendar c;
+  WeightLog(*c.session).Insert({QDate(2026, 2, 28), 201, 0});
+  WeightLog(*c.session).Insert({QDate(2026, 4, 2), 199, 2});
+  c.Open();
+  QString last, later;
+  const FocusWatch watch(c.Field(4), [&] {
+    last = c.Field(42)->accessibleName();
+    later = c.Field(5)->text();
+  });
+  c.Press(Qt::Key_PageDown);
+  ASSERT_EQ(c.Focus(), c.Field(4));
+  EXPECT_EQ(last, QStringLiteral("Weight for Saturday, 5/9/2026")) << "all names stand before the focus comes";
+  EXPECT_EQ(later, QString()) << "the figures follow";
+  EXPECT_EQ(c.Field(5)->text(), QStringLiteral("199"));
+  EXPECT_EQ(c.Field(4)->accessibleName(), QStringLiteral("Weight for Wednesday, 4/1/2026"));
+  EXPECT_EQ(c.Find<QWidget>("txtTotal(1)")->accessibleName(),
+            QStringLiteral("Loss in the week from 3/29/2026 to 4/4/2026"));
+  EXPECT_EQ(c.Find<QWidget>("txtTotalMonth")->accessibleName(), QStringLiteral("Loss in April, 2026"));
+}
+
+// The text of the month before must not pass for something typed into the day of the new one.
+TEST(FrmData, AMonthMoveShowsTheWeightOfTheDayItLandsOn) {
+  Calendar c;
+  WeightLog(*c.session).Insert({QDate(2026, 3, 1), 200, 0});
+  WeightLog(*c.session).Insert({QDate(2026, 2, 1), 201, 0});
+  c.Open();
+  c.Press(Qt::Key_PageUp);
+  ASSERT_EQ(c.Focus(), c.Field(1));
+  EXPECT_EQ(c.Field(1)->selectedText(), QStringLiteral("201"));
+  const qint64 before = c.session.Data().Counts().commits;
+  c.Press(Qt::Key_PageDown);
+  EXPECT_EQ(c.Field(1)->selectedText(), QStringLiteral("200"));
+  EXPECT_EQ(c.session.Data().Counts().commits, before);
+}
+
+TEST(FrmData, FiguresExplainThemselvesAndCarryTheirColours) {
+  Calendar c;
+  c.session->settings.ShowLoss = true;
+  c.session->settings.NetCaloriesBMR = false;
+  WeightLog(*c.session).Insert({QDate(2026, 3, 1), 200, 0});
+  WeightLog(*c.session).Insert({QDate(2026, 3, 2), 199, 1});
+  WeightLog(*c.session).Insert({QDate(2026, 3, 3), 201.5, -2.5});
+  c.session.Data().Execute(QStringLiteral(
+      "INSERT INTO meals ( PersonID, RecordID, ThisDate, MealTypeID, MealID, Amount, Calories, IsPlanned ) "
+      "SELECT 1, 1, #3/2/2026#, 1, 1, \"1\", 500, 0;"));
+  c.Open();
+  EXPECT_EQ(c.Find<QLabel>("txtCalories(2)")->toolTip(), QStringLiteral("500 eaten - 0 burned = 500 Cal"));
+  EXPECT_EQ(c.Field(2)->accessibleDescription(),
+            QStringLiteral("Lost 1.0. Net Calories (kcal): 500 eaten - 0 burned = 500 Cal"));
+  const auto colour = [&c](const char *name) { return c.Find<QLabel>(name)->palette().color(QPalette::WindowText); };
+  EXPECT_EQ(colour("txtLoss(2)"), QColor(0, 128, 0));
+  EXPECT_EQ(colour("txtLoss(3)"), QColor(255, 0, 0));
+  EXPECT_EQ(c.Find<QLineEdit>("txtTotal(1)")->palette().color(QPalette::Text), QColor(255, 0, 0));
+  EXPECT_EQ(c.Find<QLineEdit>("txtTotalMonth")->palette().color(QPalette::Text), QColor(255, 0, 0));
+}
+
+TEST(FrmData, WeightsGrowWithTheirCellsAndStayUncut) {
+  Calendar c;
+  c.Open();
+  c.Type("1234.56");
+  const auto fits = [&c] {
+    return c.Field(1)->fontMetrics().horizontalAdvance(QStringLiteral("1234.56")) <= c.Field(1)->width() - 4;
+  };
+  EXPECT_TRUE(fits());
+  c.Press(Qt::Key_Tab);
+  const double before = c.Field(1)->font().pointSizeF();
+  c.form->resize(1500, 1000);
+  QApplication::processEvents();
+  EXPECT_TRUE(fits());
+  EXPECT_GT(c.Field(1)->font().pointSizeF(), 1.8 * before);
+  EXPECT_GT(c.Find<FitLabel>("txtDateGrid(1)")->DrawnFont().pointSizeF(), 1.4 * before * 0.75);
+  const auto centre = [&c](const char *name) {
+    const auto *widget = c.Find<QWidget>(name);
+    return widget->mapTo(c.form.get(), widget->rect().center()).x();
+  };
+  EXPECT_NEAR(centre("txtTotalMonth"), centre("txtTotal(1)"), 2) << "the month's total stands under its column";
+}
+
 TEST(FrmData, DisablesDoorsThatLeadNowhere) {
   Calendar c;
   c.Open();
@@ -413,7 +539,7 @@ TEST(FrmData, ShowsEverythingUncutAtItsSmallestSize) {
   c.Open();
   c.form->resize(c.form->minimumSizeHint());
   QApplication::processEvents();
-  for (const char *name : {"txtLoss(1)", "txtCalories(1)", "txtDateGrid(1)", "txtTotal(1)", "txtMonth"}) {
+  for (const char *name : {"txtLoss(1)", "txtCalories(1)", "txtDateGrid(1)", "txtMonth"}) {
     const auto *label = c.Find<FitLabel>(name);
     EXPECT_GE(label->height(), QFontMetrics(label->DrawnFont()).height()) << name;
     EXPECT_TRUE(label->parentWidget()->rect().contains(label->geometry())) << name;

@@ -1,6 +1,7 @@
 #pragma once
 
 #include <QString>
+#include <optional>
 
 namespace trimlog {
 
@@ -11,6 +12,7 @@ struct Statistics {
   QString LbsLeft;
   QString DaysLeft;
   QString ProjDate;
+  std::optional<double> Progress;  ///< the part of the way to the goal that is done, 0 to 1; no value without a way
 };
 
 }  // namespace trimlog

@@ -3,6 +3,7 @@
 #include <QMouseEvent>
 #include <QPainter>
 
+#include "core/windows/controls/fitting_font.h"
 #include "core/windows/controls/theme.h"
 #include "platform/windows/fields/member_name.h"
 
@@ -14,7 +15,9 @@ constexpr int pad = 5;
 constexpr int fieldPad = 2;
 constexpr double smallShare = 0.85;
 constexpr double weightShare = 1.1;
-constexpr double largestGrowth = 1.7;
+constexpr double growthShare = 0.6;  ///< of the room that a larger cell gives; the rest stays air
+constexpr double largestGrowth = 3;
+constexpr int fieldMargins = 6;  ///< what a line edit keeps free at its ends
 
 QPalette CellPalette(const QPalette &desktop, const QColor &background, const QColor &text, const QColor &field) {
   QPalette palette;
@@ -53,9 +56,11 @@ const QPalette &CalendarLook::PaletteOf(const CalendarCell &cell) const {
   return cell.background == calendar_colour::white ? day : active;
 }
 
-CalendarFonts::CalendarFonts(const QFont &base, int cellHeight) {
-  const double room = static_cast<double>(cellHeight) / LeastHeight(base);
-  *this = Grown(base, std::clamp(1 + (room - 1) * 0.4, 1.0, largestGrowth));
+CalendarFonts::CalendarFonts(const QFont &base, const QSize &cell) {
+  const QSize least = LeastCell(base);
+  const double room =
+      std::min(static_cast<double>(cell.height()) / least.height(), static_cast<double>(cell.width()) / least.width());
+  *this = Grown(base, std::clamp(1 + (room - 1) * growthShare, 1.0, largestGrowth));
 }
 
 CalendarFonts CalendarFonts::Grown(const QFont &base, double growth) {
@@ -64,16 +69,20 @@ CalendarFonts CalendarFonts::Grown(const QFont &base, double growth) {
   const auto step = [](double points) { return std::round(points * 2) / 2; };
   CalendarFonts fonts;
   fonts.small = fonts.weight = base;
-  fonts.small.setPointSizeF(step(size * smallShare * std::sqrt(growth)));
+  fonts.small.setPointSizeF(step(size * smallShare * std::pow(growth, 0.8)));
   fonts.weight.setPointSizeF(step(size * weightShare * growth));
   fonts.weight.setWeight(QFont::DemiBold);
   return fonts;
 }
 
-int CalendarFonts::LeastHeight(const QFont &base) {
+QSize CalendarFonts::LeastCell(const QFont &base) {
   // With the very fonts of the smallest cells: a font of its own would cost every start a millisecond.
   const CalendarFonts least = Grown(base, 1);
-  return 2 * QFontMetrics(least.small).height() + QFontMetrics(least.weight).height() + 2;
+  const QFontMetrics small(least.small);
+  const QFontMetrics weight(least.weight);
+  const int width = std::max(small.horizontalAdvance(QStringLiteral("-2888 Cal")),
+                             weight.horizontalAdvance(QStringLiteral("888.88")));
+  return {width + 2 * (pad + 2), 2 * small.height() + weight.height() + 2};
 }
 
 CalendarCellView::CalendarCellView(int i, QWidget *parent)
@@ -88,29 +97,20 @@ CalendarCellView::CalendarCellView(int i, QWidget *parent)
   txtData->setFrame(false);
   txtData->setAlignment(Qt::AlignCenter);
   txtDateGridValue->hide();
+  connect(txtData, &QLineEdit::textChanged, this, &CalendarCellView::FitWeight);
 }
 
-void CalendarCellView::Show(const CalendarCell &cell, const CalendarLook &look, bool today, bool keepText) {
+void CalendarCellView::ShowDay(const CalendarCell &cell, const CalendarLook &look, const QString &spokenDay,
+                               bool today) {
   const QPalette &wanted = look.PaletteOf(cell);
   if (palette().color(QPalette::Window) != wanted.color(QPalette::Window) ||
       palette().color(QPalette::Base) != wanted.color(QPalette::Base)) {
     setPalette(wanted);
   }
-  if (!keepText && txtData->text() != cell.data) txtData->setText(cell.data);
-  txtData->setEnabled(cell.enabled);
-  txtLoss->ShowText(cell.loss);
-  if (!cell.loss.isEmpty())
-    txtLoss->ShowColor(cell.lossColor == calendar_colour::even
-                           ? wanted.color(QPalette::WindowText)
-                           : MeaningColor(ColorFromBgr(cell.lossColor), wanted.color(QPalette::Window)));
-  txtLoss->setVisible(cell.lossVisible);
-  txtCalories->ShowText(cell.calories);
-  txtCalories->setVisible(cell.caloriesVisible);
   txtDateGrid->ShowText(cell.day);
-  if (txtDateGridValue->text() != cell.dateValue) {
-    txtDateGridValue->ShowText(cell.dateValue);
-    txtData->setAccessibleName(tr("Weight for %1").arg(cell.dateValue));
-  }
+  txtDateGridValue->ShowText(cell.dateValue);
+  if (txtData->accessibleName() != spokenDay) txtData->setAccessibleName(spokenDay);
+  if (cell.enabled) txtData->setEnabled(true);
   if (today_ != today || line_ != look.line || accent_ != look.accent) {
     today_ = today;
     line_ = look.line;
@@ -118,7 +118,28 @@ void CalendarCellView::Show(const CalendarCell &cell, const CalendarLook &look, 
     txtDateGrid->UseFont(DayFont());
     update();
   }
+  if (cell.visible) setVisible(true);
+}
+
+void CalendarCellView::Close(const CalendarCell &cell) {
+  txtData->setEnabled(cell.enabled);
   setVisible(cell.visible);
+}
+
+void CalendarCellView::ShowTexts(const CalendarCell &cell, const CalendarLook &look, const QString &spokenDetails,
+                                 bool keepText) {
+  const QPalette &wanted = look.PaletteOf(cell);
+  if (!keepText && txtData->text() != cell.data) txtData->setText(cell.data);
+  if (txtData->accessibleDescription() != spokenDetails) txtData->setAccessibleDescription(spokenDetails);
+  txtLoss->ShowText(cell.loss);
+  if (!cell.loss.isEmpty())
+    txtLoss->ShowColor(cell.lossColor == calendar_colour::even
+                           ? wanted.color(QPalette::WindowText)
+                           : MeaningColor(ColorFromBgr(cell.lossColor), wanted.color(QPalette::Window)));
+  txtLoss->setVisible(cell.lossVisible);
+  txtCalories->ShowText(cell.calories);
+  txtCalories->setToolTip(cell.caloriesTip);
+  txtCalories->setVisible(cell.caloriesVisible);
 }
 
 QFont CalendarCellView::DayFont() const {
@@ -129,7 +150,8 @@ QFont CalendarCellView::DayFont() const {
 
 void CalendarCellView::SetFonts(const CalendarFonts &fonts) {
   small_ = fonts.small;
-  txtData->setFont(fonts.weight);
+  weight_ = fonts.weight;
+  FitWeight();
   txtLoss->UseFont(fonts.small);
   txtCalories->UseFont(fonts.small);
   txtDateGrid->UseFont(DayFont());
@@ -138,7 +160,7 @@ void CalendarCellView::SetFonts(const CalendarFonts &fonts) {
 
 void CalendarCellView::Arrange() {
   const int line = QFontMetrics(small_).height();
-  const int field = txtData->fontMetrics().height() + 2;
+  const int field = QFontMetrics(weight_).height() + 2;
   const int inner = width() - 2 * pad - 1;
   const int room = height() - 2 * line - field;
   const int gap = std::clamp(room / 4, 0, 2 * pad);
@@ -149,7 +171,16 @@ void CalendarCellView::Arrange() {
   txtData->setGeometry(fieldPad, line + gap + std::max(0, (room - 2 * gap) / 2), width() - 2 * fieldPad - 1, field);
 }
 
-void CalendarCellView::resizeEvent(QResizeEvent *) { Arrange(); }
+// A weight of four digits and two decimals is drawn smaller rather than cut.
+void CalendarCellView::FitWeight() {
+  const QFont fitting = FittingFont(weight_, txtData->text(), txtData->width() - fieldMargins);
+  if (txtData->font() != fitting) txtData->setFont(fitting);
+}
+
+void CalendarCellView::resizeEvent(QResizeEvent *) {
+  Arrange();
+  FitWeight();
+}
 
 void CalendarCellView::mousePressEvent(QMouseEvent *event) {
   if (event->button() == Qt::LeftButton && txtData->isEnabled()) txtData->setFocus(Qt::MouseFocusReason);

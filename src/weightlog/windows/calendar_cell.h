@@ -24,11 +24,12 @@ struct CalendarLook {
 struct CalendarFonts {
   QFont small;  ///< day, loss, nutrient figure
   QFont weight;
+  bool operator==(const CalendarFonts &) const = default;
 
-  /// The largest calm sizes for cells of this height, on the base of the desktop's font.
-  CalendarFonts(const QFont &base, int cellHeight);
-  /// The least height in which three lines stand uncut.
-  static int LeastHeight(const QFont &base);
+  /// The sizes that grow with the cells, on the base of the desktop's font.
+  CalendarFonts(const QFont &base, const QSize &cell);
+  /// The least height in which three lines stand uncut, and the least width for usual weights and figures.
+  static QSize LeastCell(const QFont &base);
 
  private:
   CalendarFonts() = default;
@@ -42,8 +43,11 @@ class CalendarCellView : public QWidget {
   CalendarCellView(int i, QWidget *parent);
 
   QLineEdit *Field() const { return txtData; }
-  /// Shows a cell. `keepText` leaves what is being typed alone.
-  void Show(const CalendarCell &cell, const CalendarLook &look, bool today, bool keepText);
+  /// Shows which day it is. A day that can be typed into opens; Close shuts the others.
+  void ShowDay(const CalendarCell &cell, const CalendarLook &look, const QString &spokenDay, bool today);
+  void Close(const CalendarCell &cell);
+  /// Shows the weight and what stands around it. `keepText` leaves what is being typed alone.
+  void ShowTexts(const CalendarCell &cell, const CalendarLook &look, const QString &spokenDetails, bool keepText);
   void SetFonts(const CalendarFonts &fonts);
 
  protected:
@@ -54,6 +58,7 @@ class CalendarCellView : public QWidget {
  private:
   QFont DayFont() const;
   void Arrange();
+  void FitWeight();
 
   QLineEdit *txtData;
   FitLabel *txtLoss;
@@ -63,6 +68,7 @@ class CalendarCellView : public QWidget {
   QColor line_;
   QColor accent_;
   QFont small_;
+  QFont weight_;
   bool today_ = false;
 };
 

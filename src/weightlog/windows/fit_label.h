@@ -21,8 +21,6 @@ class FitLabel : public QLabel {
   bool event(QEvent *event) override;
 
  private:
-  QFont FittingFont() const;
-
   QFont drawn_;
   bool ownFont_ = false;
 };

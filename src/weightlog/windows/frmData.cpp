@@ -13,11 +13,13 @@
 #include "core/session/session.h"
 #include "core/settings/options.h"
 #include "core/windows/controls/art.h"
+#include "core/windows/controls/figure_field.h"
 #include "core/windows/controls/theme.h"
 #include "platform/text/text_format.h"
 #include "platform/windows/printing/window_printer.h"
+#include "weightlog/calendar_speech.h"
+#include "weightlog/windows/fit_label.h"
 #include "weightlog/windows/frmReward.h"
-#include "weightlog/windows/month_grid.h"
 #include "weightlog/windows/weight_entry.h"
 
 namespace trimlog {
@@ -49,6 +51,10 @@ frmData::frmData(Session &session, const Navigator &navigator, QWidget *parent)
   layout->setContentsMargins(0, 0, 0, 0);
   layout->setSpacing(0);
   layout->addWidget(MakeHeader());
+  lblNewcomer = new FitLabel(QStringLiteral("lblNewcomer"), Qt::AlignCenter, this);
+  lblNewcomer->setText(tr("Type your weight into today's cell and press Enter: that is all it takes."));
+  lblNewcomer->setMinimumHeight(fontMetrics().height() + 8);
+  layout->addWidget(lblNewcomer);
   grid_ = new MonthGrid(session_.locale, this);
   layout->addWidget(grid_, 1);
   layout->addWidget(MakeFooter());
@@ -120,7 +126,10 @@ QWidget *frmData::MakeFooter() {
   chkShowCalories->setObjectName(QStringLiteral("chkShowCalories"));
   cboNutrientID = new QComboBox(footer);
   cboNutrientID->setObjectName(QStringLiteral("cboNutrientID"));
-  cboNutrientID->setAccessibleName(tr("Shown on the calendar"));
+  // Heard, not seen: a combo box says its choice and takes its name from a label only.
+  auto *lblNutrientID = new QLabel(tr("Figure shown below each day"), footer);
+  lblNutrientID->setBuddy(cboNutrientID);
+  lblNutrientID->hide();
   cboNutrientID->setToolTip(tr("What the calendar shows below each day"));
   cboNutrientID->setSizePolicy(QSizePolicy::Preferred, QSizePolicy::Fixed);
   cboNutrientID->setSizeAdjustPolicy(QComboBox::AdjustToMinimumContentsLengthWithIcon);
@@ -128,12 +137,8 @@ QWidget *frmData::MakeFooter() {
   lblTotal2 = new QLabel(tr("Month"), footer);
   lblTotal2->setObjectName(QStringLiteral("lblTotal2"));
   lblTotal2->setContentsMargins(8, 2, 8, 2);
-  txtTotalMonth = new FitLabel(QStringLiteral("txtTotalMonth"), Qt::AlignCenter, footer);
-  QFont bold = font();
-  bold.setBold(true);
-  txtTotalMonth->setFont(bold);
+  txtTotalMonth = new FigureField(QStringLiteral("txtTotalMonth"), Qt::AlignCenter, footer);
   txtTotalMonth->setToolTip(tr("The loss of this month"));
-  txtTotalMonth->setMinimumWidth(QFontMetrics(bold).horizontalAdvance(QStringLiteral("-8888.88")));
   auto *row = new QHBoxLayout(footer);
   row->setContentsMargins(8, 4, 0, 4);
   row->setSpacing(10);
@@ -154,6 +159,7 @@ void frmData::FillNutrients() {
 }
 
 void frmData::Connect() {
+  connect(grid_, &MonthGrid::Arranged, this, &frmData::AlignMonthTotal);
   connect(entry_.get(), &WeightEntry::Entered, this, &frmData::ShowMonth);
   connect(entry_.get(), &WeightEntry::Saved, this, &frmData::OnSaved);
   connect(entry_.get(), &WeightEntry::MonthWanted, this, &frmData::GotoMonth);
@@ -195,8 +201,13 @@ void frmData::Navigate(const std::function<void()> &move) {
   const bool inField = entry_->HasFocus();
   move();
   entry_->Forget();
-  ShowMonth();
-  if (inField && model_.Month().currentIndex != 0) entry_->Enter(model_.Month().currentIndex);
+  // For who listens: the days get their names, then the focus tells which one it is on, then the figures follow.
+  ShowDays();
+  if (inField && model_.Month().currentIndex != 0) {
+    entry_->Enter(model_.Month().currentIndex);  // shows the figures
+  } else {
+    ShowTexts();
+  }
 }
 
 void frmData::GotoMonth(int months) {
@@ -210,7 +221,7 @@ void frmData::GotoToday() {
 void frmData::OpenTips() { navigator_.ShowHelp(QStringLiteral("calendar")); }
 
 void frmData::OpenQuickJournal() {
-  if (entry_->TryLeave()) navigator_.OpenQuickJournal(this);
+  if (SaveOpenEdit() == EditOutcome::Saved) navigator_.OpenQuickJournal(this);
 }
 
 void frmData::DeleteWeight() {
@@ -263,14 +274,32 @@ void frmData::ShowReward() {
   window.exec();
 }
 
+MonthGrid::Setting frmData::GridSetting() const {
+  return {session_.settings, session_.profile.BackColor, session_.Today(), cboNutrientID->currentText(),
+          !model_.IsNewcomer()};
+}
+
 void frmData::ShowMonth() {
+  ShowDays();
+  ShowTexts();
+}
+
+void frmData::ShowDays() {
   // The focus of a field that is switched off wanders to its neighbour; nobody enters that one.
   entry_->Suspend(true);
-  grid_->Show(model_.Month(), session_.profile.BackColor, session_.Today(), entry_->PendingCell());
+  grid_->ShowDays(model_.Month(), GridSetting());
   entry_->Suspend(false);
   txtMonth->ShowText(model_.Month().title);
-  ShowMonthTotal();
+  txtTotalMonth->setAccessibleName(SpokenMonth(model_.Month()));
+  lblNewcomer->setVisible(model_.IsNewcomer());
   ShowCurrent();
+}
+
+void frmData::ShowTexts() {
+  entry_->Suspend(true);
+  grid_->ShowTexts(model_.Month(), GridSetting(), entry_->PendingCell());
+  entry_->Suspend(false);
+  ShowMonthTotal();
 }
 
 void frmData::ShowMonthTotal() {
@@ -280,6 +309,15 @@ void frmData::ShowMonthTotal() {
   txtTotalMonth->ShowColor(total.color == calendar_colour::even
                                ? desktop.color(QPalette::WindowText)
                                : MeaningColor(ColorFromBgr(total.color), desktop.color(QPalette::Window)));
+  txtTotalMonth->setVisible(!model_.IsNewcomer());
+  lblTotal2->setVisible(!model_.IsNewcomer());
+}
+
+void frmData::AlignMonthTotal() {
+  QFont bold = grid_->TotalsFont();
+  bold.setBold(true);
+  txtTotalMonth->UseFont(bold);
+  txtTotalMonth->setFixedWidth(grid_->TotalsWidth());
 }
 
 void frmData::ShowCurrent() {
@@ -293,6 +331,7 @@ void frmData::ShowSettings() {
   const QPalette desktop = grid_->DesktopPalette();
   PaintPanel(lblMonth, panel, desktop);
   PaintPanel(lblTotal2, panel, desktop);
+  PaintPanel(lblNewcomer, panel, desktop);
   const QPalette buttons = ButtonPalette(PanelColor(panel, desktop));
   for (QToolButton *button : {cmdPrevMonth, cmdNextMonth, cmdToday, cmdDiary, cmdTips}) button->setPalette(buttons);
   chkShowLoss->setChecked(session_.settings.ShowLoss);
@@ -314,7 +353,7 @@ void frmData::keyPressEvent(QKeyEvent *event) {
 }
 
 void frmData::PrintContents() {
-  if (!entry_->TryLeave()) return;
+  if (SaveOpenEdit() != EditOutcome::Saved) return;  // a reward comes now, not above the question
   if (!session_.boxes.Ask(tr("Print Window?"),
                           tr("This will print the current calendar month to your default printer.  "
                              "Would you like to continue?"))) {

@@ -5,6 +5,7 @@
 #include "core/session/navigator.h"
 #include "core/windows/frame/content_window.h"
 #include "weightlog/calendar_model.h"
+#include "weightlog/windows/month_grid.h"
 
 class QCheckBox;
 class QComboBox;
@@ -13,8 +14,8 @@ class QToolButton;
 
 namespace trimlog {
 
+class FigureField;
 class FitLabel;
-class MonthGrid;
 class Session;
 class WeightEntry;
 struct DataChange;
@@ -60,9 +61,13 @@ class frmData : public ContentWindow {
   /// Moves on the calendar after the open cell was left, and takes the focus along when it was in a cell.
   void Navigate(const std::function<void()> &move);
   void ShowMonth();
+  void ShowDays();
+  void ShowTexts();
+  MonthGrid::Setting GridSetting() const;
   void ShowSettings();
   void ShowCurrent();
   void ShowMonthTotal();
+  void AlignMonthTotal();
 
   Session &session_;
   const Navigator &navigator_;
@@ -78,7 +83,8 @@ class frmData : public ContentWindow {
   QCheckBox *chkShowCalories = nullptr;
   QComboBox *cboNutrientID = nullptr;
   QLabel *lblTotal2 = nullptr;
-  FitLabel *txtTotalMonth = nullptr;
+  FigureField *txtTotalMonth = nullptr;
+  FitLabel *lblNewcomer = nullptr;
   QLabel *txtCurrentIndex = nullptr;
   QLabel *txtCurrentDate = nullptr;
   MonthGrid *grid_ = nullptr;

@@ -3,8 +3,10 @@
 #include <QApplication>
 #include <QEvent>
 
+#include "core/windows/controls/figure_field.h"
 #include "core/windows/controls/theme.h"
 #include "platform/windows/fields/member_name.h"
+#include "weightlog/calendar_speech.h"
 
 namespace trimlog {
 
@@ -26,7 +28,7 @@ QPalette PaperPalette() {
 }  // namespace
 
 MonthGrid::MonthGrid(const QLocale &locale, QWidget *parent)
-    : QWidget(parent), lblTotal1(new FitLabel(QStringLiteral("lblTotal1"), Qt::AlignCenter, this)) {
+    : QWidget(parent), lblTotal1(new FitLabel(QStringLiteral("lblTotal1"), Qt::AlignCenter, this)), locale_(locale) {
   for (int day = 1; day <= days; ++day) {
     auto *header = new FitLabel(QStringLiteral("lblDay%1").arg(day), Qt::AlignCenter, this);
     header->setText(locale.dayName(day == 1 ? Qt::Sunday : day - 1, QLocale::ShortFormat));
@@ -36,7 +38,7 @@ MonthGrid::MonthGrid(const QLocale &locale, QWidget *parent)
   for (int i = 1; i <= calendarCells; ++i) cells_[static_cast<size_t>(i - 1)] = new CalendarCellView(i, this);
   for (int row = 1; row <= calendarRows; ++row) {
     auto *box = new FitLabel(MemberName("lblTotal", row), Qt::AlignCenter, this);
-    auto *total = new FitLabel(MemberName("txtTotal", row), Qt::AlignCenter, box);
+    auto *total = new FigureField(MemberName("txtTotal", row), Qt::AlignCenter, box);
     total->setToolTip(tr("The loss of this week"));
     lblTotal_[static_cast<size_t>(row - 1)] = box;
     txtTotal_[static_cast<size_t>(row - 1)] = total;
@@ -53,18 +55,46 @@ int MonthGrid::IndexOf(const QObject *field) const {
 
 QPalette MonthGrid::DesktopPalette() const { return paper_ ? PaperPalette() : QApplication::palette(); }
 
-void MonthGrid::Show(const CalendarMonth &month, quint32 BackColor, const QDate &today, int keepText) {
-  const CalendarLook look(DesktopPalette(), paper_ ? calendar_colour::white : BackColor);
+CalendarLook MonthGrid::Look(quint32 BackColor) const {
+  return CalendarLook(DesktopPalette(), paper_ ? calendar_colour::white : BackColor);
+}
+
+void MonthGrid::ShowDays(const CalendarMonth &month, const Setting &setting) {
+  const CalendarLook look = Look(setting.BackColor);
   for (int i = 1; i <= calendarCells; ++i) {
     const CalendarCell &cell = month.Cell(i);
-    cells_[static_cast<size_t>(i - 1)]->Show(cell, look, cell.date == today && cell.enabled, i == keepText);
+    cells_[static_cast<size_t>(i - 1)]->ShowDay(cell, look, SpokenDay(cell, locale_),
+                                                cell.date == setting.today && cell.enabled);
   }
-  ShowHeaders(paper_ ? calendar_colour::white : BackColor);
-  ShowTotals(month);
+  KeepFocus(month);
+  for (int i = 1; i <= calendarCells; ++i) cells_[static_cast<size_t>(i - 1)]->Close(month.Cell(i));
+  for (int row = 1; row <= calendarRows; ++row) {
+    FigureField *total = txtTotal_[static_cast<size_t>(row - 1)];
+    const QString spoken = SpokenWeek(month, row);
+    if (total->accessibleName() != spoken) total->setAccessibleName(spoken);
+  }
+  ShowHeaders(paper_ ? calendar_colour::white : setting.BackColor);
   const int rows = month.Total(calendarRows).visible ? calendarRows : calendarRows - 1;
   if (rows == rows_) return;
   rows_ = rows;
   Arrange();
+}
+
+// A field that closes under the focus would pass it to its neighbour, and that one would be heard.
+void MonthGrid::KeepFocus(const CalendarMonth &month) {
+  const int focused = IndexOf(QApplication::focusWidget());
+  if (focused == 0 || month.CanEnter(focused) || !month.CanEnter(month.currentIndex)) return;
+  Field(month.currentIndex)->setFocus(Qt::OtherFocusReason);
+}
+
+void MonthGrid::ShowTexts(const CalendarMonth &month, const Setting &setting, int keepText) {
+  const CalendarLook look = Look(setting.BackColor);
+  for (int i = 1; i <= calendarCells; ++i) {
+    const CalendarCell &cell = month.Cell(i);
+    cells_[static_cast<size_t>(i - 1)]->ShowTexts(
+        cell, look, SpokenDetails(cell, setting.figure, setting.settings, locale_), i == keepText);
+  }
+  ShowTotals(month, setting.showTotals);
 }
 
 void MonthGrid::ShowHeaders(quint32 BackColor) {
@@ -72,16 +102,16 @@ void MonthGrid::ShowHeaders(quint32 BackColor) {
   PaintPanel(lblTotal1, BackColor, DesktopPalette());
 }
 
-void MonthGrid::ShowTotals(const CalendarMonth &month) {
+void MonthGrid::ShowTotals(const CalendarMonth &month, bool visible) {
   const QPalette desktop = DesktopPalette();
   const QColor background = desktop.color(QPalette::Window);
   for (int row = 1; row <= calendarRows; ++row) {
-    FitLabel *total = txtTotal_[static_cast<size_t>(row - 1)];
+    FigureField *total = txtTotal_[static_cast<size_t>(row - 1)];
     const quint32 color = month.Total(row).color;
     total->ShowText(month.Total(row).text);
     total->ShowColor(color == calendar_colour::even ? desktop.color(QPalette::WindowText)
                                                     : MeaningColor(ColorFromBgr(color), background));
-    total->setVisible(month.Total(row).visible);
+    total->setVisible(visible && month.Total(row).visible);
     lblTotal_[static_cast<size_t>(row - 1)]->setVisible(month.Total(row).visible);
   }
 }
@@ -91,11 +121,8 @@ int MonthGrid::HeaderHeight() const { return fontMetrics().height() + 6; }
 int MonthGrid::TotalsWidth() const { return width() - days * (width() * 10 / 78); }
 
 QSize MonthGrid::minimumSizeHint() const {
-  const CalendarFonts fonts(font(), 0);
-  const int figure = QFontMetrics(fonts.small).horizontalAdvance(QStringLiteral("-2888 Cal"));
-  const int weight = QFontMetrics(fonts.weight).horizontalAdvance(QStringLiteral("888.88"));
-  const int column = std::max(figure, weight) + 14;
-  return {column * 78 / 10, HeaderHeight() + calendarRows * CalendarFonts::LeastHeight(font())};
+  const QSize cell = CalendarFonts::LeastCell(font());
+  return {cell.width() * 78 / 10, HeaderHeight() + calendarRows * cell.height()};
 }
 
 void MonthGrid::Arrange() {
@@ -114,22 +141,22 @@ void MonthGrid::Arrange() {
     }
     FitLabel *box = lblTotal_[static_cast<size_t>(row)];
     box->setGeometry(left, top, width() - left, bottom - top);
-    txtTotal_[static_cast<size_t>(row)]->setGeometry(2, 0, box->width() - 4, box->height());
+    txtTotal_[static_cast<size_t>(row)]->setGeometry(2, 2, box->width() - 4, box->height() - 4);
   }
+  Q_EMIT Arranged();
 }
 
 void MonthGrid::ShowFonts() {
-  const int height = (this->height() - HeaderHeight()) / calendarRows;
-  if (height == fontHeight_) return;
-  const CalendarFonts before(font(), fontHeight_);
-  const CalendarFonts fonts(font(), height);
-  const bool first = fontHeight_ == 0;
-  fontHeight_ = height;
-  if (!first && before.small == fonts.small && before.weight == fonts.weight) return;
-  for (CalendarCellView *cell : cells_) cell->SetFonts(fonts);
-  QFont total = fonts.weight;
-  total.setWeight(QFont::Normal);
-  for (FitLabel *label : txtTotal_) label->UseFont(total);
+  const QSize cell(width() * 10 / 78, (height() - HeaderHeight()) / calendarRows);
+  if (cell == fontCell_) return;
+  const CalendarFonts fonts(font(), cell);
+  const bool same = fontCell_.isValid() && CalendarFonts(font(), fontCell_) == fonts;
+  fontCell_ = cell;
+  if (same) return;
+  for (CalendarCellView *view : cells_) view->SetFonts(fonts);
+  totalsFont_ = fonts.weight;
+  totalsFont_.setWeight(QFont::Normal);
+  for (FigureField *total : txtTotal_) total->UseFont(totalsFont_);
 }
 
 void MonthGrid::resizeEvent(QResizeEvent *) {
@@ -140,7 +167,7 @@ void MonthGrid::resizeEvent(QResizeEvent *) {
 void MonthGrid::changeEvent(QEvent *event) {
   QWidget::changeEvent(event);
   if (event->type() != QEvent::FontChange) return;
-  fontHeight_ = 0;
+  fontCell_ = {};
   ShowFonts();
   Arrange();
 }

@@ -95,12 +95,14 @@ void WeightEntry::Refuse(QLineEdit *field) {
 
 void WeightEntry::Enter(int i) {
   QLineEdit *field = grid_.Field(i);
+  const bool typing = PendingCell() == i;
   const bool was = suspended_;
   suspended_ = true;
   field->setFocus(Qt::OtherFocusReason);
   suspended_ = was;
   entered_ = i;
   model_.EnterCell(i);
+  if (!typing) field->setText(model_.EntryText());  // of another month, which is not shown yet
   field->selectAll();
   Q_EMIT Entered();
 }
@@ -171,7 +173,7 @@ bool WeightEntry::OnKey(int i, const QKeyEvent &event) {
 
 bool WeightEntry::OnArrow(int i, const QKeyEvent &event) {
   const std::optional<CalendarArrow> arrow = ArrowOf(event.key());
-  if (!arrow || (event.modifiers() & ~Qt::KeypadModifier) != Qt::NoModifier) return false;
+  if (!arrow || event.modifiers().testFlag(Qt::ShiftModifier)) return false;
   const int target = ArrowTarget(model_.Month(), i, *arrow);
   if (target == 0) return false;
   if (TryLeave()) grid_.Field(target)->setFocus(Qt::OtherFocusReason);

@@ -102,6 +102,23 @@ void frmMDI::CreateProfile() {
   });
 }
 
+void frmMDI::GoToOwnProfile() {
+  Guarded(session_, LoadDataFailure(), [this] {
+    QString own = session_.profile.LastRealPersonID;
+    if (!ProfileExists(session_, own)) {
+      const QList<ProfileEntry> profiles = FillProfilesArray(session_);
+      own = profiles.isEmpty() ? QString() : profiles.first().PersonID;
+    }
+    if (!own.isEmpty()) {
+      LoadData(own);
+    } else if (CanRunProfileCommand(ProfileCommand::CreateProfile)) {
+      ProfileMenuEntry create;
+      create.command = ProfileCommand::CreateProfile;
+      RunProfileCommand(create);
+    }
+  });
+}
+
 void frmMDI::RunWizard() {
   if (navigator_.StartWiz(true)) SwitchTo(session_.profile.CurrentPersonID);
 }

@@ -61,6 +61,7 @@ void frmMDI::BuildPanels() {
   layout->setContentsMargins(0, 0, 0, 0);
   layout->setSpacing(0);
   statistics_ = new frmMain1(session_, middle);
+  connect(statistics_, &frmMain1::OwnProfileWanted, this, &frmMDI::GoToOwnProfile);
   navigation_ = new frmMain(session_, middle);
   auto *area = new QWidget(middle);
   area->setObjectName(QStringLiteral("pnlContent"));

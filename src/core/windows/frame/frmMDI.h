@@ -66,6 +66,8 @@ class frmMDI : public QMainWindow {
   void RefreshMain();
   /// The configuration wizard on demand; what it wrote is loaded.
   void RunWizard();
+  /// From a sample to the person's own profile; the first one is made on the way.
+  void GoToOwnProfile();
 
   void CloseSplash();
   /// The window's place and state into the session, in twips.

@@ -1,43 +1,50 @@
 #include "core/windows/frame/frmMain1.h"
 
 #include <QGridLayout>
+#include <QHBoxLayout>
 #include <QLabel>
-#include <QLineEdit>
+#include <QToolButton>
 
 #include "core/frame/frame_data.h"
 #include "core/session/failure_guard.h"
+#include "core/windows/controls/figure_field.h"
 #include "core/windows/controls/theme.h"
+#include "core/windows/frame/goal_progress.h"
 #include "platform/text/text_format.h"
 
 namespace trimlog {
 
 namespace {
 
-constexpr int fieldMargins = 14;
+constexpr int figureMargins = 7;
+constexpr double captionShare = 0.85;
 
-/// One column of the panel: a label above its read-only field, wide enough for `widest`.
-QLineEdit *AddField(QGridLayout *layout, const QString &name, const QString &label, const QString &widest,
-                    const QString &tip) {
-  QWidget *panel = layout->parentWidget();
-  auto *field = new QLineEdit(panel);
-  field->setObjectName(QStringLiteral("txt") + name);
-  field->setReadOnly(true);
-  field->setFocusPolicy(Qt::ClickFocus);  // to be read and copied from, not a stop on the keyboard's way
+}  // namespace
+
+/// One column of the panel: a caption above its figure.
+FigureField *frmMain1::AddFigure(const QString &name, const QString &label, const QString &tip) {
+  auto *layout = static_cast<QGridLayout *>(this->layout());
+  auto *field = new FigureField(QStringLiteral("txt") + name, Qt::AlignCenter, this);
   field->setToolTip(tip);
-  field->setMinimumWidth(field->fontMetrics().horizontalAdvance(widest) + fieldMargins);
-  auto *caption = new QLabel(label, panel);
+  auto *caption = new QLabel(label, this);
   caption->setObjectName(QStringLiteral("lbl") + name);
+  caption->setTextFormat(Qt::PlainText);
+  caption->setAlignment(Qt::AlignCenter);
   caption->setToolTip(tip);
   caption->setBuddy(field);
   field->setAccessibleName(label);
-  const int column = layout->columnCount();
+  QFont small = font();
+  small.setPointSizeF(QFontInfo(small).pointSizeF() * captionShare);
+  caption->setFont(small);
+  QFont strong = font();
+  strong.setWeight(QFont::DemiBold);
+  field->UseFont(strong);
+  const int column = columns_++;
   layout->addWidget(caption, 0, column);
   layout->addWidget(field, 1, column);
-  layout->setColumnStretch(column, 1);
+  layout->setColumnStretch(column, 2);
   return field;
 }
-
-}  // namespace
 
 frmMain1::frmMain1(Session &session, QWidget *parent) : QWidget(parent), session_(session) {
   setObjectName(QStringLiteral("frmMain1"));
@@ -46,27 +53,28 @@ frmMain1::frmMain1(Session &session, QWidget *parent) : QWidget(parent), session
   layout->setContentsMargins(8, 4, 8, 6);
   layout->setHorizontalSpacing(6);
   layout->setVerticalSpacing(1);
-  const QString weight = QStringLiteral("888.8");
-  const QString longestDate = ShortDate(QDate(2028, 12, 28), session_.locale);
-  txtPersonName =
-      AddField(layout, QStringLiteral("PersonName"), QStringLiteral("Name"), QStringLiteral("Ann Smith"), {});
-  layout->setColumnStretch(layout->columnCount() - 1, 3);
-  txtGoal = AddField(layout, QStringLiteral("Goal"), {}, weight,
-                     QStringLiteral("This is your weight loss goal as defined in the Setup"));
-  txtLbsLost = AddField(layout, QStringLiteral("LbsLost"), {}, QStringLiteral("Gained 88.8"),
-                        QStringLiteral("This is the total weight that you have lost to date."));
-  txtLbsPerWeek = AddField(layout, QStringLiteral("LbsPerWeek"), {}, weight,
-                           QStringLiteral("This is your current pace (the average weight you will lose in a week)"));
-  txtLbsLeft = AddField(
-      layout, QStringLiteral("LbsLeft"), {}, weight,
+  txtPersonName = AddFigure(QStringLiteral("PersonName"), QStringLiteral("Name"), {});
+  layout->setColumnStretch(0, 3);
+  txtGoal =
+      AddFigure(QStringLiteral("Goal"), {}, QStringLiteral("This is your weight loss goal as defined in the Setup"));
+  txtLbsLost =
+      AddFigure(QStringLiteral("LbsLost"), {}, QStringLiteral("This is the total weight that you have lost to date."));
+  txtLbsPerWeek = AddFigure(QStringLiteral("LbsPerWeek"), {},
+                            QStringLiteral("This is your current pace (the average weight you will lose in a week)"));
+  txtLbsLeft = AddFigure(
+      QStringLiteral("LbsLeft"), {},
       QStringLiteral("According to the goal that you have entered, this is the weight that you need to lose."));
-  txtDaysLeft = AddField(layout, QStringLiteral("DaysLeft"), QStringLiteral("Days Left"), weight,
-                         QStringLiteral("This is the projected number of days that you have left to reach your goal."));
-  txtProjDate = AddField(layout, QStringLiteral("ProjDate"), QStringLiteral("Proj. Date"), longestDate,
-                         QStringLiteral("This is the projected date at which you will reach your goal."));
-  for (QLineEdit *figure : {txtGoal, txtLbsLost, txtLbsPerWeek, txtLbsLeft, txtDaysLeft, txtProjDate}) {
-    figure->setAlignment(Qt::AlignCenter);
-  }
+  txtDaysLeft =
+      AddFigure(QStringLiteral("DaysLeft"), QStringLiteral("Days Left"),
+                QStringLiteral("This is the projected number of days that you have left to reach your goal."));
+  txtProjDate = AddFigure(QStringLiteral("ProjDate"), QStringLiteral("Proj. Date"),
+                          QStringLiteral("This is the projected date at which you will reach your goal."));
+  // One width for all figures: that of the longest of them.
+  const int widest = txtProjDate->fontMetrics().horizontalAdvance(ShortDate(QDate(2028, 12, 28), session_.locale));
+  for (int column = 1; column < columns_; ++column) layout->setColumnMinimumWidth(column, widest + figureMargins);
+  progress_ = new GoalProgress(this);
+  layout->addWidget(progress_, 2, 0, 1, columns_);
+  layout->addWidget(MakeSampleMark(), 3, 0, 1, columns_);
 
   connect(&session_.changes, &DataChanges::StatisticsChanged, this, &frmMain1::ShowStatistics);
   connect(&session_.changes, &DataChanges::SettingsChanged, this, &frmMain1::Refresh);
@@ -75,8 +83,31 @@ frmMain1::frmMain1(Session &session, QWidget *parent) : QWidget(parent), session
   });
 }
 
+QWidget *frmMain1::MakeSampleMark() {
+  pnlSample = new QWidget(this);
+  pnlSample->setObjectName(QStringLiteral("pnlSample"));
+  auto *row = new QHBoxLayout(pnlSample);
+  row->setContentsMargins(0, 2, 0, 0);
+  auto *lblSample =
+      new QLabel(tr("You are looking at sample data: what you change here is undone at exit."), pnlSample);
+  lblSample->setObjectName(QStringLiteral("lblSample"));
+  auto *cmdOwnProfile = new QToolButton(pnlSample);
+  cmdOwnProfile->setObjectName(QStringLiteral("cmdOwnProfile"));
+  cmdOwnProfile->setText(tr("My Own Profile"));
+  cmdOwnProfile->setToolTip(tr("Goes to your own profile, or makes one"));
+  cmdOwnProfile->setFocusPolicy(Qt::TabFocus);
+  row->addWidget(lblSample, 1);
+  row->addWidget(cmdOwnProfile);
+  connect(cmdOwnProfile, &QToolButton::clicked, this, &frmMain1::OwnProfileWanted);
+  return pnlSample;
+}
+
 void frmMain1::Refresh() {
   PaintPanel(this, session_.profile.BackColor);
+  for (FigureField *figure : findChildren<FigureField *>()) {
+    figure->ShowColor(palette().color(QPalette::WindowText));
+  }
+  pnlSample->setVisible(session_.profile.IsSample());
   ShowUnits();
   ShowPerson();
   ShowStatistics();
@@ -85,25 +116,25 @@ void frmMain1::Refresh() {
 void frmMain1::ShowPerson() {
   GuardedQuietly([this] {
     const PersonFigures figures = ReadPersonFigures(session_);
-    txtPersonName->setText(figures.PersonName);
-    txtPersonName->setCursorPosition(0);
+    txtPersonName->ShowText(figures.PersonName);
     txtPersonName->setToolTip(figures.PersonName);
-    txtGoal->setText(figures.Goal);
+    txtGoal->ShowText(figures.Goal);
   });
 }
 
 void frmMain1::ShowStatistics() {
   const Statistics &statistics = session_.profile.statistics;
-  txtLbsLost->setText(statistics.LbsLost);
-  txtLbsPerWeek->setText(statistics.LbsPerWeek);
-  txtLbsLeft->setText(statistics.LbsLeft);
-  txtDaysLeft->setText(statistics.DaysLeft);
-  txtProjDate->setText(statistics.ProjDate);
+  txtLbsLost->ShowText(statistics.LbsLost);
+  txtLbsPerWeek->ShowText(statistics.LbsPerWeek);
+  txtLbsLeft->ShowText(statistics.LbsLeft);
+  txtDaysLeft->ShowText(statistics.DaysLeft);
+  txtProjDate->ShowText(statistics.ProjDate);
+  progress_->ShowProgress(statistics.Progress);
 }
 
 void frmMain1::ShowUnits() {
   const QString unit = session_.UomDisplay;
-  const auto relabel = [this](QLineEdit *field, const QString &text) {
+  const auto relabel = [this](FigureField *field, const QString &text) {
     field->setAccessibleName(text);
     findChild<QLabel *>(QStringLiteral("lbl") + field->objectName().mid(3))->setText(text);
   };

@@ -4,12 +4,12 @@
 
 #include "core/session/session.h"
 
-class QLabel;
-class QLineEdit;
-
 namespace trimlog {
 
-/// The statistics panel along the top of the main window: who, the goal, and how far it is.
+class FigureField;
+class GoalProgress;
+
+/// The statistics panel along the top of the main window: who, the goal, and how far it is. Marks the sample profiles.
 class frmMain1 : public QWidget {
   Q_OBJECT
  public:
@@ -17,19 +17,27 @@ class frmMain1 : public QWidget {
   /// Reads everything afresh: profile, statistics, units, colour.
   void Refresh();
 
+ Q_SIGNALS:
+  void OwnProfileWanted();  ///< away from a sample
+
  private:
+  FigureField *AddFigure(const QString &name, const QString &label, const QString &tip);
+  QWidget *MakeSampleMark();
   void ShowPerson();
   void ShowStatistics();
   void ShowUnits();
 
   Session &session_;
-  QLineEdit *txtPersonName = nullptr;
-  QLineEdit *txtGoal = nullptr;
-  QLineEdit *txtLbsLost = nullptr;
-  QLineEdit *txtLbsPerWeek = nullptr;
-  QLineEdit *txtLbsLeft = nullptr;
-  QLineEdit *txtDaysLeft = nullptr;
-  QLineEdit *txtProjDate = nullptr;
+  int columns_ = 0;
+  FigureField *txtPersonName = nullptr;
+  FigureField *txtGoal = nullptr;
+  FigureField *txtLbsLost = nullptr;
+  FigureField *txtLbsPerWeek = nullptr;
+  FigureField *txtLbsLeft = nullptr;
+  FigureField *txtDaysLeft = nullptr;
+  FigureField *txtProjDate = nullptr;
+  GoalProgress *progress_ = nullptr;
+  QWidget *pnlSample = nullptr;
 };
 
 }  // namespace trimlog

@@ -1,0 +1,51 @@
+#include "core/windows/controls/figure_field.h"
+
+#include "core/windows/controls/fitting_font.h"
+
+namespace trimlog {
+
+namespace {
+
+constexpr int ownMargins = 6;  ///< what a line edit keeps free at its ends
+
+}  // namespace
+
+FigureField::FigureField(const QString &name, Qt::Alignment alignment, QWidget *parent)
+    : QLineEdit(parent), roomy_(font()) {
+  setObjectName(name);
+  setReadOnly(true);
+  setFrame(false);
+  setAlignment(alignment);
+  ShowColor(palette().color(QPalette::WindowText));
+}
+
+void FigureField::ShowText(const QString &text) {
+  if (text == this->text()) return;
+  setText(text);
+  setCursorPosition(0);
+  Fit();
+}
+
+void FigureField::ShowColor(const QColor &color) {
+  QPalette own;
+  own.setColor(QPalette::Base, Qt::transparent);
+  own.setColor(QPalette::Text, color);
+  if (palette().color(QPalette::Base).alpha() != 0 || palette().color(QPalette::Text) != color) setPalette(own);
+}
+
+void FigureField::UseFont(const QFont &font) {
+  roomy_ = font;
+  Fit();
+}
+
+void FigureField::Fit() {
+  const QFont fitting = FittingFont(roomy_, text(), width() - ownMargins);
+  if (fitting != font()) setFont(fitting);
+}
+
+void FigureField::resizeEvent(QResizeEvent *event) {
+  QLineEdit::resizeEvent(event);
+  Fit();
+}
+
+}  // namespace trimlog
