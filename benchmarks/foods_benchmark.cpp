@@ -15,6 +15,7 @@
 #include <map>
 
 #include "catalogs/food_lists.h"
+#include "catalogs/food_search.h"
 #include "catalogs/windows/frmSetupFoods.h"
 #include "core/data/nutrients.h"
 #include "core/session/navigator.h"
@@ -129,16 +130,16 @@ const char *const bareSort =
     "COLLATE BINARY";
 
 void SearchShipped(benchmark::State &state) {
-  Show(state, Size::Shipped, FoodSearchSource(QStringLiteral("cheddar")), true);
+  Show(state, Size::Shipped, FoodSearchSource(SetupFoodLists(), QStringLiteral("cheddar")), true);
 }
 void SearchTenTimes(benchmark::State &state) {
-  Show(state, Size::TenTimes, FoodSearchSource(QStringLiteral("cheddar")), true);
+  Show(state, Size::TenTimes, FoodSearchSource(SetupFoodLists(), QStringLiteral("cheddar")), true);
 }
 void SortShipped(benchmark::State &state) {
-  Show(state, Size::Shipped, FoodListSource({.sort = QStringLiteral("-Protein")}), false);
+  Show(state, Size::Shipped, FoodListSource(SetupFoodLists(), {.sort = QStringLiteral("-Protein")}), false);
 }
 void SortTenTimes(benchmark::State &state) {
-  Show(state, Size::TenTimes, FoodListSource({.sort = QStringLiteral("-Protein")}), false);
+  Show(state, Size::TenTimes, FoodListSource(SetupFoodLists(), {.sort = QStringLiteral("-Protein")}), false);
 }
 void BareKeys(benchmark::State &state, Size size, const char *sql) {
   for (auto round : state) benchmark::DoNotOptimize(BareOf(size).Keys(sql));

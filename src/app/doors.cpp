@@ -41,7 +41,7 @@ void Program::FillNavigator() {
     frmSetupFoods(session_, navigator_, owner ? owner : frame_.get()).exec();
   };
   navigator_.OpenNutrientSelection = [this](QWidget *owner) {
-    frmSelectedNutrients(session_, navigator_, owner ? owner : frame_.get()).exec();
+    trimlog::OpenNutrientSelection(session_, navigator_, owner ? owner : frame_.get());
   };
   navigator_.StartWiz = [this](bool force) { return StartWiz(session_, navigator_, force, frame_.get()); };
   navigator_.AddProfile = [this](QWidget *owner) {

@@ -1,6 +1,6 @@
 #include "catalogs/daily_values.h"
 
-#include "catalogs/food_catalog.h"
+#include "catalogs/nutrient_groups.h"
 #include "core/data/data_access.h"
 #include "platform/text/text_format.h"
 

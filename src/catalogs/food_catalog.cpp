@@ -1,8 +1,9 @@
 #include "catalogs/food_catalog.h"
 
-#include "catalogs/food_lists.h"
+#include "catalogs/food_list_kind.h"
 #include "core/data/data_access.h"
 #include "core/session/change.h"
+#include "platform/grid/grid_source.h"
 #include "platform/store/recordset.h"
 #include "platform/text/text_format.h"
 
@@ -11,10 +12,29 @@ namespace trimlog {
 namespace {
 
 const QString mealsList = QStringLiteral("meals_list");
+const GridSource mealsTable = {.table = mealsList, .key = QStringLiteral("MealID")};
 
 /// What is stored is what is shown: rounded by the display pattern. A nutrient that was left empty is 0.
 double StoredValue(const FoodRecord &food, const Nutrients &nutrients, int nutrientID) {
   return Val(Format(food.nutrients.OrZero(nutrientID), GetNutrientFormat(Definition(nutrients, nutrientID).fieldName)));
+}
+
+/// A nutrient as the full dialog shows it; "" for one without a value.
+QString ShownValue(const FoodRecord &food, const Nutrients &nutrients, int nutrientID) {
+  const std::optional<double> value = food.nutrients.At(nutrientID);
+  return value ? Format(*value, GetNutrientFormat(Definition(nutrients, nutrientID).fieldName)) : QString();
+}
+
+/// What an edited food changes of the stored one.
+QVariantMap Differences(const FoodRecord &stored, const FoodRecord &edited, const Nutrients &nutrients) {
+  QVariantMap changed;
+  if (edited.MealDesc != stored.MealDesc) changed[QStringLiteral("MealDesc")] = WithoutDoubleQuotes(edited.MealDesc);
+  if (edited.MealGroupID != stored.MealGroupID) changed[QStringLiteral("MealGroupID")] = edited.MealGroupID;
+  for (int id = 1; id <= nutrientCount; ++id) {
+    if (ShownValue(edited, nutrients, id) == ShownValue(stored, nutrients, id)) continue;
+    changed[Definition(nutrients, id).fieldName] = StoredValue(edited, nutrients, id);
+  }
+  return changed;
 }
 
 /// No description that this program stores holds a double quote; one that does came from elsewhere, and its copy would
@@ -65,15 +85,11 @@ int AddFood(Session &session, const FoodRecord &food) {
 
 void SaveFood(Session &session, const FoodRecord &food) {
   Change change(session);
-  QString sql = QStringLiteral(
-      "UPDATE meals_list SET meals_list.MealDesc = ?, meals_list.MealGroupID = ?, meals_list.IsModified = True");
-  Params params = {WithoutDoubleQuotes(food.MealDesc), food.MealGroupID};
-  for (int id = 1; id <= nutrientCount; ++id) {
-    sql += QStringLiteral(", meals_list.") + Definition(session.nutrients, id).fieldName + QStringLiteral(" = ?");
-    params.append(StoredValue(food, session.nutrients, id));
-  }
-  params.append(food.MealID);
-  session.Data().Execute(sql + QStringLiteral(" WHERE (meals_list.MealID=?);"), params);
+  QVariantMap changed = Differences(ReadFood(session, food.MealID), food, session.nutrients);
+  if (changed.isEmpty()) return;
+  changed[QStringLiteral("IsModified")] = true;
+  const GridStatement update = UpdateStatement(mealsTable, food.MealID, changed);
+  session.Data().Execute(update.sql, update.params);
   change.Announce({.table = Table::MealsList, .keys = {food.MealID}});
   change.Commit();
 }
@@ -101,7 +117,9 @@ std::vector<qint64> PasteFoods(Session &session, const QList<QVariantMap> &rows)
   for (QVariantMap row : rows) {
     row[QStringLiteral("MealID")] = GetNextID(session.Data(), mealsList).toInt();
     row[QStringLiteral("RecordTypeID")] = food_kind::myFoods;
-    const GridStatement insert = InsertStatement({.table = mealsList, .key = QStringLiteral("MealID")}, row);
+    // An update of the shipped foods finds them by this number: a food of one's own must not be found.
+    row.remove(QStringLiteral("USDANum"));
+    const GridStatement insert = InsertStatement(mealsTable, row);
     session.Data().Execute(insert.sql, insert.params);
     keys.push_back(row[QStringLiteral("MealID")].toLongLong());
   }
@@ -122,56 +140,6 @@ QString DeleteFoodsQuestion(int count) {
                     : QStringLiteral(
                           "When you delete these foods from the list, any journal entries containing these "
                           "foods will also be deleted.  Are you sure you want to continue?");
-}
-
-const std::array<int, nutrientCount> &NutrientDialogOrder() {
-  static const std::array<int, nutrientCount> order = {1,  22, 3,  16, 18, 17, 19, 8,  9,  2,  5,  20,
-                                                       4,  11, 15, 6,  7,  12, 13, 14, 10, 21, 26, 24,
-                                                       23, 27, 25, 28, 29, 30, 31, 32, 33, 34, 35};
-  return order;
-}
-
-QString NutrientLabel(const Nutrients &nutrients, int nutrientID) {
-  static const std::array<const char *, nutrientCount> labels = {"Calories (cal):",
-                                                                 "Carbs (g):",
-                                                                 "Total Fat (g):",
-                                                                 "Protein (g):",
-                                                                 "Fiber (g):",
-                                                                 "Calcium (mg):",
-                                                                 "Iron (mg):",
-                                                                 "Sodium (mg):",
-                                                                 "Potassium (mg):",
-                                                                 "Zinc (mg):",
-                                                                 "Vitamin A (IU):",
-                                                                 "Vitamin E (mg):",
-                                                                 "Vitamin B6 (mg):",
-                                                                 "Vitamin B12 (mg):",
-                                                                 "Vitamin C (mg):",
-                                                                 "Saturated Fat (g):",
-                                                                 "Mono Fat (g):",
-                                                                 "Poly Fat (g):",
-                                                                 "Cholesterol (mg):",
-                                                                 "Sugar (g):",
-                                                                 "Alcohol (g):",
-                                                                 "Cal from Fat (cal):",
-                                                                 "% Cal from Fat:",
-                                                                 "Cal from Pro (cal):",
-                                                                 "% Cal from Pro:",
-                                                                 "Cal from Carb (cal):",
-                                                                 "% Cal from Carb:",
-                                                                 "",
-                                                                 "",
-                                                                 "",
-                                                                 "",
-                                                                 "",
-                                                                 "Net Carbs* (g):",
-                                                                 "Sugar Alc (g):",
-                                                                 "Trans Fat (g):"};
-  if (IsCustomNutrient(nutrientID)) {
-    const QString given = CustomNutrientName(nutrients, nutrientID);
-    return (given.isEmpty() ? Definition(nutrients, nutrientID).description : given) + QLatin1Char(':');
-  }
-  return QString::fromLatin1(labels.at(static_cast<std::size_t>(nutrientID - 1)));
 }
 
 }  // namespace trimlog

@@ -31,25 +31,22 @@ FoodRecord ReadFood(Session &session, int mealID);
 /// transaction.
 int AddFood(Session &session, const FoodRecord &food);
 
-/// Stores the description and the 35 nutrients of an edited food, each rounded by its display pattern, and marks it as
-/// modified, so that updates of the shipped foods leave it alone. One transaction.
+/// Stores what differs from the stored food: description, group and nutrients, each as its display pattern shows it,
+/// and marks the food as modified, so that updates of the shipped foods leave it alone. A food that shows no difference
+/// is not touched. One transaction.
 void SaveFood(Session &session, const FoodRecord &food);
 
 /// Copies a pre-loaded food to "My Foods": description, group and the 35 nutrients; serving, glycemic value and source
 /// key stay behind. Returns the new key. One transaction. Throws invalidSql for a description with a double quote.
 int CopyFood(Session &session, int mealID);
 
-/// Adds rows copied from a food grid to "My Foods", each under a key of its own; returns the keys. One transaction.
+/// Adds rows copied from a food grid to "My Foods", each under a key of its own and without the number of its source;
+/// returns the keys. One transaction.
 std::vector<qint64> PasteFoods(Session &session, const QList<QVariantMap> &rows);
 
 /// "Copy the following food: ... to your personal "My Foods" list?"
 QString CopyFoodQuestion(const QString &mealDesc);
 /// What deleting one or several foods asks.
 QString DeleteFoodsQuestion(int count);
-
-/// The order in which the full dialog lists the 35 nutrients, by NutrientID.
-const std::array<int, nutrientCount> &NutrientDialogOrder();
-/// "Calories (cal):", "Total Fat (g):", ...; a custom nutrient under the name that the person gave it.
-QString NutrientLabel(const Nutrients &nutrients, int nutrientID);
 
 }  // namespace trimlog

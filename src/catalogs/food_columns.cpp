@@ -37,9 +37,7 @@ GridColumn GroupColumn(Session &session, const QString &dropDown) {
                     .width = 20,
                     .editable = true,
                     .dropDown = dropDown};
-  for (const FoodChoice &group : FoodGroupChoices(session)) {
-    if (group.key != allFoodGroups) column.choices.append({group.key, group.text});
-  }
+  for (const FoodGroup &group : FoodGroups(session)) column.choices.append({group.key, group.text});
   return column;
 }
 
@@ -57,6 +55,15 @@ GridColumn NutrientGridColumn(int position, const NutrientColumn &nutrient) {
 
 GridColumn HiddenColumn(const QString &field, GridType type) {
   return {.name = field, .field = field, .type = type, .visible = false};
+}
+
+/// The column whose field a sort key names; none for the order by name.
+const GridColumn *SortedColumn(const GridColumns &columns, const QString &sort) {
+  const QString field = sort.startsWith(QLatin1Char('-')) ? sort.mid(1) : sort;
+  for (const GridColumn &column : columns) {
+    if (column.field == field) return &column;
+  }
+  return nullptr;
 }
 
 bool HoldsPreLoadedFood(Session &session, const std::vector<qint64> &keys) {
@@ -113,6 +120,15 @@ GridColumns FoodColumns(Session &session, const QString &groupsDropDown) {
   return columns;
 }
 
+bool IsSortShown(const GridColumns &columns, const QString &sort) { return SortedColumn(columns, sort) != nullptr; }
+
+QString SortedByText(const GridColumns &columns, const QString &sort) {
+  const GridColumn *column = SortedColumn(columns, sort);
+  if (!column) return {};
+  const QString caption = QString(column->caption).replace(QLatin1Char('\n'), QLatin1Char(' '));
+  return sort.startsWith(QLatin1Char('-')) ? caption + QStringLiteral(" (descending)") : caption;
+}
+
 QString PrepareEditedFood(const Nutrients &nutrients, GridRowEdit &row) {
   if (!row.HasChanges()) return {};
   for (const QString &field : {QStringLiteral("MealDesc"), QStringLiteral("Amount")}) {
@@ -123,7 +139,7 @@ QString PrepareEditedFood(const Nutrients &nutrients, GridRowEdit &row) {
     const QString shown = Format(row.Get(definition.fieldName).toDouble(), GetNutrientFormat(definition.fieldName));
     row.Set(definition.fieldName, Val(shown));
   }
-  row.Set(QStringLiteral("IsModified"), true);
+  if (row.HasChanges()) row.Set(QStringLiteral("IsModified"), true);
   return {};
 }
 

@@ -14,6 +14,11 @@ namespace trimlog {
 /// nutrients. A position that shows no nutrient is hidden. `groupsDropDown` names the list of food groups in a cell.
 GridColumns FoodColumns(Session &session, const QString &groupsDropDown);
 
+/// Has a column the field of a sort key?
+bool IsSortShown(const GridColumns &columns, const QString &sort);
+/// An order that a column's caption made, in words: "Serving Size", "GI Value (descending)".
+QString SortedByText(const GridColumns &columns, const QString &sort);
+
 /// Before a changed food is stored: it counts as modified from now on, double quotes leave its texts, and its nutrients
 /// are rounded to what is shown. Returns why the row is refused, or "".
 QString PrepareEditedFood(const Nutrients &nutrients, GridRowEdit &row);

@@ -1,7 +1,5 @@
 #include "catalogs/food_lists.h"
 
-#include <QRegularExpression>
-
 #include "platform/store/recordset.h"
 #include "platform/text/text_format.h"
 
@@ -9,19 +7,23 @@ namespace trimlog {
 
 namespace {
 
-const QString byName = QStringLiteral("0");
 const QString separatorText = QStringLiteral("----------------------------------");
 constexpr int recentDays = 14;
 constexpr int letters = 26;
 
-QList<GridOrder> OrderOf(const QString &sort) {
-  const GridOrder name{QStringLiteral("MealDesc")};
-  if (sort == byName) return {name};
+QList<GridOrder> OrderOf(const FoodListKind &kind, const QString &sort) {
+  if (sort == byFoodName) return kind.byName;
   const bool highest = sort.startsWith(QLatin1Char('-'));
-  return {{highest ? sort.mid(1) : sort, highest}, name};
+  const GridOrder first{highest ? sort.mid(1) : sort, highest};
+  const GridOrder name{QStringLiteral("MealDesc")};
+  return first.field == name.field ? QList<GridOrder>{first} : QList<GridOrder>{first, name};
 }
 
-const QString listed = QStringLiteral("((meals_list.RecordTypeID) <> 0) And ((meals_list.RecordTypeID) <> 3)");
+QString RowsOf(const QList<int> &kinds) {
+  QStringList numbers;
+  for (const int kind : kinds) numbers.append(QString::number(kind));
+  return QStringLiteral("((meals_list.RecordTypeID) IN (%1))").arg(numbers.join(QStringLiteral(", ")));
+}
 
 void AppendSorts(QList<FoodSortChoice> &choices, const Nutrients &nutrients, bool highest) {
   for (const SelectedNutrient &position : nutrients.SelectedNutrients) {
@@ -34,61 +36,71 @@ void AppendSorts(QList<FoodSortChoice> &choices, const Nutrients &nutrients, boo
 
 }  // namespace
 
-const QList<FoodChoice> &FoodListChoices() {
-  static const QList<FoodChoice> choices = {
-      {food_list::all, QStringLiteral("All Food Lists")},
-      {food_kind::preLoaded, QStringLiteral("Pre-Loaded Foods")},
-      {food_list::recent, QStringLiteral("Recent Foods")},
-      {food_kind::myFoods, QStringLiteral("My Foods")},
-  };
-  return choices;
+QList<FoodGroup> FoodGroups(Session &session) {
+  QList<FoodGroup> groups;
+  Recordset rows = session.Data().OpenRecordset(
+      QStringLiteral("SELECT meal_groups.* FROM meal_groups ORDER BY meal_groups.MealGroupID;"));
+  for (; !rows.Eof(); rows.MoveNext()) {
+    groups.append({rows.Integer(QStringLiteral("MealGroupID")), rows.Text(QStringLiteral("MealGroupDescription"))});
+  }
+  return groups;
 }
 
-QList<FoodChoice> FoodGroupChoices(Session &session) {
-  QList<FoodChoice> choices = {{allFoodGroups, QStringLiteral("All Food Groups")}};
-  Recordset groups = session.Data().OpenRecordset(
-      QStringLiteral("SELECT meal_groups.* FROM meal_groups ORDER BY meal_groups.MealGroupID;"));
-  for (; !groups.Eof(); groups.MoveNext()) {
-    choices.append(
-        {groups.Integer(QStringLiteral("MealGroupID")), groups.Text(QStringLiteral("MealGroupDescription"))});
-  }
-  return choices;
+QList<FoodGroup> FoodGroupChoices(Session &session) {
+  return QList<FoodGroup>{{allFoodGroups, QStringLiteral("All Food Groups")}} + FoodGroups(session);
 }
 
 QList<FoodSortChoice> FoodSortChoices(const Nutrients &nutrients) {
-  QList<FoodSortChoice> choices = {{byName, QStringLiteral("Food Description")}, {QStringLiteral("-1"), separatorText}};
+  QList<FoodSortChoice> choices = {{byFoodName, QStringLiteral("Food Description")},
+                                   {QStringLiteral("-1"), separatorText}};
   AppendSorts(choices, nutrients, false);
   choices.append({QStringLiteral("-2"), separatorText});
   AppendSorts(choices, nutrients, true);
   return choices;
 }
 
-GridSource FoodListSource(const FoodSelection &selection) {
+GridSource ListedFoods(const FoodListKind &kind) {
   GridSource source{.table = QStringLiteral("meals_list"), .key = QStringLiteral("MealID")};
-  source.order = OrderOf(selection.sort);
+  source.where = QStringLiteral("NOT ") + RowsOf(kind.never);
+  source.order = kind.byName;
   source.orderAs = {{QStringLiteral("MealDesc"), QStringLiteral("SortKey(meals_list.MealDesc)")}};
+  return source;
+}
+
+GridSource FoodListSource(const FoodListKind &kind, const FoodSelection &selection) {
+  GridSource source = ListedFoods(kind);
+  source.order = OrderOf(kind, selection.sort);
   if (selection.list == food_list::recent) {
     source.from =
         QStringLiteral("meals_list INNER JOIN temp_recent_meals ON meals_list.MealID = temp_recent_meals.MealID");
-    source.where = listed;
     return source;
   }
-  source.where = listed;
-  if (selection.list == food_list::all && selection.group == allFoodGroups) {
-    // All rows but the few that are never listed: the store knows the first number without counting.
-    source.count = QStringLiteral(
-        "SELECT (SELECT Count(*) FROM meals_list) - (SELECT Count(*) FROM meals_list "
-        "WHERE ((meals_list.RecordTypeID) IN (0, 3))) AS RowCount;");
-  }
-  if (selection.list != food_list::all) {
-    source.where = QStringLiteral("((meals_list.RecordTypeID) = ?)");
-    source.params.append(selection.list);
-  }
+  const QList<int> &kinds = kind.ListOf(selection.list).kinds;
+  if (!kinds.isEmpty()) source.where = RowsOf(kinds);
   if (selection.group != allFoodGroups) {
     source.where += QStringLiteral(" And ((meals_list.MealGroupID) = ?)");
     source.params.append(selection.group);
+  } else if (kinds.isEmpty()) {
+    // All rows but the few that are never listed: the store knows the first number without counting.
+    source.count =
+        QStringLiteral("SELECT (SELECT Count(*) FROM meals_list) - (SELECT Count(*) FROM meals_list WHERE ") +
+        RowsOf(kind.never) + QStringLiteral(") AS RowCount;");
   }
   return source;
+}
+
+QString SortKeyOf(const FoodListKind &kind, const GridSource &source) {
+  if (source.order.isEmpty() || source.order == kind.byName) return byFoodName;
+  const GridOrder &first = source.order.first();
+  if (first == GridOrder{QStringLiteral("MealDesc")}) return byFoodName;
+  return first.descending ? QLatin1Char('-') + first.field : first.field;
+}
+
+FoodSelection SelectionHolding(const FoodRecord &food, const FoodSelection &present) {
+  FoodSelection holding = present;
+  if (present.list != food_list::all) holding.list = food.RecordTypeID;
+  if (present.group != allFoodGroups) holding.group = food.MealGroupID;
+  return holding;
 }
 
 void FillRecentFoods(Session &session) {
@@ -103,27 +115,6 @@ void FillRecentFoods(Session &session) {
                    session.profile.CurrentPersonID + QStringLiteral("));"));
   transaction.Commit();
 }
-
-QString FoodSearchText(const QString &typed) { return QString(typed).remove(QLatin1Char('"')).trimmed(); }
-
-GridSource FoodSearchSource(const QString &text) {
-  GridSource source{.table = QStringLiteral("meals_list"), .key = QStringLiteral("MealID")};
-  source.order = OrderOf(byName);
-  const QStringList words =
-      FoodSearchText(text).toLower().split(QRegularExpression(QStringLiteral("\\s+")), Qt::SkipEmptyParts);
-  if (words.isEmpty()) {
-    source.where = QStringLiteral("meals_list.MealID = -99");
-    return source;
-  }
-  source.where = listed;
-  for (const QString &word : words) {
-    source.where += QStringLiteral(" AND ((InStr(1,LCase([MealDesc]),?))<>0)");
-    source.params.append(word);
-  }
-  return source;
-}
-
-QString FoodsFoundHeading(int count) { return QStringLiteral("Food Description  (%1 foods found)").arg(count); }
 
 QString FoodsDisplayedHeading(int count, bool groupShown) {
   const QString beforeCount =
@@ -149,8 +140,15 @@ QString PrintedFoodListTitle(const QString &listName, const QString &groupName) 
          groupName;
 }
 
-QString PrintedSearchTitle(const QString &searchText) {
-  return QStringLiteral("Food Search Results for: ") + searchText;
+QString EmptyListHint(const FoodSelection &selection) {
+  if (selection.list == food_list::recent) {
+    return QStringLiteral("You have eaten and planned nothing in the last %1 days.").arg(recentDays);
+  }
+  if (selection.list == food_kind::myFoods && selection.group == allFoodGroups) {
+    return QStringLiteral(
+        "Here stand the foods of your own.\nClick New to make one, or choose a pre-loaded food and click Copy Food.");
+  }
+  return QStringLiteral("No food of this list is in this group.\nChoose another list or group above.");
 }
 
 }  // namespace trimlog

@@ -20,9 +20,10 @@ QList<NutrientChoice> SelectableNutrients(Session &session);
 
 using NutrientSelection = std::array<SelectedNutrient, shownNutrients>;
 
-/// The ten positions as stored; one selection holds for the whole file.
+/// The ten positions as stored; one selection holds for the whole file. Throws when the file holds none.
 NutrientSelection ReadNutrientSelection(Session &session);
-/// Stores them in one transaction, refreshes the session's vocabulary and announces the change.
+/// Stores them in one transaction, refreshes the session's vocabulary and announces the change. Throws when the file
+/// holds no selection.
 void SaveNutrientSelection(Session &session, const NutrientSelection &selection);
 
 /// True when foods built on the old selection are on a handheld: a notice is due.

@@ -1,12 +1,11 @@
 #include "catalogs/windows/food_list_page.h"
 
-#include <QAbstractItemView>
 #include <QComboBox>
 #include <QGridLayout>
-#include <QHeaderView>
-#include <QKeyEvent>
 #include <QLabel>
 #include <QPushButton>
+#include <QSignalBlocker>
+#include <QStandardItemModel>
 #include <QVBoxLayout>
 
 #include "catalogs/food_columns.h"
@@ -26,7 +25,6 @@ QComboBox *AddCombo(QGridLayout *layout, int column, const QString &name, const 
   auto *label = new QLabel(caption, parent);
   auto *combo = new QComboBox(parent);
   combo->setObjectName(name);
-  combo->setAccessibleName(QString(caption).remove(QLatin1Char('&')).remove(QLatin1Char(':')));
   combo->setSizeAdjustPolicy(QComboBox::AdjustToMinimumContentsLengthWithIcon);
   combo->setMinimumContentsLength(14);
   label->setBuddy(combo);
@@ -35,25 +33,22 @@ QComboBox *AddCombo(QGridLayout *layout, int column, const QString &name, const 
   return combo;
 }
 
+void Choose(QComboBox &combo, const QVariant &key) {
+  const QSignalBlocker quiet(combo);
+  combo.setCurrentIndex(combo.findData(key));
+}
+
 }  // namespace
 
-FoodListPage::FoodListPage(Session &session, QWidget *parent) : QWidget(parent), session_(session) {
+FoodListPage::FoodListPage(Session &session, const FoodListKind &kind, QWidget *parent)
+    : QWidget(parent), session_(session), kind_(kind) {
   auto *layout = new QVBoxLayout(this);
   auto *choices = new QGridLayout;
   layout->addLayout(choices);
-  cboRecordTypeMeals = AddCombo(choices, 0, QStringLiteral("cboRecordTypeMeals"), QStringLiteral("Food &List:"), this);
-  cboMealGroups = AddCombo(choices, 1, QStringLiteral("cboMealGroups"), QStringLiteral("Food &Group:"), this);
-  cboSort = AddCombo(choices, 2, QStringLiteral("cboSort"), QStringLiteral("&Sort by:"), this);
-  cmdAplha = new QPushButton(QStringLiteral("A - Z  >>"), this);
-  cmdAplha->setObjectName(QStringLiteral("cmdAplha"));
-  cmdAplha->setToolTip(QStringLiteral("Shows letters that jump in the list."));
-  cmdAplha->setAutoDefault(false);
-  choices->addWidget(cmdAplha, 1, 3);
-  choices->setColumnStretch(1, 1);
-
+  MakeChoices(choices);
   alphabet_ = new AlphabetBar(this);
-  alphabet_->hide();
   layout->addWidget(alphabet_);
+  ShowAlphabet(false);
   lblFoods = new QLabel(this);
   lblFoods->setObjectName(QStringLiteral("lblFoods"));
   lblFoods->setSizePolicy(QSizePolicy::Ignored, QSizePolicy::Preferred);  // its blanks shall not widen the window
@@ -62,112 +57,114 @@ FoodListPage::FoodListPage(Session &session, QWidget *parent) : QWidget(parent),
   grdMealsList->GiveRoom(QStringLiteral("MealGroupID"), QStringLiteral("MealDesc"));
   layout->addWidget(grdMealsList, 1);
 
-  AddChoices();
-  connect(cboRecordTypeMeals, &QComboBox::currentIndexChanged, this, &FoodListPage::FillList);
-  connect(cboMealGroups, &QComboBox::currentIndexChanged, this, &FoodListPage::FillList);
-  cboSort->installEventFilter(this);
-  connect(cboSort, &QComboBox::activated, this, &FoodListPage::OnSort);
-  connect(grdMealsList->horizontalHeader(), &QHeaderView::sortIndicatorChanged, this, &FoodListPage::ShowSort);
-  connect(cmdAplha, &QPushButton::clicked, this, &FoodListPage::OnAlphabet);
+  for (QComboBox *box : {cboRecordTypeMeals, cboMealGroups, cboSort}) {
+    connect(box, &QComboBox::currentIndexChanged, this, &FoodListPage::OnChosen);
+  }
+  connect(&grdMealsList->Model(), &QAbstractItemModel::modelReset, this, &FoodListPage::OnSorted);
+  connect(cmdAplha, &QPushButton::clicked, this, [this] { ShowAlphabet(alphabet_->isHidden()); });
   connect(alphabet_, &AlphabetBar::LetterChosen, this, &FoodListPage::GoToLetter);
 }
 
-void FoodListPage::AddChoices() {
-  for (const FoodChoice &list : FoodListChoices()) cboRecordTypeMeals->addItem(list.text, list.key);
-  for (const FoodChoice &group : FoodGroupChoices(session_)) cboMealGroups->addItem(group.text, group.key);
+void FoodListPage::MakeChoices(QGridLayout *choices) {
+  cboRecordTypeMeals = AddCombo(choices, 0, QStringLiteral("cboRecordTypeMeals"), QStringLiteral("Food &List:"), this);
+  cboMealGroups = AddCombo(choices, 1, QStringLiteral("cboMealGroups"), QStringLiteral("Food &Group:"), this);
+  cboSort = AddCombo(choices, 2, QStringLiteral("cboSort"), QStringLiteral("&Sort by:"), this);
+  cmdAplha = new QPushButton(this);
+  cmdAplha->setObjectName(QStringLiteral("cmdAplha"));
+  cmdAplha->setAutoDefault(false);
+  cmdAplha->setToolTip(QStringLiteral("Shows letters that jump in the list. (Alt+Z)"));
+  choices->addWidget(cmdAplha, 1, 3);
+  choices->setColumnStretch(1, 1);
+  for (const FoodList &list : kind_.lists) cboRecordTypeMeals->addItem(list.text, list.key);
+  for (const FoodGroup &group : FoodGroupChoices(session_)) cboMealGroups->addItem(group.text, group.key);
   FillSorts();
 }
 
 void FoodListPage::FillSorts() {
-  const QString chosen = cboSort->currentData().toString();
+  const QSignalBlocker quiet(cboSort);
   cboSort->clear();
-  for (const FoodSortChoice &sort : FoodSortChoices(session_.nutrients)) cboSort->addItem(sort.text, sort.key);
-  // A sort by a nutrient that is not shown any more gives way to the sort by name.
-  chosenSort_ = std::max(0, cboSort->findData(chosen));
-  cboSort->setCurrentIndex(chosenSort_);
-}
-
-bool FoodListPage::IsSeparator(int sort) const {
-  return FoodSortChoice{cboSort->itemData(sort).toString(), {}}.IsSeparator();
-}
-
-// The arrow keys step over the separators; choosing one with the mouse is ignored.
-bool FoodListPage::eventFilter(QObject *object, QEvent *event) {
-  if (object == cboSort && event->type() == QEvent::KeyPress && !cboSort->view()->isVisible()) {
-    const int key = static_cast<QKeyEvent *>(event)->key();
-    const int step = key == Qt::Key_Down ? 1 : key == Qt::Key_Up ? -1 : 0;
-    if (step != 0 && IsSeparator(cboSort->currentIndex() + step)) {
-      cboSort->setCurrentIndex(cboSort->currentIndex() + step);
-    }
+  const auto *items = qobject_cast<QStandardItemModel *>(cboSort->model());
+  for (const FoodSortChoice &sort : FoodSortChoices(session_.nutrients)) {
+    cboSort->addItem(sort.text, sort.key);
+    items->item(cboSort->count() - 1)->setEnabled(!sort.IsSeparator());
   }
-  return QWidget::eventFilter(object, event);
 }
 
-int FoodListPage::ChosenGroup() const { return std::max(0, cboMealGroups->currentData().toInt()); }
+// The boxes say what the list shows, also where what a person chose could not be shown, or was sorted by its caption.
+void FoodListPage::ShowChoices() {
+  Choose(*cboRecordTypeMeals, shown_.list);
+  Choose(*cboMealGroups, shown_.group);
+  cboMealGroups->setEnabled(shown_.list != food_list::recent);
+  cboSort->setPlaceholderText(SortedByText(grdMealsList->Model().Columns(), shown_.sort));
+  Choose(*cboSort, shown_.sort);
+}
 
 QString FoodListPage::PrintedTitle() const {
   return PrintedFoodListTitle(cboRecordTypeMeals->currentText(), cboMealGroups->currentText());
 }
 
-FoodSelection FoodListPage::Selection() const {
-  return {cboRecordTypeMeals->currentData().toInt(), cboMealGroups->currentData().toInt(),
-          cboSort->currentData().toString()};
+void FoodListPage::OnChosen() {
+  FoodSelection wanted = shown_;
+  wanted.list = cboRecordTypeMeals->currentData().toInt();
+  wanted.group = cboMealGroups->currentData().toInt();
+  if (cboSort->currentIndex() >= 0) wanted.sort = cboSort->currentData().toString();
+  const bool separator = FoodSortChoice{wanted.sort, {}}.IsSeparator();
+  if (separator) {
+    ShowChoices();
+  } else {
+    Show(wanted);
+  }
 }
 
-void FoodListPage::FillList() {
-  const bool recent = cboRecordTypeMeals->currentData().toInt() == food_list::recent;
-  if (recent && cboMealGroups->currentIndex() != 0) {
-    cboMealGroups->setCurrentIndex(0);  // comes back here
-    return;
+bool FoodListPage::Show(FoodSelection wanted) {
+  if (wanted.list == food_list::recent) wanted.group = allFoodGroups;
+  const FailureExit failure = FoodGridFailure(GridAction::Load, ListGridNames().loadProcedure);
+  const bool shown = grdMealsList->CommitRow() &&
+                     Guarded(session_, failure,
+                             [&] {
+                               if (wanted.list == food_list::recent) FillRecentFoods(session_);
+                             }) &&
+                     grdMealsList->Open(session_.Data(), FoodListSource(kind_, wanted));
+  if (shown) {
+    shown_ = wanted;
+    grdMealsList->ShowColumn(QStringLiteral("MealGroupID"), shown_.group == allFoodGroups);
   }
-  cboMealGroups->setEnabled(!recent);
-  const bool filled = Guarded(session_, FoodGridFailure(GridAction::Load, ListGridNames().loadProcedure), [&] {
-    if (recent) FillRecentFoods(session_);
-    grdMealsList->ShowColumn(QStringLiteral("MealGroupID"), ChosenGroup() == 0);
-  });
-  if (!filled) return;
-  if (!grdMealsList->Model().IsOpen()) {
-    grdMealsList->Open(session_.Data(), FoodListSource(Selection()));
-  } else {
-    grdMealsList->SetSource(FoodListSource(Selection()));
-  }
+  ShowChoices();
   UpdateHeading();
+  return shown;
+}
+
+void FoodListPage::GoToFood(int mealID) {
+  if (grdMealsList->GoToKey(mealID)) return;
+  const FailureExit failure = FoodGridFailure(GridAction::Load, ListGridNames().loadProcedure);
+  Guarded(session_, failure, [&] {
+    if (Show(SelectionHolding(ReadFood(session_, mealID), shown_))) grdMealsList->GoToKey(mealID);
+  });
 }
 
 void FoodListPage::UpdateHeading() {
-  lblFoods->setText(FoodsDisplayedHeading(grdMealsList->Model().RecordCount(), ChosenGroup() == 0));
+  lblFoods->setText(FoodsDisplayedHeading(grdMealsList->Model().RecordCount(), shown_.group == allFoodGroups));
 }
 
 void FoodListPage::NutrientsChanged() {
   ShowSelectedNutrients(*grdMealsList, ListGridNames(), session_);
   FillSorts();
-  FillList();
+  FoodSelection wanted = shown_;
+  // A column that is not shown any more orders nothing: the foods stand by their names again.
+  if (!IsSortShown(grdMealsList->Model().Columns(), wanted.sort)) wanted.sort = byFoodName;
+  Show(wanted);
 }
 
-void FoodListPage::OnSort(int index) {
-  if (IsSeparator(index)) {
-    cboSort->setCurrentIndex(chosenSort_);
-    return;
-  }
-  chosenSort_ = index;
-  FillList();
+// A click on a caption sorts too: the box names that order.
+void FoodListPage::OnSorted() {
+  shown_.sort = SortKeyOf(kind_, grdMealsList->Model().Source());
+  ShowChoices();
 }
 
-// A click on a caption sorts too: the box names that order, where it has a name for it.
-void FoodListPage::ShowSort() {
-  const GridOrder &order = grdMealsList->Model().Source().order.first();
-  QString key = order.field == QStringLiteral("MealDesc") ? QStringLiteral("0") : order.field;
-  if (order.descending) key.prepend(QLatin1Char('-'));
-  const int index = cboSort->findData(key);
-  if (index < 0) return;
-  chosenSort_ = index;
-  cboSort->setCurrentIndex(index);
-}
-
-void FoodListPage::OnAlphabet() {
-  const bool show = alphabet_->isHidden();
+void FoodListPage::ShowAlphabet(bool show) {
   alphabet_->setVisible(show);
   cmdAplha->setText(show ? QStringLiteral("A - Z  <<") : QStringLiteral("A - Z  >>"));
+  cmdAplha->setShortcut(Qt::ALT | Qt::Key_Z);  // a caption without access key takes the one of before away
 }
 
 void FoodListPage::GoToLetter(QChar letter) {

@@ -5,6 +5,7 @@
 #include "catalogs/food_lists.h"
 
 class QComboBox;
+class QGridLayout;
 class QLabel;
 class QPushButton;
 
@@ -17,40 +18,39 @@ class BoundGrid;
 class FoodListPage : public QWidget {
   Q_OBJECT
  public:
-  FoodListPage(Session &session, QWidget *parent);
+  FoodListPage(Session &session, const FoodListKind &kind, QWidget *parent);
 
   BoundGrid *Grid() const { return grdMealsList; }
-  /// The group chosen, 0 when all are shown.
-  int ChosenGroup() const;
+  const FoodSelection &Shown() const { return shown_; }
   QString PrintedTitle() const;
 
-  void FillList();
+  /// Shows the foods of a selection. When a refused row cannot be left or reading fails, everything stays as it is.
+  bool Show(FoodSelection wanted);
+  /// Makes a food current; one that the list does not hold brings the list that holds it.
+  void GoToFood(int mealID);
   /// The nutrients shown have changed: columns and sorts follow.
   void NutrientsChanged();
   void UpdateHeading();
 
- protected:
-  bool eventFilter(QObject *object, QEvent *event) override;
-
  private:
-  void AddChoices();
+  void MakeChoices(QGridLayout *choices);
   void FillSorts();
-  bool IsSeparator(int sort) const;
-  void OnSort(int index);
-  void ShowSort();
-  void OnAlphabet();
+  void ShowChoices();
+  void OnChosen();
+  void OnSorted();
+  void ShowAlphabet(bool show);
   void GoToLetter(QChar letter);
-  FoodSelection Selection() const;
 
   Session &session_;
-  QComboBox *cboRecordTypeMeals;
-  QComboBox *cboMealGroups;
-  QComboBox *cboSort;
-  QPushButton *cmdAplha;
+  const FoodListKind kind_;
+  FoodSelection shown_;
+  QComboBox *cboRecordTypeMeals = nullptr;
+  QComboBox *cboMealGroups = nullptr;
+  QComboBox *cboSort = nullptr;
+  QPushButton *cmdAplha = nullptr;
   AlphabetBar *alphabet_;
   QLabel *lblFoods;
   BoundGrid *grdMealsList;
-  int chosenSort_ = 0;
 };
 
 }  // namespace trimlog

@@ -2,8 +2,6 @@
 
 #include <QComboBox>
 #include <QFormLayout>
-#include <QGridLayout>
-#include <QLabel>
 #include <QPushButton>
 #include <QScreen>
 #include <QScrollArea>
@@ -11,6 +9,7 @@
 
 #include "catalogs/food_lists.h"
 #include "catalogs/windows/frmDailyValues.h"
+#include "catalogs/windows/nutrient_fields.h"
 #include "core/session/failure_guard.h"
 #include "platform/text/text_format.h"
 #include "platform/windows/fields/number_field.h"
@@ -20,8 +19,6 @@ namespace trimlog {
 
 namespace {
 
-constexpr int nutrientRows = 12;
-
 /// The fields that follow the grams of one nutrient.
 struct GramsRule {
   int nutrientID;
@@ -30,9 +27,9 @@ struct GramsRule {
   int caloriesPerGram;
 };
 constexpr std::array<GramsRule, 3> gramsRules = {{
-    {nutrient_id::fat, 22, nutrient_id::calFromFatPct, caloriesPerGramOfFat},
-    {nutrient_id::carbs, 26, nutrient_id::calFromCarbPct, caloriesPerGramOfCarbs},
-    {nutrient_id::protein, 24, nutrient_id::calFromProteinPct, caloriesPerGramOfProtein},
+    {nutrient_id::fat, nutrient_id::calFromFat, nutrient_id::calFromFatPct, caloriesPerGramOfFat},
+    {nutrient_id::carbs, nutrient_id::calFromCarb, nutrient_id::calFromCarbPct, caloriesPerGramOfCarbs},
+    {nutrient_id::protein, nutrient_id::calFromProtein, nutrient_id::calFromProteinPct, caloriesPerGramOfProtein},
 }};
 
 }  // namespace
@@ -64,27 +61,15 @@ void FoodPage::Build() {
   layout->addLayout(form);
   AddTexts(form);
 
-  auto *scroll = new QScrollArea(this);
-  scroll->setWidgetResizable(true);
-  scroll->setFrameShape(QFrame::NoFrame);
-  scroll->setFocusPolicy(Qt::NoFocus);  // Tab goes from field to field
-  auto *panel = new QWidget(scroll);
-  auto *grid = new QGridLayout(panel);
-  grid->setHorizontalSpacing(10);
-  AddNutrients(grid);
-  scroll->setWidget(panel);
-  // All fields in sight where the screen has room for them; the rest of the dialog takes about the margin.
-  const QSize room = screen()->availableSize() - QSize(60, 300);
-  scroll->setMinimumSize((panel->sizeHint() + QSize(24, 4)).boundedTo(room));
-  layout->addWidget(scroll, 1);
+  AddNutrients(layout);
   AddCommands(layout);
-  if (!IsNew()) ShowFood();
   ConnectDerived();
   setFocusProxy(txtMealDesc);
 }
 
 void FoodPage::AddTexts(QFormLayout *form) {
   txtMealDesc = new TextField(QStringLiteral("txtMealDesc"), QStringLiteral("Description"), foodTextLength, this);
+  txtMealDesc->setText(food_.MealDesc);
   form->addRow(QStringLiteral("&Description:"), txtMealDesc);
   if (IsNew()) {
     txtAmount = new TextField(QStringLiteral("txtAmount"), QStringLiteral("Serving size"), foodTextLength, this);
@@ -92,37 +77,29 @@ void FoodPage::AddTexts(QFormLayout *form) {
   }
   cboMealGroups = new QComboBox(this);
   cboMealGroups->setObjectName(QStringLiteral("cboMealGroups"));
-  cboMealGroups->setAccessibleName(QStringLiteral("Food group"));
-  GuardedQuietly([&] {
-    for (const FoodChoice &group : FoodGroupChoices(session_)) {
-      if (group.key != allFoodGroups) cboMealGroups->addItem(group.text, group.key);
-    }
-  });
+  for (const FoodGroup &group : FoodGroups(session_)) cboMealGroups->addItem(group.text, group.key);
   cboMealGroups->setCurrentIndex(cboMealGroups->findData(food_.MealGroupID));
   form->addRow(QStringLiteral("Food &group:"), cboMealGroups);
   if (IsNew()) {
     txtGIValue =
         new NumberField(QStringLiteral("txtGIValue"), QStringLiteral("Glycemic index value"), session_.locale, this);
+    txtGIValue->SetRange(0, highestNutrient);
     form->addRow(QStringLiteral("G&I value:"), txtGIValue);
   }
 }
 
-void FoodPage::AddNutrients(QGridLayout *grid) {
-  int place = 0;
-  for (const int id : NutrientDialogOrder()) {
-    const QString label = NutrientLabel(session_.nutrients, id);
-    auto *field = new NumberField(QStringLiteral("txtAddRec0(%1)").arg(id), label, session_.locale, this);
-    field->setProperty("DataField", Definition(session_.nutrients, id).fieldName);
-    field->SetRange(0, id == nutrient_id::netCarbs ? highestNetCarbs : highestNutrient);
-    txtAddRec0.insert(id, field);
-    auto *caption = new QLabel(label, this);
-    caption->setTextFormat(Qt::PlainText);
-    caption->setBuddy(field);
-    const int column = place / nutrientRows * 2;
-    grid->addWidget(caption, place % nutrientRows, column, Qt::AlignRight | Qt::AlignVCenter);
-    grid->addWidget(field, place % nutrientRows, column + 1);
-    ++place;
-  }
+void FoodPage::AddNutrients(QVBoxLayout *layout) {
+  // All fields in sight where the screen has room for them; the rest of the dialog takes about the margin.
+  const QSize screenRoom = screen()->availableSize() - QSize(80, 340);
+  auto *scroll = new QScrollArea(this);
+  scroll->setWidgetResizable(true);
+  scroll->setFrameShape(QFrame::NoFrame);
+  scroll->setFocusPolicy(Qt::NoFocus);  // Tab goes from field to field
+  nutrients_ = new NutrientFields(session_, screenRoom.width(), scroll);
+  if (!IsNew()) nutrients_->Show(food_.nutrients);
+  scroll->setWidget(nutrients_);
+  scroll->setMinimumSize((nutrients_->sizeHint() + QSize(24, 4)).boundedTo(screenRoom));
+  layout->addWidget(scroll, 1);
 }
 
 void FoodPage::AddCommands(QVBoxLayout *layout) {
@@ -142,31 +119,19 @@ void FoodPage::AddCommands(QVBoxLayout *layout) {
               QStringLiteral("Turns the percentages of a food label into amounts.")),
           &QPushButton::clicked, this, &FoodPage::OnDailyValues);
   row->addStretch();
-  auto *note = new QLabel(QStringLiteral("* Carbs less fiber and sugar alcohols"), this);
-  row->addWidget(note);
   layout->addLayout(row);
-}
-
-void FoodPage::ShowFood() {
-  txtMealDesc->setText(food_.MealDesc);
-  for (auto field = txtAddRec0.cbegin(); field != txtAddRec0.cend(); ++field) {
-    if (const auto value = food_.nutrients.At(field.key())) {
-      const NutrientDef &definition = Definition(session_.nutrients, field.key());
-      field.value()->SetNumber(*value, GetNutrientFormat(definition.fieldName));
-    }
-  }
 }
 
 void FoodPage::ConnectDerived() {
   for (const int id :
        {nutrient_id::carbs, nutrient_id::fiber, nutrient_id::sugarAlcohols, nutrient_id::fat, nutrient_id::protein}) {
     textOnEntry_.insert(id, QString());
-    connect(txtAddRec0[id], &QLineEdit::editingFinished, this, [this, id] { OnGramsLeft(id); });
+    connect(&nutrients_->Of(id), &QLineEdit::editingFinished, this, [this, id] { OnGramsLeft(id); });
   }
   for (auto text = textOnEntry_.begin(); text != textOnEntry_.end(); ++text) text.value() = TextOf(text.key());
 }
 
-QString FoodPage::TextOf(int nutrientID) const { return txtAddRec0[nutrientID]->text(); }
+QString FoodPage::TextOf(int nutrientID) const { return nutrients_->TextOf(nutrientID); }
 
 void FoodPage::OnGramsLeft(int nutrientID) {
   const bool changed = TextOf(nutrientID) != textOnEntry_[nutrientID];
@@ -181,7 +146,7 @@ void FoodPage::OnGramsLeft(int nutrientID) {
 }
 
 void FoodPage::ShowNetCarbs() {
-  txtAddRec0[nutrient_id::netCarbs]->setText(DerivedNetCarbs(TextOf(nutrient_id::carbs), TextOf(nutrient_id::fiber),
+  nutrients_->SetText(nutrient_id::netCarbs, DerivedNetCarbs(TextOf(nutrient_id::carbs), TextOf(nutrient_id::fiber),
                                                              TextOf(nutrient_id::sugarAlcohols), session_.locale));
 }
 
@@ -190,20 +155,23 @@ void FoodPage::ShowCaloriesFrom(int nutrientID) {
     if (rule.nutrientID != nutrientID) continue;
     const CaloriesFrom from =
         DerivedCalories(TextOf(nutrientID), rule.caloriesPerGram, TextOf(nutrient_id::calories), session_.locale);
-    txtAddRec0[rule.caloriesID]->setText(from.calories);
-    txtAddRec0[rule.percentID]->setText(from.percent);
+    nutrients_->SetText(rule.caloriesID, from.calories);
+    nutrients_->SetText(rule.percentID, from.percent);
   }
 }
 
 CalorieFields FoodPage::ShownCalorieFields() const {
-  return {{TextOf(22), TextOf(23)}, {TextOf(26), TextOf(27)}, {TextOf(24), TextOf(25)}};
+  using namespace nutrient_id;
+  return {{TextOf(calFromFat), TextOf(calFromFatPct)},
+          {TextOf(calFromCarb), TextOf(calFromCarbPct)},
+          {TextOf(calFromProtein), TextOf(calFromProteinPct)}};
 }
 
 void FoodPage::ShowCalorieFields(const CalorieFields &fields) {
   const std::array<const CaloriesFrom *, 3> shown = {&fields.fat, &fields.carbs, &fields.protein};
   for (std::size_t i = 0; i < gramsRules.size(); ++i) {
-    txtAddRec0[gramsRules[i].caloriesID]->setText(shown[i]->calories);
-    txtAddRec0[gramsRules[i].percentID]->setText(shown[i]->percent);
+    nutrients_->SetText(gramsRules[i].caloriesID, shown[i]->calories);
+    nutrients_->SetText(gramsRules[i].percentID, shown[i]->percent);
   }
 }
 
@@ -233,46 +201,45 @@ void FoodPage::OnCalculateCalories() {
 void FoodPage::OnDailyValues() {
   frmDailyValues converter(session_, this);
   if (converter.exec() != QDialog::Accepted) return;
+  // Only what was given changes: the fields that follow an amount follow one that is typed.
   for (auto amount = converter.Amounts().cbegin(); amount != converter.Amounts().cend(); ++amount) {
-    txtAddRec0[amount.key()]->setText(amount.value());
-    if (textOnEntry_.contains(amount.key())) OnGramsLeft(amount.key());
+    nutrients_->SetText(amount.key(), amount.value());
+    if (textOnEntry_.contains(amount.key())) textOnEntry_[amount.key()] = amount.value();
   }
 }
 
-bool FoodPage::CheckNumbers() {
-  QList<NumberField *> fields = txtAddRec0.values();
-  if (txtGIValue) fields.prepend(txtGIValue);
-  for (NumberField *field : fields) {
-    const QString complaint = field->Complaint();
-    if (complaint.isEmpty()) continue;
-    session_.boxes.Critical(QStringLiteral("Invalid Value"), complaint);
-    field->setFocus();
-    field->selectAll();
-    return false;
-  }
-  return true;
+bool FoodPage::CheckNumber(NumberField *field) {
+  const QString complaint = field ? field->Complaint() : QString();
+  if (complaint.isEmpty()) return true;
+  session_.boxes.Critical(QStringLiteral("Invalid Value"), complaint);
+  field->setFocus();
+  field->selectAll();
+  return false;
+}
+
+// Blanks around a description go when it is changed, not when it is only looked at.
+QString FoodPage::TypedDescription() const {
+  return txtMealDesc->text() == food_.MealDesc ? food_.MealDesc : txtMealDesc->text().trimmed();
 }
 
 FoodRecord FoodPage::Typed() const {
   FoodRecord food = food_;
-  food.MealDesc = txtMealDesc->text().trimmed();
-  food.MealGroupID = cboMealGroups->currentData().toInt();
+  food.MealDesc = TypedDescription();
+  if (cboMealGroups->currentIndex() >= 0) food.MealGroupID = cboMealGroups->currentData().toInt();
   if (txtAmount) food.Amount = txtAmount->text().trimmed();
   if (txtGIValue) food.GIValue = txtGIValue->Number();
-  for (auto field = txtAddRec0.cbegin(); field != txtAddRec0.cend(); ++field) {
-    food.nutrients.Set(field.key(), field.value()->Number());
-  }
+  food.nutrients = nutrients_->Typed();
   return food;
 }
 
 bool FoodPage::Store() {
-  if (txtMealDesc->text().trimmed().isEmpty()) {
+  if (TypedDescription().isEmpty()) {
     session_.boxes.Critical(QStringLiteral("Description Required"),
                             QStringLiteral("Please enter a description for this food or meal."));
     txtMealDesc->setFocus();
     return false;
   }
-  if (!CheckNumbers()) return false;
+  if (!CheckNumber(txtGIValue) || !CheckNumber(nutrients_->FirstWrong())) return false;
   const FailureExit failure{QStringLiteral("basMain"), QStringLiteral("AddRec"), QStringLiteral("Error Saving Food"),
                             QStringLiteral("An error occurred while saving this food.  "), true};
   return Guarded(session_, failure, [&] {

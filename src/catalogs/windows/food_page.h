@@ -8,16 +8,16 @@
 
 class QComboBox;
 class QFormLayout;
-class QGridLayout;
 class QVBoxLayout;
 
 namespace trimlog {
 
 class NumberField;
+class NutrientFields;
 class TextField;
 
 /// The page with everything about one food: for a new food of the user's own, and to see and edit all nutrients of a
-/// stored one. The nutrient fields are named by NutrientID, txtAddRec0(1) to (35).
+/// stored one.
 class FoodPage : public AddRecPage {
   Q_OBJECT
  public:
@@ -35,9 +35,8 @@ class FoodPage : public AddRecPage {
   bool IsNew() const { return food_.MealID == 0; }
   void Build();
   void AddTexts(QFormLayout *form);
-  void AddNutrients(QGridLayout *grid);
+  void AddNutrients(QVBoxLayout *layout);
   void AddCommands(QVBoxLayout *layout);
-  void ShowFood();
   void ConnectDerived();
   void OnGramsLeft(int nutrientID);
   void ShowNetCarbs();
@@ -47,7 +46,8 @@ class FoodPage : public AddRecPage {
   CalorieFields ShownCalorieFields() const;
   void ShowCalorieFields(const CalorieFields &fields);
   QString TextOf(int nutrientID) const;
-  bool CheckNumbers();
+  bool CheckNumber(NumberField *field);
+  QString TypedDescription() const;
   FoodRecord Typed() const;
 
   Session &session_;
@@ -56,7 +56,7 @@ class FoodPage : public AddRecPage {
   TextField *txtAmount = nullptr;
   NumberField *txtGIValue = nullptr;
   QComboBox *cboMealGroups = nullptr;
-  QMap<int, NumberField *> txtAddRec0;  ///< by NutrientID
+  NutrientFields *nutrients_ = nullptr;
   QMap<int, QString> textOnEntry_;
 };
 

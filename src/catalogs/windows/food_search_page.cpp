@@ -6,7 +6,7 @@
 #include <QPushButton>
 #include <QVBoxLayout>
 
-#include "catalogs/food_lists.h"
+#include "catalogs/food_search.h"
 #include "catalogs/windows/food_grid.h"
 #include "platform/windows/fields/text_field.h"
 
@@ -30,7 +30,8 @@ class WaitCursor {
 
 }  // namespace
 
-FoodSearchPage::FoodSearchPage(Session &session, QWidget *parent) : QWidget(parent), session_(session) {
+FoodSearchPage::FoodSearchPage(Session &session, const FoodListKind &kind, QWidget *parent)
+    : QWidget(parent), session_(session), kind_(kind) {
   auto *layout = new QVBoxLayout(this);
   auto *row = new QHBoxLayout;
   layout->addLayout(row);
@@ -51,7 +52,7 @@ FoodSearchPage::FoodSearchPage(Session &session, QWidget *parent) : QWidget(pare
   layout->addWidget(grdMealsSearch, 1);
   setFocusProxy(txtFind);
 
-  grdMealsSearch->Open(session_.Data(), FoodSearchSource({}));
+  grdMealsSearch->Open(session_.Data(), FoodSearchSource(kind_, {}));
   connect(txtFind, &TextField::returnPressed, this, &FoodSearchPage::Search);
   connect(cmdFindFirst, &QPushButton::clicked, this, &FoodSearchPage::Search);
 }
@@ -60,7 +61,7 @@ QString FoodSearchPage::PrintedTitle() const { return PrintedSearchTitle(searche
 
 void FoodSearchPage::Search() {
   const WaitCursor wait;
-  if (!grdMealsSearch->SetSource(FoodSearchSource(txtFind->text()), true)) return;
+  if (!grdMealsSearch->SetSource(FoodSearchSource(kind_, txtFind->text()), true)) return;
   searched_ = FoodSearchText(txtFind->text());
   grdMealsSearch->ClearMarks();
   UpdateHeading();
@@ -73,7 +74,7 @@ void FoodSearchPage::UpdateHeading() {
 void FoodSearchPage::NutrientsChanged() {
   ShowSelectedNutrients(*grdMealsSearch, SearchGridNames(), session_);
   // A column that is not shown any more orders nothing: the foods stand by their names again.
-  grdMealsSearch->SetSource(FoodSearchSource(searched_), true);
+  grdMealsSearch->SetSource(FoodSearchSource(kind_, searched_), true);
 }
 
 }  // namespace trimlog

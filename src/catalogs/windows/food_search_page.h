@@ -2,6 +2,7 @@
 
 #include <QWidget>
 
+#include "catalogs/food_list_kind.h"
 #include "core/session/session.h"
 
 class QLabel;
@@ -16,7 +17,7 @@ class TextField;
 class FoodSearchPage : public QWidget {
   Q_OBJECT
  public:
-  FoodSearchPage(Session &session, QWidget *parent);
+  FoodSearchPage(Session &session, const FoodListKind &kind, QWidget *parent);
 
   BoundGrid *Grid() const { return grdMealsSearch; }
   QString PrintedTitle() const;
@@ -26,6 +27,7 @@ class FoodSearchPage : public QWidget {
 
  private:
   Session &session_;
+  const FoodListKind kind_;
   TextField *txtFind;
   QPushButton *cmdFindFirst;
   QLabel *lblFoodsFound;

@@ -48,6 +48,7 @@ void frmDailyValues::AddField(QGridLayout *grid, int index) {
   const std::size_t at = static_cast<std::size_t>(index);
   const QString label = DailyValueLabel(session_.nutrients, dailyValueNutrients[at]);
   auto *field = new NumberField(QStringLiteral("txtAddRec0(%1)").arg(index), label, session_.locale, this);
+  field->SetRange(0, highestPercent);
   txtAddRec0[at] = field;
   const int row = index % fieldsInAColumn;
   const int column = index / fieldsInAColumn * 2;
@@ -57,7 +58,20 @@ void frmDailyValues::AddField(QGridLayout *grid, int index) {
   grid->addWidget(field, row, column + 1);
 }
 
+bool frmDailyValues::CheckPercents() {
+  for (NumberField *field : txtAddRec0) {
+    const QString complaint = field->Complaint();
+    if (complaint.isEmpty()) continue;
+    session_.boxes.Critical(QStringLiteral("Invalid Value"), complaint);
+    field->setFocus();
+    field->selectAll();
+    return false;
+  }
+  return true;
+}
+
 void frmDailyValues::OnOk() {
+  if (!CheckPercents()) return;
   const FailureExit failure{QStringLiteral("frmDailyValues"), QStringLiteral("cmdOK_Click"),
                             QStringLiteral("Error Converting Values"),
                             QStringLiteral("An error occurred while converting the percentages.")};

@@ -25,6 +25,7 @@ class frmDailyValues : public QDialog {
 
  private:
   void AddField(QGridLayout *grid, int index);
+  bool CheckPercents();
   void OnOk();
 
   Session &session_;

@@ -20,7 +20,8 @@ QString Numbered(const QString &name, int position) { return QStringLiteral("%1(
 }  // namespace
 
 frmSelectedNutrients::frmSelectedNutrients(Session &session, const Navigator &navigator, QWidget *owner)
-    : QDialog(owner), session_(session) {
+    : QDialog(owner), session_(session), choices_(SelectableNutrients(session)) {
+  const NutrientSelection selection = ReadNutrientSelection(session_);
   setObjectName(QStringLiteral("frmSelectedNutrients"));
   setWindowTitle(QStringLiteral("Trimlog Pro Nutrient Selections"));
   setWindowFlag(Qt::WindowContextHelpButtonHint, false);
@@ -37,10 +38,9 @@ frmSelectedNutrients::frmSelectedNutrients(Session &session, const Navigator &na
   grid->setColumnStretch(2, 1);
   layout->addLayout(grid);
 
-  GuardedQuietly([&] { choices_ = SelectableNutrients(session_); });
   AddHeadings(grid);
   for (int position = 1; position <= shownNutrients; ++position) AddRow(grid, position);
-  GuardedQuietly([&] { ShowSelection(ReadNutrientSelection(session_)); });
+  ShowSelection(selection);
 
   auto *buttons = new QDialogButtonBox(QDialogButtonBox::Ok | QDialogButtonBox::Cancel | QDialogButtonBox::Help, this);
   buttons->button(QDialogButtonBox::Ok)->setObjectName(QStringLiteral("cmdOK"));
@@ -62,11 +62,11 @@ void frmSelectedNutrients::AddHeadings(QGridLayout *grid) {
 
 void frmSelectedNutrients::AddRow(QGridLayout *grid, int position) {
   PositionRow &row = Row(position);
-  auto *label =
-      new QLabel(position < shownNutrients ? QStringLiteral("&%1.").arg(position) : QStringLiteral("1&0."), this);
+  // The label is what a screen reader says of the list beside it.
+  const QString number = position < shownNutrients ? QStringLiteral("&%1").arg(position) : QStringLiteral("1&0");
+  auto *label = new QLabel(QStringLiteral("Nutrient %1:").arg(number), this);
   row.cboNutrient = new QComboBox(this);
   row.cboNutrient->setObjectName(Numbered(QStringLiteral("cboNutrient"), position));
-  row.cboNutrient->setAccessibleName(QStringLiteral("Nutrient %1").arg(position));
   for (const NutrientChoice &choice : choices_) row.cboNutrient->addItem(choice.descriptionPlusUnit, choice.NutrientID);
   label->setBuddy(row.cboNutrient);
   row.txtNutrient = new TextField(Numbered(QStringLiteral("txtNutrient"), position),
@@ -119,6 +119,16 @@ void frmSelectedNutrients::OnOk() {
                             QStringLiteral("Error Saving Nutrients"),
                             QStringLiteral("An error occurred while saving your nutrient selections.")};
   if (Guarded(session_, failure, [&] { SaveNutrientSelection(session_, Chosen()); })) accept();
+}
+
+void OpenNutrientSelection(Session &session, const Navigator &navigator, QWidget *owner) {
+  const FailureExit failure{QStringLiteral("frmSelectedNutrients"), QStringLiteral("Form_Load"),
+                            QStringLiteral("Error Loading Setup Info"),
+                            QStringLiteral("An error occurred while loading your setup information.")};
+  std::unique_ptr<frmSelectedNutrients> window;
+  if (Guarded(session, failure, [&] { window = std::make_unique<frmSelectedNutrients>(session, navigator, owner); })) {
+    window->exec();
+  }
 }
 
 }  // namespace trimlog

@@ -19,6 +19,7 @@ class TextField;
 class frmSelectedNutrients : public QDialog {
   Q_OBJECT
  public:
+  /// Reads what may be chosen and what is; throws when it cannot, since a window without it could only store nothing.
   frmSelectedNutrients(Session &session, const Navigator &navigator, QWidget *owner);
 
  private:
@@ -36,8 +37,11 @@ class frmSelectedNutrients : public QDialog {
   PositionRow &Row(int position) { return rows_[static_cast<std::size_t>(position - 1)]; }
 
   Session &session_;
-  QList<NutrientChoice> choices_;
+  const QList<NutrientChoice> choices_;
   std::array<PositionRow, shownNutrients> rows_{};
 };
+
+/// Shows the window until it is closed; a box says when it could not be read.
+void OpenNutrientSelection(Session &session, const Navigator &navigator, QWidget *owner);
 
 }  // namespace trimlog

@@ -44,24 +44,13 @@ frmSetupFoods::frmSetupFoods(Session &session, const Navigator &navigator, QWidg
   SSTab1->setObjectName(QStringLiteral("SSTab1"));
   SSTab1->setAccessibleName(QStringLiteral("Foods"));
   layout->addWidget(SSTab1, 1);
+  // As many nutrients side by side as the screen has room for.
+  resize(QSize(1120, 640).boundedTo(screen()->availableSize() * 9 / 10));
+  const bool loaded = Guarded(session_, LoadFailure(), [this] { AddPages(); });
+  // Tab comes to the controls as they are made: from the foods to the buttons.
   auto *buttons = new QVBoxLayout;
   layout->addLayout(buttons);
   AddButtons(buttons);
-
-  // As many nutrients side by side as the screen has room for.
-  resize(QSize(1120, 640).boundedTo(screen()->availableSize() * 9 / 10));
-  const bool loaded = Guarded(session_, LoadFailure(), [&] {
-    listPage_ = new FoodListPage(session_, SSTab1);
-    searchPage_ = new FoodSearchPage(session_, SSTab1);
-    SSTab1->addTab(listPage_, QStringLiteral("Foods by Group/List   "));
-    SSTab1->addTab(searchPage_, QStringLiteral("  Find Food by Name Search    "));
-    auto *gridMenu = new GridMenu(session_, navigator_, this);
-    for (BoundGrid *grid : {listPage_->Grid(), searchPage_->Grid()}) {
-      ConnectGrid(grid);
-      gridMenu->Attach(*grid);
-    }
-    listPage_->FillList();
-  });
   if (!loaded) {
     for (QPushButton *button : {cmdNewMeal, cmdDeleteMeal, cmdCopyMeal, cmdAllNutrients, cmdPrintMeals}) {
       button->setEnabled(false);
@@ -71,9 +60,19 @@ frmSetupFoods::frmSetupFoods(Session &session, const Navigator &navigator, QWidg
   ConnectButtons();
   connect(SSTab1, &QTabWidget::currentChanged, this, &frmSetupFoods::OnTabChanged);
   connect(&session_.changes, &DataChanges::Changed, this, &frmSetupFoods::OnChanged);
-  setTabOrder(cmdOK, SSTab1->tabBar());  // from the grid on to the buttons
   listPage_->Grid()->setFocus();
   UpdateRowState();
+}
+
+void frmSetupFoods::AddPages() {
+  listPage_ = new FoodListPage(session_, SetupFoodLists(), SSTab1);
+  searchPage_ = new FoodSearchPage(session_, SetupFoodLists(), SSTab1);
+  SSTab1->addTab(listPage_, QStringLiteral("Foods by Group/List   "));
+  SSTab1->addTab(searchPage_, QStringLiteral("  Find Food by Name Search    "));
+  auto *gridMenu = new GridMenu(session_, navigator_, this);
+  gridMenu->Attach(*listPage_->Grid());
+  gridMenu->Attach(*searchPage_->Grid());
+  listPage_->Show({});
 }
 
 QPushButton *frmSetupFoods::AddButton(QVBoxLayout *layout, const QString &name, const QString &caption,
@@ -120,12 +119,11 @@ void frmSetupFoods::AddButtons(QVBoxLayout *layout) {
   connect(cmdHelp, &QPushButton::clicked, this, [this] { navigator_.ShowHelp(QStringLiteral("foods")); });
 }
 
-void frmSetupFoods::ConnectGrid(BoundGrid *grid) {
-  connect(grid, &BoundGrid::CurrentRowChanged, this, &frmSetupFoods::UpdateRowState);
-  connect(grid, &BoundGrid::RowActivated, this, &frmSetupFoods::OnAllNutrients);
-}
-
 void frmSetupFoods::ConnectButtons() {
+  for (BoundGrid *grid : {listPage_->Grid(), searchPage_->Grid()}) {
+    connect(grid, &BoundGrid::CurrentRowChanged, this, &frmSetupFoods::UpdateRowState);
+    connect(grid, &BoundGrid::RowActivated, this, &frmSetupFoods::OnAllNutrients);
+  }
   connect(cmdNewMeal, &QPushButton::clicked, this, &frmSetupFoods::OnNew);
   connect(cmdDeleteMeal, &QPushButton::clicked, this, &frmSetupFoods::OnDelete);
   connect(cmdCopyMeal, &QPushButton::clicked, this, &frmSetupFoods::OnCopy);
@@ -166,10 +164,13 @@ void frmSetupFoods::ShowCounts() {
 
 void frmSetupFoods::OnNew() {
   if (!CurrentGrid()->CommitRow()) return;
-  const int group = listPage_->ChosenGroup() == 0 ? firstGroupOfNewFoods : listPage_->ChosenGroup();
-  AddRec(
-      this, [&](QWidget *parent) { return new FoodPage(session_, group, parent); },
-      [this](AddRecPage &page) { listPage_->Grid()->GoToKey(static_cast<FoodPage &>(page).MealID()); });
+  const int chosen = listPage_->Shown().group;
+  const int group = chosen == allFoodGroups ? firstGroupOfNewFoods : chosen;
+  Guarded(session_, LoadFailure(), [&] {
+    AddRec(
+        this, [&](QWidget *parent) { return new FoodPage(session_, group, parent); },
+        [this](AddRecPage &page) { listPage_->GoToFood(static_cast<FoodPage &>(page).MealID()); });
+  });
 }
 
 void frmSetupFoods::OnCopy() {

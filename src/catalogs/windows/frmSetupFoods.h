@@ -26,10 +26,10 @@ class frmSetupFoods : public QDialog {
   void done(int result) override;
 
  private:
+  void AddPages();
   QPushButton *AddButton(QVBoxLayout *layout, const QString &name, const QString &caption, const QString &tip,
                          Qt::Key key = Qt::Key_unknown);
   void AddButtons(QVBoxLayout *layout);
-  void ConnectGrid(BoundGrid *grid);
   void ConnectButtons();
   BoundGrid *CurrentGrid() const;
   bool OnSearchTab() const;

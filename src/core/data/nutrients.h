@@ -37,15 +37,34 @@ struct Nutrients {
   Nutrients() { NutrientTargets.fill(-1); }
 };
 
-/// Nutrients that the rules treat apart, by NutrientID.
+/// The nutrients by NutrientID; five custom ones between firstCustom and lastCustom.
 namespace nutrient_id {
 inline constexpr int calories = 1;
 inline constexpr int carbs = 2;
 inline constexpr int fat = 3;
 inline constexpr int protein = 4;
 inline constexpr int fiber = 5;
+inline constexpr int calcium = 6;
+inline constexpr int iron = 7;
+inline constexpr int sodium = 8;
+inline constexpr int potassium = 9;
+inline constexpr int zinc = 10;
+inline constexpr int vitaminA = 11;
+inline constexpr int vitaminE = 12;
+inline constexpr int vitaminB6 = 13;
+inline constexpr int vitaminB12 = 14;
+inline constexpr int vitaminC = 15;
+inline constexpr int satFat = 16;
+inline constexpr int monoFat = 17;
+inline constexpr int polyFat = 18;
+inline constexpr int cholesterol = 19;
+inline constexpr int sugar = 20;
+inline constexpr int alcohol = 21;
+inline constexpr int calFromFat = 22;
 inline constexpr int calFromFatPct = 23;
+inline constexpr int calFromProtein = 24;
 inline constexpr int calFromProteinPct = 25;
+inline constexpr int calFromCarb = 26;
 inline constexpr int calFromCarbPct = 27;
 inline constexpr int firstCustom = 28;
 inline constexpr int lastCustom = 32;
