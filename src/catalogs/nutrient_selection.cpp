@@ -34,9 +34,11 @@ void SaveNutrientSelection(Session &session, const NutrientSelection &selection)
                            .arg(position));
     params << shown.NutrientID << shown.description << shown.NutTotal;
   }
-  session.Data().Execute(QStringLiteral("UPDATE selected_nutrients SET ") + assignments.join(QStringLiteral(", ")) +
-                             QStringLiteral(" WHERE ((selected_nutrients.PersonID) = 1);"),
-                         params);
+  const qint64 stored =
+      session.Data().Execute(QStringLiteral("UPDATE selected_nutrients SET ") + assignments.join(QStringLiteral(", ")) +
+                                 QStringLiteral(" WHERE ((selected_nutrients.PersonID) = 1);"),
+                             params);
+  if (stored == 0) throw Error(error_number::noCurrentRecord, QStringLiteral("There is no selection to change."));
   change.Afterwards([&session] { FillSelectedNutrientsArray(session.nutrients, session.Data()); });
   change.Announce({.table = Table::SelectedNutrients, .keys = {1}});
   change.Commit();

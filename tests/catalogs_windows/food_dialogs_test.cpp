@@ -1,6 +1,7 @@
 #include "catalogs/windows/food_page.h"
 #include "catalogs/windows/frmDailyValues.h"
 #include "catalogs/windows/frmSelectedNutrients.h"
+#include "catalogs/windows/nutrient_fields.h"
 #include "core/windows/profiles/add_rec_page.h"
 #include "food_windows_fixture.h"
 
@@ -16,6 +17,7 @@ using FoodPageTest = FoodWindowTest;
 
 TEST_F(FoodPageTest, FieldsFollowTheGrams) {
   FoodPage page(*session, 18, nullptr);
+  Show(page);
   TypeInto(page, calories, "100");
   TypeInto(page, fat, "2.5");
   EXPECT_EQ(TextOf(page, "txtAddRec0(22)"), "22") << "22.5, halves to even";
@@ -29,6 +31,7 @@ TEST_F(FoodPageTest, FieldsFollowTheGrams) {
 
 TEST_F(FoodPageTest, CalculatingAsksBeforeItReplaces) {
   FoodPage page(*session, 18, nullptr);
+  Show(page);
   TypeInto(page, calories, "200");
   TypeInto(page, fat, "10");
   TypeInto(page, "txtAddRec0(23)", "7");
@@ -46,6 +49,7 @@ TEST_F(FoodPageTest, CalculatingAsksBeforeItReplaces) {
 TEST_F(FoodPageTest, StoresANewFoodAndRefusesWhatIsWrong) {
   const int expectedID = session.ValueOf("Max([MealID])+1 AS N", "meals_list").toInt();
   WhenModal([this](QWidget &window) {
+    ASSERT_TRUE(QTest::qWaitForWindowActive(&window));
     EXPECT_EQ(window.windowTitle(), "Create a New Food or Meal");
     session.boxes.Expect("Description Required", "Please enter a description for this food or meal.");
     Click(window, "cmdOK");
@@ -56,6 +60,10 @@ TEST_F(FoodPageTest, StoresANewFoodAndRefusesWhatIsWrong) {
     Click(window, "cmdOK");
     EXPECT_TRUE(window.isVisible());
     TypeInto(window, calories, "50.5");
+    TypeInto(window, "txtGIValue", "-1");
+    session.boxes.Expect("Invalid Value", "Please type a number from 0 to 1000000.");
+    Click(window, "cmdOK");
+    TypeInto(window, "txtGIValue", "55");
     TypeInto(window, "txtAddRec0(7)", "0.0005");
     Click(window, "cmdOK");
   });
@@ -68,6 +76,8 @@ TEST_F(FoodPageTest, StoresANewFoodAndRefusesWhatIsWrong) {
   EXPECT_EQ(session.ValueOf("MealDesc", "meals_list", where), "5'' pipe of candy");
   EXPECT_EQ(session.ValueOf("Calories", "meals_list", where), "51");
   EXPECT_EQ(session.ValueOf("Iron", "meals_list", where), "0.001");
+  EXPECT_EQ(session.ValueOf("Amount", "meals_list", where), "1 piece");
+  EXPECT_EQ(session.ValueOf("GIValue", "meals_list", where), "55");
   EXPECT_EQ(session.ValueOf("MealGroupID", "meals_list", where), "18");
   EXPECT_EQ(session.ValueOf("RecordTypeID", "meals_list", where), "2");
 }
@@ -76,10 +86,12 @@ TEST_F(FoodPageTest, ShowsAStoredFoodAndCancelChangesNothing) {
   FoodRecord food = ReadFood(*session, 1);
   food.nutrients.Set(33, 99);  // somebody typed net carbs of their own
   FoodPage page(*session, food, nullptr);
+  Show(page);
   EXPECT_EQ(page.Title(), "View/Edit All Nutrients");
   EXPECT_EQ(page.Header(), "Edit the nutrients for the selected food and click <OK>.");
   EXPECT_EQ(TextOf(page, fat), "11.52");
-  Q_EMIT Find<QLineEdit>(page, carbs).editingFinished();
+  Find<QLineEdit>(page, carbs).setFocus();
+  QTest::keyClick(&Find<QLineEdit>(page, carbs), Qt::Key_Tab);
   EXPECT_EQ(TextOf(page, netCarbs), "99") << "leaving an unchanged field follows nothing";
   EXPECT_EQ(session.ValueOf("IsModified", "meals_list", "MealID=1"), "0");
   TypeInto(page, fat, "12");
@@ -90,9 +102,14 @@ TEST_F(FoodPageTest, ShowsAStoredFoodAndCancelChangesNothing) {
 
 TEST_F(FoodPageTest, PercentsOfDailyValuesBecomeAmounts) {
   FoodPage page(*session, 18, nullptr);
+  Show(page);
   TypeInto(page, calories, "100");
   TypeInto(page, "txtAddRec0(7)", "1");
+  for (const char *field : {"txtAddRec0(22)", "txtAddRec0(23)", "txtAddRec0(26)", "txtAddRec0(27)", "txtAddRec0(33)"}) {
+    TypeInto(page, field, "8");
+  }
   WhenModal([](QWidget &window) {
+    ASSERT_TRUE(QTest::qWaitForWindowActive(&window));
     EXPECT_EQ(window.windowTitle(), "Convert from Percent of Daily Value");
     TypeInto(window, "txtAddRec0(0)", "100");
     TypeInto(window, "txtAddRec0(5)", "50");
@@ -101,8 +118,29 @@ TEST_F(FoodPageTest, PercentsOfDailyValuesBecomeAmounts) {
   Click(page, "cmdCalcDV");
   EXPECT_EQ(TextOf(page, fat), "65.00");
   EXPECT_EQ(TextOf(page, carbs), "150.00");
-  EXPECT_EQ(TextOf(page, netCarbs), "150") << "the fields that follow follow";
   EXPECT_EQ(TextOf(page, "txtAddRec0(7)"), "1") << "an empty percent changes nothing";
+  for (const char *field : {"txtAddRec0(22)", "txtAddRec0(23)", "txtAddRec0(26)", "txtAddRec0(27)"}) {
+    EXPECT_EQ(TextOf(page, field), "8") << field << " was not given";
+  }
+  Find<QLineEdit>(page, fat).setFocus();
+  QTest::keyClick(&Find<QLineEdit>(page, fat), Qt::Key_Tab);
+  EXPECT_EQ(TextOf(page, "txtAddRec0(22)"), "8") << "leaving what the converter filled follows nothing";
+
+  for (const auto &[typed, complaint] :
+       {std::pair("abc", "Please type a number."), std::pair("-50", "Please type a number from 0 to"),
+        std::pair("10001", "Please type a number from 0 to")}) {
+    WhenModal([this, typed = typed, complaint = complaint](QWidget &window) {
+      ASSERT_TRUE(QTest::qWaitForWindowActive(&window));
+      TypeInto(window, "txtAddRec0(15)", typed);
+      session.boxes.Expect("Invalid Value", complaint);
+      Click(window, "cmdOK");
+      EXPECT_TRUE(window.isVisible());
+      EXPECT_TRUE(Find<QLineEdit>(window, "txtAddRec0(15)").hasFocus());
+      Click(window, "cmdCancel");
+    });
+    Click(page, "cmdCalcDV");
+    EXPECT_EQ(TextOf(page, "txtAddRec0(10)"), "");
+  }
 }
 
 class GermanFoodPageTest : public FoodWindowTest {
@@ -112,32 +150,82 @@ class GermanFoodPageTest : public FoodWindowTest {
 
 TEST_F(GermanFoodPageTest, TypesAndShowsCommas) {
   FoodPage page(*session, ReadFood(*session, 1), nullptr);
+  Show(page);
   EXPECT_EQ(TextOf(page, fat), "11,52");
   TypeInto(page, fat, "1,5");
   EXPECT_TRUE(page.Store());
   EXPECT_EQ(session.ValueOf("Fat", "meals_list", "MealID=1"), "1.5");
 }
 
+TEST_F(FoodPageTest, EveryFieldShowsAndStoresItsOwnNutrient) {
+  FoodRecord food = ReadFood(*session, 1);
+  for (int id = 1; id <= nutrientCount; ++id) food.nutrients.Set(id, 100 + id);
+  FoodPage page(*session, food, nullptr);
+  Show(page);
+  for (int id = 1; id <= nutrientCount; ++id) {
+    QLineEdit &field = Find<QLineEdit>(page, QStringLiteral("txtAddRec0(%1)").arg(id));
+    EXPECT_EQ(field.property("DataField"), Definition(session->nutrients, id).fieldName);
+    EXPECT_EQ(field.text().toDouble(), 100 + id);
+    field.setText(QString::number(300 - id));
+  }
+  EXPECT_TRUE(page.Store());
+  for (int id = 1; id <= nutrientCount; ++id) {
+    EXPECT_EQ(FoodValue(Definition(session->nutrients, id).fieldName, 1), QString::number(300 - id)) << id;
+  }
+}
+
+TEST_F(FoodPageTest, OkOnAnUnchangedFoodWritesNothing) {
+  session.Data().Execute("UPDATE meals_list SET Iron = Null WHERE (MealID=1);");
+  int announced = 0;
+  QObject::connect(&session->changes, &DataChanges::Changed, [&] { ++announced; });
+  FoodPage page(*session, ReadFood(*session, 1), nullptr);
+  EXPECT_TRUE(page.Store());
+  EXPECT_EQ(announced, 0);
+  EXPECT_EQ(FoodValue("IsModified", 1), "0");
+  EXPECT_EQ(FoodValue("Iron", 1), "");
+}
+
+TEST_F(FoodPageTest, FitsAScreenOfHalfTheSize) {
+  NutrientFields wide(*session, 1180, nullptr), narrow(*session, 560, nullptr);
+  EXPECT_GT(wide.sizeHint().width(), narrow.sizeHint().width());
+  EXPECT_LE(narrow.sizeHint().width(), 560);
+  EXPECT_LE(wide.sizeHint().width(), 1180);
+}
+
 using SelectedNutrientsTest = FoodWindowTest;
 
 TEST_F(SelectedNutrientsTest, ChoosesNamesAndTotals) {
+  NutrientSelection stored = ReadNutrientSelection(*session);
+  for (std::size_t i = 0; i < shownNutrients; ++i) stored[i].NutTotal = i % 3 == 0;
+  SaveNutrientSelection(*session, stored);
   frmSelectedNutrients window(*session, navigator, nullptr);
-  QComboBox &first = Find<QComboBox>(window, "cboNutrient(1)");
-  EXPECT_EQ(first.currentData().toInt(), session->nutrients.SelectedNutrients[0].NutrientID);
-  EXPECT_EQ(first.count(), 36);
-  first.setCurrentIndex(first.findData(28));
-  Q_EMIT first.activated(first.currentIndex());
+  Show(window);
+  for (int position = 1; position <= shownNutrients; ++position) {
+    const auto name = [position](const char *control) { return QStringLiteral("%1(%2)").arg(control).arg(position); };
+    const SelectedNutrient &shown = stored[static_cast<std::size_t>(position - 1)];
+    EXPECT_EQ(Find<QComboBox>(window, name("cboNutrient")).currentData(), shown.NutrientID) << position;
+    EXPECT_EQ(TextOf(window, name("txtNutrient")), shown.description) << position;
+    EXPECT_EQ(Find<QCheckBox>(window, name("chkNutTotal")).isChecked(), shown.NutTotal) << position;
+  }
+  EXPECT_EQ(Find<QComboBox>(window, "cboNutrient(1)").count(), 36);
+  Choose(window, "cboNutrient(1)", 28);
   EXPECT_EQ(TextOf(window, "txtNutrient(1)"), "Cust 1");
   TypeInto(window, "txtNutrient(1)", "Caffeine");
-  QComboBox &last = Find<QComboBox>(window, "cboNutrient(10)");
-  last.setCurrentIndex(last.findData(0));
-  Q_EMIT last.activated(last.currentIndex());
-  Find<QCheckBox>(window, "chkNutTotal(1)").setChecked(false);
+  Choose(window, "cboNutrient(10)", 0);
+  QTest::mouseClick(&Find<QCheckBox>(window, "chkNutTotal(1)"), Qt::LeftButton, {}, {6, 8});
+  Click(window, "cmdHelp");
+  EXPECT_EQ(opened, QStringList{"nutrients"});
   Click(window, "cmdOK");
-  EXPECT_EQ(session->nutrients.SelectedNutrients[0].description, "Caffeine");
-  EXPECT_FALSE(session->nutrients.SelectedNutrients[0].NutTotal);
-  EXPECT_EQ(session->nutrients.SelectedNutrients[9].NutrientID, 0);
-  EXPECT_EQ(session.ValueOf("NutDescription1", "selected_nutrients", "PersonID=1"), "Caffeine");
+  EXPECT_FALSE(window.isVisible());
+  stored[0] = {28, "Caffeine", false, {}};
+  stored[9].NutrientID = 0;
+  const NutrientSelection saved = ReadNutrientSelection(*session);
+  for (std::size_t i = 0; i < shownNutrients; ++i) {
+    EXPECT_EQ(saved[i].NutrientID, stored[i].NutrientID) << i;
+    EXPECT_EQ(saved[i].NutTotal, stored[i].NutTotal) << i;
+  }
+  EXPECT_EQ(saved[0].description, "Caffeine");
+  EXPECT_EQ(saved[9].description, "None");
 }
 
 TEST_F(SelectedNutrientsTest, AHandheldWithFoodsGetsANotice) {
@@ -149,6 +237,20 @@ TEST_F(SelectedNutrientsTest, AHandheldWithFoodsGetsANotice) {
       "the food databases on your handheld.\n\nTo do this, choose \"Configure\" from the \"Mobile\" menu, "
       "and then click the \"Re-install Foods\" button.");
   Click(window, "cmdOK");
+}
+
+TEST_F(SelectedNutrientsTest, WhatCannotBeReadOrSavedIsTold) {
+  WhenModal([this](QWidget &window) {
+    EXPECT_EQ(window.objectName(), "frmSelectedNutrients");
+    session.Data().Execute("DELETE selected_nutrients.* FROM selected_nutrients WHERE (PersonID=1);");
+    session.boxes.Expect("Error Saving Nutrients", "An error occurred while saving your nutrient selections.");
+    Click(window, "cmdOK");
+    EXPECT_TRUE(window.isVisible()) << "what was chosen stays before the eyes";
+    Click(window, "cmdCancel");
+  });
+  OpenNutrientSelection(*session, navigator, nullptr);
+  session.boxes.Expect("Error Loading Setup Info", "An error occurred while loading your setup information.");
+  OpenNutrientSelection(*session, navigator, nullptr);  // and no window that would write zeros
 }
 
 }  // namespace

@@ -1,117 +1,187 @@
-#include "catalogs/windows/frmSetupFoods.h"
-
-#include <QTabWidget>
-
-#include "catalogs/food_catalog.h"
+// Food Setup: its lists, its search, its buttons.
 #include "catalogs/nutrient_selection.h"
-#include "core/windows/controls/grid_menu.h"
-#include "food_windows_fixture.h"
+#include "setup_foods_fixture.h"
 
 namespace trimlog {
 namespace {
 
-class SetupFoodsTest : public FoodWindowTest {
- protected:
-  BoundGrid &List() { return Find<BoundGrid>(window, "grdMealsList"); }
-  BoundGrid &Found() { return Find<BoundGrid>(window, "grdMealsSearch"); }
-  static QString Name(const BoundGrid &grid, int row) {
-    return grid.Model().FieldOf(row, QStringLiteral("MealDesc")).toString();
-  }
-  void Choose(const QString &combo, const QVariant &key) {
-    QComboBox &box = Find<QComboBox>(window, combo);
-    box.setCurrentIndex(box.findData(key));
-    Q_EMIT box.activated(box.currentIndex());
-  }
-  int AddOwn(const QString &name) {
-    FoodRecord food;
-    food.MealDesc = name;
-    food.MealGroupID = 1;
-    return AddFood(*session, food);
-  }
-  void Search(const QString &words) {
-    Find<QTabWidget>(window, "SSTab1").setCurrentIndex(1);
-    QLineEdit &field = Find<QLineEdit>(window, "txtFind");
-    field.setText(words);
-    QTest::keyClick(&field, Qt::Key_Return);
-  }
-  /// Opens the grids' menu on a cell and runs a command of it.
-  void RunFromMenu(BoundGrid &grid, int row, const QString &column, const char *command) {
-    grid.setCurrentIndex(grid.Model().index(row, grid.Model().ColumnByName(column)));
-    Q_EMIT grid.MenuWanted({});
-    GridMenu &menu = *window.findChild<GridMenu *>();
-    menu.hide();
-    QAction *action = menu.findChild<QAction *>(QLatin1String(command));
-    ASSERT_TRUE(action && action->isEnabled()) << command;
-    action->trigger();
-  }
-  void ShowNutrient(std::size_t position, int nutrientID) {
-    NutrientSelection selection = ReadNutrientSelection(*session);
-    selection[position] = {nutrientID, QStringLiteral("New"), true, {}};
-    SaveNutrientSelection(*session, selection);
-  }
-  bool Enabled(const QString &button) { return Find<QPushButton>(window, button).isEnabled(); }
-
-  frmSetupFoods window{*session, navigator, nullptr};
-};
-
 TEST_F(SetupFoodsTest, ListsSortsAndJumps) {
   EXPECT_EQ(List().Model().RecordCount(), 8791);
   EXPECT_EQ(List().CurrentColumn(), "MealDesc") << "not the empty column before it";
-  EXPECT_EQ(Find<QLabel>(window, "lblFoods").text(), "Food Description                        8791 Foods Displayed");
+  EXPECT_EQ(Find<QLabel>(*window, "lblFoods").text(), "Food Description                        8791 Foods Displayed");
   Choose("cboMealGroups", 7);
   EXPECT_TRUE(List().isColumnHidden(List().Model().ColumnByName("MealGroupID")));
-  Choose("cboSort", "-Protein");
-  double before = 1e9;
-  for (int row = 0; row < 10; ++row) {
-    const double protein = ReadFood(*session, static_cast<int>(*List().Model().KeyOfRow(row))).nutrients.OrZero(4);
-    EXPECT_LE(protein, before);
-    before = protein;
-  }
-  QComboBox &sort = Find<QComboBox>(window, "cboSort");
-  const int chosen = sort.currentIndex();
-  Choose("cboSort", "-2");
-  EXPECT_EQ(sort.currentIndex(), chosen) << "a separator is no choice";
-
-  Choose("cboSort", "0");
+  const int inGroup = List().Model().RecordCount();
+  EXPECT_LT(inGroup, 8791);
+  EXPECT_TRUE(Find<QLabel>(*window, "lblFoods").text().endsWith(QStringLiteral(" %1 Foods Displayed").arg(inGroup)));
   Choose("cboMealGroups", -1);
-  Click(window, "cmdAplha");
-  EXPECT_EQ(Find<QPushButton>(window, "cmdAplha").text(), "A - Z  <<");
-  Find<QAbstractButton>(window, "pshAplha(16)").click();
-  EXPECT_TRUE(Name(List(), List().currentIndex().row()).startsWith("Q", Qt::CaseInsensitive));
+  EXPECT_FALSE(List().isColumnHidden(List().Model().ColumnByName("MealGroupID")));
+
+  QWidget &letters = *Find<QAbstractButton>(*window, "pshAplha(16)").parentWidget();
+  EXPECT_FALSE(letters.isVisible());
+  Click("cmdAplha");
+  EXPECT_EQ(Find<QPushButton>(*window, "cmdAplha").text(), "A - Z  <<");
+  EXPECT_TRUE(letters.isVisible());
+  for (const auto &[button, letter] : {std::pair(0, "A"), std::pair(16, "Q"), std::pair(25, "Z")}) {
+    QTest::mouseClick(&Find<QAbstractButton>(*window, QStringLiteral("pshAplha(%1)").arg(button)), Qt::LeftButton);
+    EXPECT_TRUE(Name(List(), List().currentIndex().row()).startsWith(letter, Qt::CaseInsensitive)) << letter;
+    EXPECT_TRUE(button != 16 || List().rowAt(0) == List().currentIndex().row()) << "at the top";
+  }
+  Click("cmdAplha");
+  EXPECT_EQ(Find<QPushButton>(*window, "cmdAplha").text(), "A - Z  >>");
+  EXPECT_FALSE(letters.isVisible());
 }
 
-TEST_F(SetupFoodsTest, ArrowKeysPassTheSeparators) {
-  QComboBox &sort = Find<QComboBox>(window, "cboSort");
+TEST_F(SetupFoodsTest, TheSortBoxAndTheCaptionsSayTheSame) {
+  QComboBox &sort = Find<QComboBox>(*window, "cboSort");
+  const auto order = [this] { return List().Model().Source().order.first(); };
+  sort.setFocus();
   QTest::keyClick(&sort, Qt::Key_Down);
-  EXPECT_EQ(sort.currentData(), "Calories");
-  EXPECT_EQ(ReadFood(*session, static_cast<int>(*List().Model().KeyOfRow(0))).nutrients.OrZero(1), 0);
+  EXPECT_EQ(sort.currentData(), "Calories") << "past the separator";
+  EXPECT_EQ(order(), (GridOrder{"Calories"}));
   QTest::keyClick(&sort, Qt::Key_Up);
   EXPECT_EQ(sort.currentData(), "0");
+
+  ClickCaption(List(), "Nut2");
+  EXPECT_EQ(sort.currentData(), "Fat");
+  ClickCaption(List(), "Nut2");
+  EXPECT_EQ(sort.currentData(), "-Fat");
+  EXPECT_EQ(order(), (GridOrder{"Fat", true}));
+  Choose("cboMealGroups", 7);
+  EXPECT_EQ(order(), (GridOrder{"Fat", true})) << "another group does not fall back to an older order";
+  EXPECT_EQ(sort.currentData(), "-Fat");
+
+  ClickCaption(List(), "Amount");
+  EXPECT_EQ(sort.currentIndex(), -1) << "the box has no name for this order";
+  EXPECT_EQ(sort.placeholderText(), "Serving Size");
+  Choose("cboMealGroups", -1);
+  EXPECT_EQ(order(), (GridOrder{"Amount"}));
+  Choose("cboSort", "0");
+  EXPECT_EQ(order(), (GridOrder{"MealDesc"}));
+
+  const int separator = sort.findData("-2");
+  sort.setCurrentIndex(separator);
+  EXPECT_EQ(sort.currentData(), "0") << "a separator is no choice";
 }
 
-TEST_F(SetupFoodsTest, TheSortBoxFollowsAClickOnACaption) {
-  const QComboBox &sort = Find<QComboBox>(window, "cboSort");
-  EXPECT_TRUE(List().SortBy("Nut2", true));
-  EXPECT_EQ(sort.currentData(), "-Fat");
-  EXPECT_TRUE(List().SortBy("MealDesc", false));
-  EXPECT_EQ(sort.currentData(), "0");
+TEST_F(SetupFoodsTest, ARefusedCellPutsTheBoxesBack) {
+  AddOwn("Aaa own");
+  Choose("cboRecordTypeMeals", 2);
+  TypeInCell(List(), 0, "Nut2", "-3");
+  for (const auto &[box, key] :
+       {std::pair("cboRecordTypeMeals", QVariant(1)), std::pair("cboRecordTypeMeals", QVariant(-3)),
+        std::pair("cboMealGroups", QVariant(7)), std::pair("cboSort", QVariant("Calories"))}) {
+    const QVariant before = Chosen(box);
+    Choose(box, key);
+    EXPECT_EQ(Chosen(box), before) << box;
+    EXPECT_EQ(List().Model().RecordCount(), 1) << box;
+    EXPECT_TRUE(Find<QComboBox>(*window, "cboMealGroups").isEnabled());
+  }
+  List().setFocus();
+  QTest::keyClick(&List(), Qt::Key_Escape);
+  Choose("cboRecordTypeMeals", 1);
+  EXPECT_EQ(Chosen("cboRecordTypeMeals"), 1);
+  EXPECT_EQ(List().Model().RecordCount(), 8791);
 }
 
 TEST_F(SetupFoodsTest, ANutrientThatIsNotShownAnyMoreOrdersNothing) {
+  const auto show = [this](std::size_t position, int nutrientID) {
+    NutrientSelection selection = ReadNutrientSelection(*session);
+    selection[position] = {nutrientID, QStringLiteral("New"), true, {}};
+    SaveNutrientSelection(*session, selection);
+  };
   Choose("cboSort", "-Protein");
   Search("cheddar");
-  EXPECT_TRUE(Found().SortBy("Nut9", true));  // protein
-  ShowNutrient(0, 7);
-  EXPECT_EQ(Find<QComboBox>(window, "cboSort").currentData(), "-Protein") << "still shown";
-  ShowNutrient(8, 12);
-  EXPECT_EQ(Find<QComboBox>(window, "cboSort").currentData(), "0");
-  EXPECT_EQ(Find<QComboBox>(window, "cboSort").findData("-Protein"), -1);
+  ClickCaption(Found(), "Nut9");  // protein
+  show(0, 7);
+  EXPECT_EQ(Chosen("cboSort"), "-Protein") << "still shown";
+  show(8, 12);
+  EXPECT_EQ(Chosen("cboSort"), "0");
+  EXPECT_EQ(Find<QComboBox>(*window, "cboSort").findData("-Protein"), -1);
   for (const BoundGrid *grid : {&List(), &Found()}) {
     EXPECT_EQ(grid->Model().Source().order.first().field, "MealDesc");
     EXPECT_EQ(grid->Model().headerData(grid->Model().ColumnByName("Nut9"), Qt::Horizontal).toString(), "New\n(mg)");
   }
-  ShowNutrient(8, 0);
+  show(8, 0);
   EXPECT_TRUE(List().isColumnHidden(List().Model().ColumnByName("Nut9")));
+}
+
+TEST_F(SetupFoodsTest, TabReachesEveryControlAndAccessKeysPress) {
+  AddOwn("Aaa own");
+  Choose("cboRecordTypeMeals", 2);
+  QStringList reached;
+  List().setFocus();
+  for (int keys = 0; keys < 60 && reached.count("cmdOK") == 0; ++keys) {
+    QTest::keyClick(QApplication::focusWidget(), Qt::Key_Tab);
+    reached.append(QApplication::focusWidget()->objectName());
+  }
+  QStringList buttons = reached.filter(QRegularExpression("^(cmd|pnl)"));
+  EXPECT_EQ(buttons.join(' '),
+            "cmdNewMeal cmdDeleteMeal cmdAllNutrients cmdPrintMeals cmdRecipes pnlFoodInfo cmdTipsFoods cmdHelp cmdOK");
+
+  QStringList keys;
+  for (const QPushButton *button : window->findChildren<QPushButton *>()) {
+    if (!button->isVisible()) continue;
+    EXPECT_FALSE(button->shortcut().isEmpty()) << button->objectName().toStdString();
+    keys.append(button->shortcut().toString());
+  }
+  for (const QLabel *label : window->findChildren<QLabel *>()) {
+    if (label->isVisible() && label->buddy()) keys.append(QKeySequence::mnemonic(label->text()).toString());
+  }
+  EXPECT_EQ(QSet<QString>(keys.begin(), keys.end()).size(), keys.size()) << keys.join(' ').toStdString();
+
+  for (const char *caption : {"A - Z  <<", "A - Z  >>"}) {
+    QTest::keyClick(window.get(), Qt::Key_Z, Qt::AltModifier);
+    EXPECT_TRUE(QTest::qWaitFor([&] { return Find<QPushButton>(*window, "cmdAplha").text() == caption; })) << caption;
+  }
+  for (const auto &[key, page] : {std::pair(Qt::Key_F, "68"), std::pair(Qt::Key_T, "tips_foods"),
+                                  std::pair(Qt::Key_H, "foods"), std::pair(Qt::Key_R, "recipes")}) {
+    QTest::keyClick(window.get(), key, Qt::AltModifier);
+    EXPECT_TRUE(QTest::qWaitFor([this, page = page] { return opened.contains(page); })) << page;
+  }
+  QTest::keyClick(window.get(), Qt::Key_O, Qt::AltModifier);
+  EXPECT_TRUE(QTest::qWaitFor([this] { return !window->isVisible(); }));
+}
+
+TEST_F(SetupFoodsTest, ANewFoodIsShownByTheListThatHoldsIt) {
+  struct Case {
+    int list;
+    int group;
+    QVariant chosen;  ///< the group of the new food; none: as proposed
+    int shownList;
+    int shownGroup;
+  };
+  const std::vector<Case> cases = {
+      {-1, -1, {}, -1, -1}, {1, -1, {}, 2, -1}, {-3, -1, 7, 2, -1}, {2, 7, 3, 2, 3}, {-1, 7, {}, -1, 7}};
+  for (const Case &c : cases) {
+    Choose("cboRecordTypeMeals", c.list);
+    if (c.group != Chosen("cboMealGroups").toInt()) Choose("cboMealGroups", c.group);
+    WhenModal([&c](QWidget &dialog) {
+      ASSERT_TRUE(QTest::qWaitForWindowActive(&dialog));
+      EXPECT_EQ(dialog.windowTitle(), "Create a New Food or Meal");
+      EXPECT_EQ(Find<QComboBox>(dialog, "cboMealGroups").currentData(), c.group < 0 ? 18 : c.group);
+      TypeInto(dialog, "txtMealDesc", "Zucchini of mine");
+      if (c.chosen.isValid()) FoodWindowTest::Choose(dialog, "cboMealGroups", c.chosen);
+      FoodWindowTest::Click(dialog, "cmdOK");
+    });
+    Click("cmdNewMeal");
+    EXPECT_EQ(Chosen("cboRecordTypeMeals"), c.shownList) << c.list << " " << c.group;
+    EXPECT_EQ(Chosen("cboMealGroups"), c.shownGroup) << c.list << " " << c.group;
+    EXPECT_EQ(List().CurrentField("MealDesc"), "Zucchini of mine") << c.list << " " << c.group;
+  }
+}
+
+TEST_F(SetupFoodsTest, PastedRowsThatAreNotListedKeepThePlace) {
+  Choose("cboRecordTypeMeals", 1);
+  ClickRow(List(), 5);
+  const qint64 place = *List().CurrentKey();
+  RunFromMenu(List(), 5, "MealDesc", "mnuPM1CopyRowNormal");
+  RunFromMenu(List(), 5, "MealDesc", "mnuPM1PasteRow");
+  EXPECT_EQ(List().Model().RecordCount(), 8791);
+  EXPECT_EQ(List().CurrentKey(), place);
+  EXPECT_TRUE(Enabled("cmdCopyMeal") && Enabled("cmdAllNutrients"));
+  Choose("cboRecordTypeMeals", 2);
+  EXPECT_EQ(Name(List(), 0), session.ValueOf("MealDesc", "meals_list", QStringLiteral("MealID=%1").arg(place)));
 }
 
 TEST_F(SetupFoodsTest, RowsOfOneGridArePastedIntoTheOther) {
@@ -123,7 +193,7 @@ TEST_F(SetupFoodsTest, RowsOfOneGridArePastedIntoTheOther) {
   RunFromMenu(List(), 0, "MealDesc", "mnuPM1PasteRow");
   ASSERT_EQ(List().Model().RecordCount(), 2);
   EXPECT_EQ(Name(List(), 0), name);
-  EXPECT_EQ(Find<QLabel>(window, "lblFoods").text().right(17), "2 Foods Displayed");
+  EXPECT_EQ(Find<QLabel>(*window, "lblFoods").text().right(17), "2 Foods Displayed");
   EXPECT_EQ(Found().Model().RecordCount(), 38) << "the search sees the new food too";
 
   session->windows.rowClipboard.kind = "datLinks";
@@ -135,16 +205,14 @@ TEST_F(SetupFoodsTest, RowsOfOneGridArePastedIntoTheOther) {
 }
 
 TEST_F(SetupFoodsTest, ARefusedRowIsCorrectedBeforeTheColumnsChange) {
-  int opened = 0;
-  navigator.OpenNutrientSelection = [&opened](QWidget *) { ++opened; };
   AddOwn("Aaa own");
   Choose("cboRecordTypeMeals", 2);
-  List().Model().setData(List().Model().index(0, List().Model().ColumnByName("Nut2")), QStringLiteral("abc"));
+  TypeInCell(List(), 0, "Nut2", "abc");
   RunFromMenu(List(), 0, "MealDesc", "mnuPM1Nutrients");
-  EXPECT_EQ(opened, 0);
+  EXPECT_TRUE(opened.isEmpty());
   List().UndoRow();
   RunFromMenu(List(), 0, "MealDesc", "mnuPM1Nutrients");
-  EXPECT_EQ(opened, 1);
+  EXPECT_EQ(opened, QStringList{"nutrients"});
 }
 
 TEST_F(SetupFoodsTest, ADoubleQuoteInADescriptionBreaksTheCopy) {
@@ -153,7 +221,7 @@ TEST_F(SetupFoodsTest, ADoubleQuoteInADescriptionBreaksTheCopy) {
   List().GoToKey(1);
   session.boxes.Expect("Copy Selected Food?", "", BoxButton::Yes);
   session.boxes.Expect("Error Copying Food", "An error occurred while trying to copy this food.");
-  Click(window, "cmdCopyMeal");
+  Click("cmdCopyMeal");
   EXPECT_EQ(session.ValueOf("MealID", "meals_list", "RecordTypeID=2"), "");
 }
 
@@ -163,28 +231,106 @@ TEST_F(SetupFoodsTest, WithoutItsTablesTheWindowSaysSoAndCloses) {
   frmSetupFoods broken(*session, navigator, nullptr);
   broken.show();
   EXPECT_FALSE(Find<QPushButton>(broken, "cmdNewMeal").isEnabled());
-  Click(broken, "pnlFoodInfo");
-  EXPECT_EQ(helpTopics, QStringList{"68"});
-  Click(broken, "cmdOK");
+  FoodWindowTest::Click(broken, "pnlFoodInfo");
+  EXPECT_EQ(opened, QStringList{"68"});
+  FoodWindowTest::Click(broken, "cmdOK");
   EXPECT_FALSE(broken.isVisible());
 }
 
 TEST_F(SetupFoodsTest, RecentFoodsKnowNoGroups) {
   Choose("cboMealGroups", 7);
   Choose("cboRecordTypeMeals", -3);
-  EXPECT_FALSE(Find<QComboBox>(window, "cboMealGroups").isEnabled());
-  EXPECT_EQ(Find<QComboBox>(window, "cboMealGroups").currentData().toInt(), -1);
+  EXPECT_FALSE(Find<QComboBox>(*window, "cboMealGroups").isEnabled());
+  EXPECT_EQ(Chosen("cboMealGroups"), -1);
   EXPECT_EQ(List().Model().RecordCount(), 0);
+  for (const char *button : {"cmdDeleteMeal", "cmdCopyMeal", "cmdAllNutrients", "cmdPrintMeals"}) {
+    EXPECT_FALSE(Enabled(button)) << button;
+  }
+  Choose("cboRecordTypeMeals", 1);
+  EXPECT_TRUE(Find<QComboBox>(*window, "cboMealGroups").isEnabled());
 }
 
-TEST_F(SetupFoodsTest, SearchesWithEnter) {
+TEST_F(SetupFoodsTest, SearchesWithEnterAndWithItsButton) {
   Search("cheddar");
-  EXPECT_GT(Found().Model().RecordCount(), 5);
-  EXPECT_EQ(Find<QLabel>(window, "lblFoodsFound").text(),
-            QStringLiteral("Food Description  (%1 foods found)").arg(Found().Model().RecordCount()));
+  EXPECT_EQ(Found().Model().RecordCount(), 37);
+  EXPECT_EQ(Find<QLabel>(*window, "lblFoodsFound").text(), "Food Description  (37 foods found)");
   EXPECT_FALSE(Enabled("cmdNewMeal"));
-  Search("  \" ");
-  EXPECT_EQ(Find<QLabel>(window, "lblFoodsFound").text(), "Food Description  (0 foods found)");
+  Find<QLineEdit>(*window, "txtFind").setText("  \" ");
+  Click("cmdFindFirst");
+  EXPECT_EQ(Find<QLabel>(*window, "lblFoodsFound").text(), "Food Description  (0 foods found)");
+  EXPECT_EQ(Found().Model().RecordCount(), 0);
+  EXPECT_FALSE(QGuiApplication::overrideCursor());
+  ClickTab(0);
+  EXPECT_TRUE(Enabled("cmdNewMeal"));
+  EXPECT_TRUE(List().hasFocus());
+}
+
+TEST_F(SetupFoodsTest, ShowsAndEditsAllNutrients) {
+  const int own = AddOwn("Aaa own");
+  Choose("cboRecordTypeMeals", 2);
+  const auto change = [](const QString &fat) {
+    WhenModal([fat](QWidget &dialog) {
+      ASSERT_TRUE(QTest::qWaitForWindowActive(&dialog));
+      EXPECT_EQ(dialog.windowTitle(), "View/Edit All Nutrients");
+      TypeInto(dialog, "txtAddRec0(3)", fat);
+      FoodWindowTest::Click(dialog, "cmdOK");
+    });
+  };
+  change("12");
+  Click("cmdAllNutrients");
+  EXPECT_EQ(FoodValue("Fat", own), "12");
+  EXPECT_EQ(List().Model().FieldOf(0, "Fat"), 12) << "the list sees it";
+
+  Choose("cboRecordTypeMeals", 1);
+  const int shipped = static_cast<int>(*List().Model().KeyOfRow(3));
+  change("13");
+  ClickRow(List(), 3, true);  // a double click on what cannot be changed in place
+  EXPECT_EQ(FoodValue("Fat", shipped), "13");
+  EXPECT_EQ(FoodValue("IsModified", shipped), "-1");
+}
+
+TEST_F(SetupFoodsTest, PrintsWhatTheTabLists) {
+  const QString list = session.directory.filePath("list.pdf"), found = session.directory.filePath("found.pdf");
+  Choose("cboRecordTypeMeals", 2);
+  AddOwn("Aaa own");
+  session.boxes.ExpectInput("Print to a PDF File", list);
+  Click("cmdPrintMeals");
+  EXPECT_TRUE(QFile::exists(list));
+  Search("cheddar");
+  session.boxes.ExpectInput("Print to a PDF File", session.directory.filePath("missing/found.pdf"));
+  session.boxes.Expect("Printer Error",
+                       "An error occurred while printing to your default printer.  Unable to print at this time.");
+  Click("cmdPrintMeals");
+  EXPECT_FALSE(QFile::exists(found));
+}
+
+TEST_F(SetupFoodsTest, EachFailedCommandSaysSo) {
+  const QString loading = "An error occurred while loading your setup information.";
+  AddOwn("Aaa own");
+  Choose("cboRecordTypeMeals", 2);
+  RunFromMenu(List(), 0, "MealDesc", "mnuPM1CopyRowNormal");
+  TypeInCell(List(), 0, "MealDesc", "Another name");
+  session.Data().Execute("DROP TABLE meals_list;");
+  session.boxes.Expect("Error Saving Food", "An error occurred while saving this food.  ");
+  EXPECT_FALSE(List().CommitRow());
+  EXPECT_EQ(Name(List(), 0), "Another name") << "what was typed is not lost";
+  List().UndoRow();
+  session.boxes.Expect("Warning: Delete Food?", "", BoxButton::Yes);
+  session.boxes.Expect("Error Deleting Food", "An error occurred while deleting.  No food was deleted.  ");
+  EXPECT_FALSE(List().DeleteSelected());
+  session.boxes.Expect("Error Pasting Foods", "An error occurred while pasting.  No food was added.  ");
+  RunFromMenu(List(), 0, "MealDesc", "mnuPM1PasteRow");
+  session.boxes.Expect("Error Loading Setup Info", loading);
+  Click("cmdAllNutrients");
+  session.boxes.Expect("Error Loading Setup Info", loading);
+  Choose("cboRecordTypeMeals", 1);
+  EXPECT_EQ(Chosen("cboRecordTypeMeals"), 2) << "the box says what the list shows";
+  session.boxes.Expect("Error Loading Setup Info", loading);
+  Search("cheddar");
+  session.Data().Execute("DROP TABLE meal_groups;");
+  ClickTab(0);
+  session.boxes.Expect("Error Loading Setup Info", loading);
+  Click("cmdNewMeal");
 }
 
 TEST_F(SetupFoodsTest, PreLoadedFoodsAreCopiedOwnOnesChangedAndDeleted) {
@@ -196,9 +342,9 @@ TEST_F(SetupFoodsTest, PreLoadedFoodsAreCopiedOwnOnesChangedAndDeleted) {
   session.boxes.Expect("Copy Selected Food?",
                        "Copy the following food: \n\n" + name + "\n\n to your personal \"My Foods\" list?",
                        BoxButton::Yes);
-  Click(window, "cmdCopyMeal");
+  Click("cmdCopyMeal");
 
-  Find<QTabWidget>(window, "SSTab1").setCurrentIndex(0);
+  ClickTab(0);
   Choose("cboRecordTypeMeals", 2);
   ASSERT_EQ(List().Model().RecordCount(), 1);
   const qint64 copy = *List().Model().KeyOfRow(0);
@@ -222,10 +368,10 @@ TEST_F(SetupFoodsTest, PreLoadedFoodsAreCopiedOwnOnesChangedAndDeleted) {
       "you "
       "sure you want to continue?";
   session.boxes.Expect("Warning: Delete Food?", question, BoxButton::No);
-  Click(window, "cmdDeleteMeal");
+  Click("cmdDeleteMeal");
   EXPECT_EQ(List().Model().RecordCount(), 1);
   session.boxes.Expect("Warning: Delete Food?", question, BoxButton::Yes);
-  Click(window, "cmdDeleteMeal");
+  Click("cmdDeleteMeal");
   EXPECT_EQ(List().Model().RecordCount(), 0);
   EXPECT_EQ(session.ValueOf("RecordID", "meals", where), "");
 }
@@ -248,22 +394,22 @@ TEST_F(SetupFoodsTest, MarkedFoodsGoTogetherAndPreLoadedOnesStay) {
 TEST_F(SetupFoodsTest, ARefusedRowKeepsTheWindowOpen) {
   const int own = AddOwn("Aaa own");
   Choose("cboRecordTypeMeals", 2);
-  window.show();
   List().GoToKey(own);
   const int fat = List().Model().ColumnByName("Nut2");
   EXPECT_FALSE(List().Model().setData(List().Model().index(0, fat), QStringLiteral("-3")));
-  Click(window, "cmdOK");
-  EXPECT_TRUE(window.isVisible());
+  Click("cmdOK");
+  EXPECT_TRUE(window->isVisible());
   List().UndoRow();
-  Click(window, "cmdOK");
-  EXPECT_FALSE(window.isVisible());
+  Click("cmdOK");
+  EXPECT_FALSE(window->isVisible());
 }
 
 TEST_F(SetupFoodsTest, OpensFastWhateverIsListed) {
+  window->hide();
   const qint64 before = session.Data().Counts().rowsRead;
   frmSetupFoods another(*session, navigator, nullptr);
   another.show();
-  QApplication::processEvents();
+  another.grab();  // paints it, and runs nothing that waits for that
   EXPECT_LT(session.Data().Counts().rowsRead - before, 600) << "keys of the first page and the rows in view";
 }
 

@@ -438,11 +438,8 @@ bool BoundGrid::PasteRows(const GridClipboard &clipboard) {
   if (!hooks.pasteRows || clipboard.rows.isEmpty() || clipboard.kind != recordSource || !CommitRow()) return false;
   return RunGuarded(GridAction::Paste, [&] {
     const std::vector<qint64> pasted = hooks.pasteRows(clipboard);
-    model_->Refresh();
-    PrefetchVisible();
-    if (pasted.empty()) return;
-    GoToKey(pasted.back());
-    MarkRows(pasted);
+    KeepingPlace([this] { model_->Refresh(); });
+    if (!pasted.empty() && GoToKey(pasted.back())) MarkRows(pasted);
     setFocus();
   });
 }
