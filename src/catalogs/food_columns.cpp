@@ -86,7 +86,7 @@ bool HoldsPreLoadedFood(Session &session, const std::vector<qint64> &keys) {
 
 GridColumns FoodColumns(Session &session, const QString &groupsDropDown) {
   GridColumns columns = {
-      {.name = QStringLiteral("Qlt"), .width = 2},
+      {.name = QStringLiteral("Qlt"), .visible = false},  // the head of a row marks it
       {.name = QStringLiteral("MealDesc"),
        .caption = QStringLiteral("Food Description"),
        .field = QStringLiteral("MealDesc"),

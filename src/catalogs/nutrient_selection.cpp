@@ -12,7 +12,7 @@ QList<NutrientChoice> SelectableNutrients(Session &session) {
       QStringLiteral("SELECT nutrients.* FROM nutrients ORDER BY nutrients.NutSortOrder;"));
   for (; !rows.Eof(); rows.MoveNext()) {
     choices.append({rows.Integer(QStringLiteral("NutrientID")), rows.Text(QStringLiteral("NutDescPlusUoM")),
-                    rows.Text(QStringLiteral("NutShortDescription")), rows.Text(QStringLiteral("NutFieldName"))});
+                    rows.Text(QStringLiteral("NutShortDescription"))});
   }
   return choices;
 }

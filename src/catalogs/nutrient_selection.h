@@ -13,7 +13,6 @@ struct NutrientChoice {
   int NutrientID = 0;  ///< 0 is "None"
   QString descriptionPlusUnit;
   QString shortDescription;
-  QString fieldName;
 };
 /// All 36, in their sort order, "None" first.
 QList<NutrientChoice> SelectableNutrients(Session &session);

@@ -87,6 +87,21 @@ TEST_F(FoodCatalog, EveryWriterStoresAll35NutrientsAndTouchesNoOtherFood) {
   EXPECT_EQ(Line(1), shippedBefore);
 }
 
+TEST_F(FoodCatalog, EveryWriterAnnouncesItsFoodsOnce) {
+  std::vector<std::vector<qint64>> told;
+  QObject::connect(&session->changes, &DataChanges::Changed, [&told](const DataChange &change) {
+    EXPECT_EQ(change.table, Table::MealsList);
+    told.push_back(change.keys);
+  });
+  const int added = AddFood(*session, Full("Soup"));
+  const int copied = CopyFood(*session, 2);
+  FoodRecord changed = Full("Renamed");
+  changed.MealID = 2;
+  SaveFood(*session, changed);
+  const std::vector<qint64> pasted = PasteFoods(*session, Row(2) + Row(3));
+  EXPECT_EQ(told, (std::vector<std::vector<qint64>>{{added}, {copied}, {2}, pasted}));
+}
+
 TEST_F(FoodCatalog, WhatIsStoredIsWhatIsShown) {
   FoodRecord food;
   food.MealDesc = "12\" sub";

@@ -6,12 +6,11 @@
 #include "catalogs/nutrient_groups.h"
 #include "catalogs/nutrient_selection.h"
 #include "foods_fixture.h"
+#include "support/locales.h"
 
 namespace trimlog {
 namespace {
 
-const QLocale english(QLocale::English, QLocale::UnitedStates);
-const QLocale german(QLocale::German, QLocale::Germany);
 
 class FoodLists : public Foods {
  protected:
@@ -180,9 +179,9 @@ TEST_F(FoodLists, HeadingsAndHints) {
 }
 
 TEST(FoodDerived, KeepsFieldsInStep) {
-  EXPECT_EQ(DerivedNetCarbs("10.5", "0", "", english), "10") << "halves to even";
+  EXPECT_EQ(DerivedNetCarbs("10.5", "0", "", us), "10") << "halves to even";
   EXPECT_EQ(DerivedNetCarbs("11,5", "", "", german), "12");
-  EXPECT_EQ(DerivedNetCarbs("1", "5", "x", english), "0");
+  EXPECT_EQ(DerivedNetCarbs("1", "5", "x", us), "0");
   struct Case {
     const char *grams;
     int factor;
@@ -195,20 +194,20 @@ TEST(FoodDerived, KeepsFieldsInStep) {
                                    {"10", 4, "", "0", "0"},     {"10", 4, "abc", "0", "0"},
                                    {"10", 4, "0", "0", "0"},    {"10", 4, "100", "40", "40"}};
   for (const Case &c : cases) {
-    const CaloriesFrom from = DerivedCalories(c.grams, c.factor, c.calories, english);
+    const CaloriesFrom from = DerivedCalories(c.grams, c.factor, c.calories, us);
     EXPECT_EQ(from.calories, c.expected) << c.grams;
     EXPECT_EQ(from.percent, c.percent) << c.grams;
   }
-  EXPECT_THROW(DerivedCalories("1e6", 9, "100", english), Error);
+  EXPECT_THROW(DerivedCalories("1e6", 9, "100", us), Error);
 
   const CalorieFields present{{"7", "0"}, {"", ""}, {"0", "3"}};
-  EXPECT_TRUE(HoldsCalorieValues(present, english));
-  EXPECT_FALSE(HoldsCalorieValues({{"0", ""}, {"", ""}, {"", "x"}}, english));
-  const CalorieFields filled = CalculatedCalories(present, "1", "2", "3", "100", false, english);
+  EXPECT_TRUE(HoldsCalorieValues(present, us));
+  EXPECT_FALSE(HoldsCalorieValues({{"0", ""}, {"", ""}, {"", "x"}}, us));
+  const CalorieFields filled = CalculatedCalories(present, "1", "2", "3", "100", false, us);
   EXPECT_EQ(filled.fat.calories, "7") << "No keeps what is above 0";
   EXPECT_EQ(filled.fat.percent, "9");
   EXPECT_EQ(filled.protein.percent, "3");
-  EXPECT_EQ(CalculatedCalories(present, "1", "2", "3", "100", true, english).fat.calories, "9");
+  EXPECT_EQ(CalculatedCalories(present, "1", "2", "3", "100", true, us).fat.calories, "9");
 }
 
 TEST_F(Foods, DailyValuesComeFromTheReferenceSet) {
@@ -253,8 +252,10 @@ TEST_F(Foods, TheSelectionIsStoredForTheWholeFileAndLeavesThePresetsAlone) {
   const QString before = presets();
   ASSERT_NE(before, "");
   QStringList announced;
-  QObject::connect(&session->changes, &DataChanges::Changed,
-                   [&](const DataChange &) { announced.append(session->nutrients.SelectedNutrients[0].description); });
+  QObject::connect(&session->changes, &DataChanges::Changed, [&](const DataChange &change) {
+    EXPECT_EQ(change.table, Table::SelectedNutrients);
+    announced.append(session->nutrients.SelectedNutrients[0].description);
+  });
   NutrientSelection selection;
   for (int i = 0; i < shownNutrients; ++i) {
     selection[static_cast<std::size_t>(i)] = {28 - i, QStringLiteral("Name \"%1\"").arg(i), i % 2 == 0, {}};
@@ -274,8 +275,8 @@ TEST_F(Foods, TheSelectionIsStoredForTheWholeFileAndLeavesThePresetsAlone) {
   ASSERT_EQ(choices.size(), 36);
   EXPECT_EQ(choices.first().NutrientID, 0);
   EXPECT_EQ(choices.first().descriptionPlusUnit, "None");
-  EXPECT_EQ(choices[1].fieldName, "Calories");
-  EXPECT_FALSE(choices[1].shortDescription.isEmpty());
+  EXPECT_EQ(choices[1].NutrientID, nutrient_id::calories);
+  EXPECT_EQ(choices[1].shortDescription, "Cals");
 
   EXPECT_FALSE(HandheldHoldsFoods(*session));
   session.Data().Execute("INSERT INTO palm_selected_meals ( MealID ) SELECT 1 AS Expr1;");

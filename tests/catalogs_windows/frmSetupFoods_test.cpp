@@ -1,4 +1,6 @@
 // Food Setup: its lists, its search, its buttons.
+#include <QAccessible>
+
 #include "catalogs/nutrient_selection.h"
 #include "setup_foods_fixture.h"
 
@@ -7,7 +9,8 @@ namespace {
 
 TEST_F(SetupFoodsTest, ListsSortsAndJumps) {
   EXPECT_EQ(List().Model().RecordCount(), 8791);
-  EXPECT_EQ(List().CurrentColumn(), "MealDesc") << "not the empty column before it";
+  EXPECT_EQ(List().CurrentColumn(), "MealDesc");
+  EXPECT_TRUE(List().isColumnHidden(0)) << "no empty column before the names";
   EXPECT_EQ(Find<QLabel>(*window, "lblFoods").text(), "Food Description                        8791 Foods Displayed");
   Choose("cboMealGroups", 7);
   EXPECT_TRUE(List().isColumnHidden(List().Model().ColumnByName("MealGroupID")));
@@ -265,6 +268,33 @@ TEST_F(SetupFoodsTest, SearchesWithEnterAndWithItsButton) {
   EXPECT_TRUE(List().hasFocus());
 }
 
+TEST_F(SetupFoodsTest, IsSpokenAndFitsASmallScreen) {
+  static QStringList said;
+  said.clear();
+  QAccessible::setActive(true);
+  const auto handler = QAccessible::installUpdateHandler([](QAccessibleEvent *event) {
+    QAccessibleInterface *speaker = event->type() == QAccessible::ObjectShow ? event->accessibleInterface() : nullptr;
+    if (speaker && speaker->role() == QAccessible::Notification) said.append(speaker->text(QAccessible::Name));
+  });
+  Choose("cboRecordTypeMeals", 2);
+  Search("cheddar");
+  Find<QLineEdit>(*window, "txtFind").setText("qwxyz");
+  Click("cmdFindFirst");
+  QAccessible::installUpdateHandler(handler);
+  QAccessible::setActive(false);
+  EXPECT_EQ(said.filter("Displayed"), QStringList{"Food Description 0 Foods Displayed"});
+  EXPECT_EQ(said.filter("found"),
+            (QStringList{"Food Description (37 foods found)", "Food Description (0 foods found)"}));
+
+  ClickTab(0);
+  for (const auto &[box, name] : {std::pair("cboRecordTypeMeals", "Food List:"),
+                                  std::pair("cboMealGroups", "Food Group:"), std::pair("cboSort", "Sort by:")}) {
+    EXPECT_EQ(QAccessible::queryAccessibleInterface(&Find<QComboBox>(*window, box))->text(QAccessible::Name), name);
+  }
+  Click("cmdAplha");
+  EXPECT_LE(window->minimumSizeHint().width(), 620) << "a screen of 1280 points at twice the size";
+}
+
 TEST_F(SetupFoodsTest, ShowsAndEditsAllNutrients) {
   const int own = AddOwn("Aaa own");
   Choose("cboRecordTypeMeals", 2);
@@ -352,9 +382,14 @@ TEST_F(SetupFoodsTest, PreLoadedFoodsAreCopiedOwnOnesChangedAndDeleted) {
   EXPECT_TRUE(Enabled("cmdDeleteMeal"));
   EXPECT_FALSE(Enabled("cmdCopyMeal"));
 
-  const int column = List().Model().ColumnByName("MealDesc");
-  EXPECT_TRUE(List().Model().setData(List().Model().index(0, column), QStringLiteral("My 12\" cheddar")));
+  QStringList told;
+  QObject::connect(&session->changes, &DataChanges::Changed, [&told](const DataChange &change) {
+    told.append(change.table == Table::MealsList ? "foods" : change.table == Table::Meals ? "entries" : "?");
+  });
+  TypeInCell(List(), 0, "MealDesc", "My 12\" cheddar");
   EXPECT_TRUE(List().CommitRow());
+  EXPECT_EQ(told, QStringList{"foods"});
+  EXPECT_EQ(Name(Found(), 0).left(3), "Che") << "the other list follows";
   const QString where = QStringLiteral("MealID=%1").arg(copy);
   EXPECT_EQ(session.ValueOf("MealDesc", "meals_list", where), "My 12'' cheddar");
   EXPECT_EQ(session.ValueOf("IsModified", "meals_list", where), "-1");
@@ -374,6 +409,10 @@ TEST_F(SetupFoodsTest, PreLoadedFoodsAreCopiedOwnOnesChangedAndDeleted) {
   Click("cmdDeleteMeal");
   EXPECT_EQ(List().Model().RecordCount(), 0);
   EXPECT_EQ(session.ValueOf("RecordID", "meals", where), "");
+  told.sort();
+  EXPECT_EQ(told, (QStringList{"entries", "foods", "foods"}));
+  EXPECT_EQ(Found().Model().RecordCount(), 37) << "the other list follows";
+  EXPECT_TRUE(Find<QLabel>(*window, "lblFoodsFound").text().contains("37"));
 }
 
 TEST_F(SetupFoodsTest, MarkedFoodsGoTogetherAndPreLoadedOnesStay) {

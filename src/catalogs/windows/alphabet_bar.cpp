@@ -17,7 +17,9 @@ AlphabetBar::AlphabetBar(QWidget *parent) : QWidget(parent) {
     button->setAccessibleName(QStringLiteral("Foods beginning with %1").arg(letter));
     button->setAutoRaise(true);
     button->setFocusPolicy(Qt::TabFocus);
-    button->setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Fixed);
+    // All letters fit wherever the list does.
+    button->setSizePolicy(QSizePolicy::Ignored, QSizePolicy::Fixed);
+    button->setMinimumWidth(button->fontMetrics().horizontalAdvance(QLatin1Char('W')) + 2);
     layout->addWidget(button, 1);
     connect(button, &QToolButton::clicked, this, [this, letter] { Q_EMIT LetterChosen(letter); });
   }

@@ -11,6 +11,7 @@
 #include "catalogs/food_columns.h"
 #include "catalogs/windows/alphabet_bar.h"
 #include "catalogs/windows/food_grid.h"
+#include "platform/windows/controls/spoken_label.h"
 
 namespace trimlog {
 
@@ -26,7 +27,7 @@ QComboBox *AddCombo(QGridLayout *layout, int column, const QString &name, const 
   auto *combo = new QComboBox(parent);
   combo->setObjectName(name);
   combo->setSizeAdjustPolicy(QComboBox::AdjustToMinimumContentsLengthWithIcon);
-  combo->setMinimumContentsLength(14);
+  combo->setMinimumContentsLength(6);  // they share what room there is
   label->setBuddy(combo);
   layout->addWidget(label, 0, column);
   layout->addWidget(combo, 1, column);
@@ -49,8 +50,7 @@ FoodListPage::FoodListPage(Session &session, const FoodListKind &kind, QWidget *
   alphabet_ = new AlphabetBar(this);
   layout->addWidget(alphabet_);
   ShowAlphabet(false);
-  lblFoods = new QLabel(this);
-  lblFoods->setObjectName(QStringLiteral("lblFoods"));
+  lblFoods = new SpokenLabel(QStringLiteral("lblFoods"), this);
   lblFoods->setSizePolicy(QSizePolicy::Ignored, QSizePolicy::Preferred);  // its blanks shall not widen the window
   layout->addWidget(lblFoods);
   grdMealsList = MakeFoodGrid(ListGridNames(), session_, this);
@@ -74,7 +74,9 @@ void FoodListPage::MakeChoices(QGridLayout *choices) {
   cmdAplha->setAutoDefault(false);
   cmdAplha->setToolTip(QStringLiteral("Shows letters that jump in the list. (Alt+Z)"));
   choices->addWidget(cmdAplha, 1, 3);
-  choices->setColumnStretch(1, 1);
+  choices->setColumnStretch(0, 2);
+  choices->setColumnStretch(1, 3);
+  choices->setColumnStretch(2, 2);
   for (const FoodList &list : kind_.lists) cboRecordTypeMeals->addItem(list.text, list.key);
   for (const FoodGroup &group : FoodGroupChoices(session_)) cboMealGroups->addItem(group.text, group.key);
   FillSorts();
@@ -143,7 +145,7 @@ void FoodListPage::GoToFood(int mealID) {
 }
 
 void FoodListPage::UpdateHeading() {
-  lblFoods->setText(FoodsDisplayedHeading(grdMealsList->Model().RecordCount(), shown_.group == allFoodGroups));
+  lblFoods->Tell(FoodsDisplayedHeading(grdMealsList->Model().RecordCount(), shown_.group == allFoodGroups));
 }
 
 void FoodListPage::NutrientsChanged() {

@@ -6,13 +6,13 @@
 
 class QComboBox;
 class QGridLayout;
-class QLabel;
 class QPushButton;
 
 namespace trimlog {
 
 class AlphabetBar;
 class BoundGrid;
+class SpokenLabel;
 
 /// The tab that lists foods by list and group, sorted by name or by a nutrient, with the alphabet to jump in it.
 class FoodListPage : public QWidget {
@@ -49,7 +49,7 @@ class FoodListPage : public QWidget {
   QComboBox *cboSort = nullptr;
   QPushButton *cmdAplha = nullptr;
   AlphabetBar *alphabet_;
-  QLabel *lblFoods;
+  SpokenLabel *lblFoods;
   BoundGrid *grdMealsList;
 };
 

@@ -90,7 +90,7 @@ void FoodPage::AddTexts(QFormLayout *form) {
 
 void FoodPage::AddNutrients(QVBoxLayout *layout) {
   // All fields in sight where the screen has room for them; the rest of the dialog takes about the margin.
-  const QSize screenRoom = screen()->availableSize() - QSize(80, 340);
+  const QSize screenRoom = screen()->availableSize() - QSize(80, 290);
   auto *scroll = new QScrollArea(this);
   scroll->setWidgetResizable(true);
   scroll->setFrameShape(QFrame::NoFrame);

@@ -8,6 +8,7 @@
 
 #include "catalogs/food_search.h"
 #include "catalogs/windows/food_grid.h"
+#include "platform/windows/controls/spoken_label.h"
 #include "platform/windows/fields/text_field.h"
 
 namespace trimlog {
@@ -45,14 +46,14 @@ FoodSearchPage::FoodSearchPage(Session &session, const FoodListKind &kind, QWidg
   row->addWidget(label);
   row->addWidget(txtFind, 1);
   row->addWidget(cmdFindFirst);
-  lblFoodsFound = new QLabel(FoodsFoundHeading(0), this);
-  lblFoodsFound->setObjectName(QStringLiteral("lblFoodsFound"));
+  lblFoodsFound = new SpokenLabel(QStringLiteral("lblFoodsFound"), this);
   layout->addWidget(lblFoodsFound);
   grdMealsSearch = MakeFoodGrid(SearchGridNames(), session_, this);
   layout->addWidget(grdMealsSearch, 1);
   setFocusProxy(txtFind);
 
   grdMealsSearch->Open(session_.Data(), FoodSearchSource(kind_, {}));
+  UpdateHeading();
   connect(txtFind, &TextField::returnPressed, this, &FoodSearchPage::Search);
   connect(cmdFindFirst, &QPushButton::clicked, this, &FoodSearchPage::Search);
 }
@@ -68,7 +69,7 @@ void FoodSearchPage::Search() {
 }
 
 void FoodSearchPage::UpdateHeading() {
-  lblFoodsFound->setText(FoodsFoundHeading(grdMealsSearch->Model().RecordCount()));
+  lblFoodsFound->Tell(FoodsFoundHeading(grdMealsSearch->Model().RecordCount()));
 }
 
 void FoodSearchPage::NutrientsChanged() {

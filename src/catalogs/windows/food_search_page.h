@@ -5,12 +5,12 @@
 #include "catalogs/food_list_kind.h"
 #include "core/session/session.h"
 
-class QLabel;
 class QPushButton;
 
 namespace trimlog {
 
 class BoundGrid;
+class SpokenLabel;
 class TextField;
 
 /// The tab that finds foods by words of their description, in any order.
@@ -30,7 +30,7 @@ class FoodSearchPage : public QWidget {
   const FoodListKind kind_;
   TextField *txtFind;
   QPushButton *cmdFindFirst;
-  QLabel *lblFoodsFound;
+  SpokenLabel *lblFoodsFound;
   BoundGrid *grdMealsSearch;
   QString searched_;
 };

@@ -42,7 +42,7 @@ void NutrientFields::AddField(int nutrientID, QWidget *group) {
   auto *field = new NumberField(QStringLiteral("txtAddRec0(%1)").arg(nutrientID), label, session_.locale, group);
   field->setProperty("DataField", Definition(session_.nutrients, nutrientID).fieldName);
   field->SetRange(0, nutrientID == nutrient_id::netCarbs ? highestNetCarbs : highestNutrient);
-  field->setMaximumWidth(field->fontMetrics().horizontalAdvance(QStringLiteral("1,000,000.000")));
+  field->setFixedWidth(field->fontMetrics().horizontalAdvance(QStringLiteral("1,000,000.000")));
   auto *caption = new QLabel(label, group);
   caption->setTextFormat(Qt::PlainText);
   caption->setBuddy(field);
