@@ -60,7 +60,7 @@ FoodListPage::FoodListPage(Session &session, const FoodListKind &kind, QWidget *
   for (QComboBox *box : {cboRecordTypeMeals, cboMealGroups, cboSort}) {
     connect(box, &QComboBox::currentIndexChanged, this, &FoodListPage::OnChosen);
   }
-  connect(&grdMealsList->Model(), &QAbstractItemModel::modelReset, this, &FoodListPage::OnSorted);
+  connect(grdMealsList, &BoundGrid::Sorted, this, &FoodListPage::OnSorted);
   connect(cmdAplha, &QPushButton::clicked, this, [this] { ShowAlphabet(alphabet_->isHidden()); });
   connect(alphabet_, &AlphabetBar::LetterChosen, this, &FoodListPage::GoToLetter);
 }
@@ -129,6 +129,7 @@ bool FoodListPage::Show(FoodSelection wanted) {
                      grdMealsList->Open(session_.Data(), FoodListSource(kind_, wanted));
   if (shown) {
     shown_ = wanted;
+    grdMealsList->SetPlaceholderText(EmptyListHint(shown_));
     grdMealsList->ShowColumn(QStringLiteral("MealGroupID"), shown_.group == allFoodGroups);
   }
   ShowChoices();

@@ -69,6 +69,7 @@ void FoodSearchPage::Search() {
 }
 
 void FoodSearchPage::UpdateHeading() {
+  grdMealsSearch->SetPlaceholderText(NothingFoundHint(searched_));
   lblFoodsFound->Tell(FoodsFoundHeading(grdMealsSearch->Model().RecordCount()));
 }
 
