@@ -11,7 +11,6 @@
 namespace trimlog {
 namespace {
 
-
 class FoodLists : public Foods {
  protected:
   QStringList Names(const GridSource &source) {
