@@ -2,8 +2,10 @@
 
 #include <QCalendarWidget>
 #include <QComboBox>
+#include <QLabel>
 #include <QPushButton>
 #include <QTest>
+#include <QTextCharFormat>
 #include <QTimer>
 #include <QVBoxLayout>
 
@@ -82,6 +84,11 @@ TEST_F(CalendarPicker, ListsMoveTheMonthAndEnterChooses) {
     auto *days = picker.findChild<QCalendarWidget *>(QStringLiteral("calDate"));
     QWidget *const cells = days->findChild<QWidget *>(QStringLiteral("qt_calendar_calendarview"));
     QTest::keyClick(cells, Qt::Key_Right);
+    EXPECT_EQ(picker.findChild<QLabel *>(QStringLiteral("lblChosen"))->text().toStdString(),
+              "Thursday, February 29, 2024");
+    EXPECT_EQ(cells->accessibleName().toStdString(), "Thursday, February 29, 2024");
+    for (const Qt::DayOfWeek day : {Qt::Friday, Qt::Saturday, Qt::Sunday})
+      EXPECT_EQ(days->weekdayTextFormat(day).foreground(), QBrush()) << day;
     QTest::keyClick(cells, Qt::Key_Return);
     EXPECT_FALSE(picker.isVisible());
   });

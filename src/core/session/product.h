@@ -7,6 +7,7 @@ namespace trimlog::product {
 inline const QString name = QStringLiteral("Trimlog Pro");
 inline const QString version = QStringLiteral("2.7");
 inline const QString seravaEdition = QStringLiteral("SERAVA Edition");
+inline const QString license = QStringLiteral("GNU General Public License, version 3 or later");
 inline const QString supportMail = QStringLiteral("support@corvane.example");
 inline const QString usersGuidePage = QStringLiteral("https://www.corvane.example/trimlog/guide.html");
 inline const QString supportPage = QStringLiteral("https://www.corvane.example/trimlog/support/");

@@ -1,10 +1,13 @@
 #include "core/windows/controls/frmCalendar.h"
 
+#include <QAbstractItemView>
 #include <QCalendarWidget>
 #include <QComboBox>
 #include <QGridLayout>
+#include <QLabel>
 #include <QLineEdit>
 #include <QPushButton>
+#include <QTextCharFormat>
 #include <QToolButton>
 #include <QVBoxLayout>
 #include <algorithm>
@@ -19,10 +22,10 @@ namespace {
 
 constexpr int yearsListed = 100;  // before and after today; others join the list when they are shown
 
-QPushButton *AddButton(QLayout *layout, const char *name, const QString &caption, const QString &spoken) {
+QPushButton *AddButton(QLayout *layout, const char *name, const QString &caption, const QString &spoken = {}) {
   auto *button = new QPushButton(caption);
   button->setObjectName(QLatin1String(name));
-  button->setAccessibleName(spoken);
+  if (caption.isEmpty()) button->setAccessibleName(spoken);
   button->setAutoDefault(false);
   layout->addWidget(button);
   return button;
@@ -63,7 +66,7 @@ QAbstractButton *AttachCalendar(Session &session, DateField &field, const QStrin
 }
 
 frmCalendar::frmCalendar(Session &session, const QDate &initial, QWidget *owner)
-    : QDialog(owner), session_(session), calDate(new QCalendarWidget(this)) {
+    : QDialog(owner), session_(session), calDate(new QCalendarWidget(this)), lblChosen(new QLabel(this)) {
   setObjectName(QStringLiteral("frmCalendar"));
   setWindowTitle(tr("Calendar"));
   setWindowFlag(Qt::WindowStaysOnTopHint);
@@ -78,12 +81,23 @@ frmCalendar::frmCalendar(Session &session, const QDate &initial, QWidget *owner)
   calDate->setDateEditEnabled(false);
   calDate->setMinimumDate(QDate(100, 1, 1));
   calDate->setMaximumDate(QDate(9999, 12, 31));
+  // A free day is a day like any other; today stands out.
+  for (const Qt::DayOfWeek day : {Qt::Saturday, Qt::Sunday}) calDate->setWeekdayTextFormat(day, {});
+  QTextCharFormat bold;
+  bold.setFontWeight(QFont::Bold);
+  bold.setFontUnderline(true);
+  calDate->setDateTextFormat(session.Today(), bold);
   AddLists();
   layout->addWidget(calDate);
+  lblChosen->setObjectName(QStringLiteral("lblChosen"));
+  lblChosen->setAlignment(Qt::AlignCenter);
+  layout->addWidget(lblChosen);
   AddButtons();
   connect(calDate, &QCalendarWidget::currentPageChanged, this, &frmCalendar::ShowPage);
   connect(calDate, &QCalendarWidget::activated, this, &QDialog::accept);
+  connect(calDate, &QCalendarWidget::selectionChanged, this, &frmCalendar::ShowChosen);
   calDate->setSelectedDate(initial);
+  ShowChosen();
   ShowPage(initial.year(), initial.month());
   calDate->setFocus();
 }
@@ -125,10 +139,10 @@ void frmCalendar::AddLists() {
 void frmCalendar::AddButtons() {
   auto *row = new QHBoxLayout;
   static_cast<QVBoxLayout *>(layout())->addLayout(row);
-  QPushButton *const cmdToday = AddButton(row, "cmdToday", tr("&Today"), tr("Today"));
+  QPushButton *const cmdToday = AddButton(row, "cmdToday", tr("&Today"));
   row->addStretch();
-  QPushButton *const cmdOK = AddButton(row, "cmdOK", tr("&OK"), tr("OK"));
-  QPushButton *const cmdCancel = AddButton(row, "cmdCancel", tr("&Cancel"), tr("Cancel"));
+  QPushButton *const cmdOK = AddButton(row, "cmdOK", tr("&OK"));
+  QPushButton *const cmdCancel = AddButton(row, "cmdCancel", tr("&Cancel"));
   cmdOK->setDefault(true);
   connect(cmdToday, &QPushButton::clicked, this, [this] {
     calDate->setSelectedDate(session_.Today());
@@ -152,6 +166,13 @@ void frmCalendar::ShowPage(int year, int month) {
     cboYear->insertItem(place, QString::number(year), year);
   }
   cboYear->setCurrentIndex(cboYear->findData(year));
+}
+
+void frmCalendar::ShowChosen() {
+  const QString day = session_.locale.toString(Chosen(), QLocale::LongFormat);
+  lblChosen->setText(day);
+  // The cells are numbers without month and year; the name of what has the focus is spoken when it changes.
+  if (auto *days = calDate->findChild<QAbstractItemView *>()) days->setAccessibleName(day);
 }
 
 QDate frmCalendar::Chosen() const { return calDate->selectedDate(); }

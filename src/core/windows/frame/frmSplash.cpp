@@ -1,11 +1,16 @@
 #include "core/windows/frame/frmSplash.h"
 
+#include <QApplication>
+#include <QClipboard>
 #include <QDialogButtonBox>
+#include <QFormLayout>
 #include <QLabel>
 #include <QPushButton>
 #include <QTimer>
 #include <QVBoxLayout>
 
+#include "core/session/about.h"
+#include "core/session/failure_guard.h"
 #include "core/session/product.h"
 #include "core/session/system_services.h"
 #include "core/windows/controls/art.h"
@@ -19,6 +24,7 @@ constexpr int splashMilliseconds = 3000;
 QLabel *AddText(QBoxLayout *layout, const QString &name, const QString &text, bool bold) {
   auto *label = new QLabel(text, layout->parentWidget());
   label->setObjectName(name);
+  label->setTextFormat(Qt::PlainText);
   QFont font = label->font();
   font.setBold(bold);
   label->setFont(font);
@@ -45,7 +51,15 @@ frmSplash::frmSplash(Session &session, const OperatingSystem &system, bool About
   Timer1->setSingleShot(true);
   connect(Timer1, &QTimer::timeout, this, &QWidget::close);
   if (AboutMode) {
-    layout->addWidget(BuildButtons());
+    auto *below = new QVBoxLayout;
+    const QStyle *look = style();
+    below->setContentsMargins(
+        look->pixelMetric(QStyle::PM_LayoutLeftMargin), look->pixelMetric(QStyle::PM_LayoutTopMargin),
+        look->pixelMetric(QStyle::PM_LayoutRightMargin), look->pixelMetric(QStyle::PM_LayoutBottomMargin));
+    below->addWidget(BuildFacts());
+    below->addSpacing(look->pixelMetric(QStyle::PM_LayoutVerticalSpacing));
+    below->addWidget(BuildButtons());
+    layout->addLayout(below);
   } else {
     Timer1->start();
   }
@@ -75,17 +89,43 @@ QWidget *frmSplash::BuildPicture() {
   return picture;
 }
 
+QWidget *frmSplash::BuildFacts() {
+  auto *facts = new QWidget(this);
+  auto *rows = new QFormLayout(facts);
+  rows->setContentsMargins(0, 0, 0, 0);
+  GuardedQuietly([&] {
+    for (const AboutFact &fact : AboutFacts(session_)) {
+      auto *value = new QLabel(fact.value, facts);
+      value->setObjectName(QStringLiteral("lbl") + QString(fact.label).remove(u' '));
+      value->setTextFormat(Qt::PlainText);
+      value->setWordWrap(true);
+      value->setTextInteractionFlags(Qt::TextSelectableByMouse | Qt::TextSelectableByKeyboard);
+      rows->addRow(fact.label + u':', value);
+    }
+  });
+  return facts;
+}
+
 QWidget *frmSplash::BuildButtons() {
   auto *buttons = new QDialogButtonBox(this);
-  buttons->setContentsMargins(10, 4, 10, 10);
-  auto *cmdSysInfo = new QPushButton(ArtIcon(QStringLiteral("info")), QStringLiteral("&System Info..."), buttons);
+  auto *cmdCopy = new QPushButton(QStringLiteral("&Copy"), buttons);
+  cmdCopy->setObjectName(QStringLiteral("cmdCopy"));
+  cmdCopy->setToolTip(QStringLiteral("Copies the version and what else a report of a problem should tell."));
+  cmdCopy->setAutoDefault(false);
+  auto *cmdSysInfo = new QPushButton(QStringLiteral("&System Info..."), buttons);
   cmdSysInfo->setObjectName(QStringLiteral("cmdSysInfo"));
-  auto *cmdOK = new QPushButton(ArtIcon(QStringLiteral("ok")), QStringLiteral("OK"), buttons);
+  cmdSysInfo->setAutoDefault(false);
+  auto *cmdOK = new QPushButton(QStringLiteral("OK"), buttons);
   cmdOK->setObjectName(QStringLiteral("cmdOK"));
   cmdOK->setDefault(true);
+  buttons->addButton(cmdCopy, QDialogButtonBox::ActionRole);
   buttons->addButton(cmdSysInfo, QDialogButtonBox::ActionRole);
   buttons->addButton(cmdOK, QDialogButtonBox::AcceptRole);
   connect(cmdOK, &QPushButton::clicked, this, &QDialog::accept);
+  connect(cmdCopy, &QPushButton::clicked, this, [this, cmdCopy] {
+    QApplication::clipboard()->setText(AboutDetails(session_));
+    cmdCopy->setText(QStringLiteral("&Copied"));
+  });
   connect(cmdSysInfo, &QPushButton::clicked, this, [this] { StartSysInfo(session_, system_); });
   return buttons;
 }

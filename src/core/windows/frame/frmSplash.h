@@ -7,7 +7,8 @@
 
 namespace trimlog {
 
-/// The picture shown while the program starts, and with AboutMode the About box.
+/// The picture shown while the program starts, and with AboutMode the About box, which also tells whose profile is
+/// open, the license and the data file, and copies all that a report of a problem needs.
 class frmSplash : public QDialog {
   Q_OBJECT
  public:
@@ -15,6 +16,7 @@ class frmSplash : public QDialog {
 
  private:
   QWidget *BuildPicture();
+  QWidget *BuildFacts();
   QWidget *BuildButtons();
 
   Session &session_;

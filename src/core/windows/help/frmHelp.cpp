@@ -181,6 +181,11 @@ void frmHelp::Search() {
 }
 
 void frmHelp::ShowStyle() {
+  QPalette field;  // some desktops leave the hint in an empty field as dark as the field
+  QColor hint = palette().color(QPalette::Text);
+  hint.setAlphaF(0.7F);
+  field.setColor(QPalette::PlaceholderText, hint);
+  txtSearch->setPalette(field);
   brwPage->document()->setDefaultStyleSheet(HelpStyleSheet(HelpColoursOf(palette()), font()));
   if (brwPage->source().isEmpty()) return;
   const int place = brwPage->verticalScrollBar()->value();

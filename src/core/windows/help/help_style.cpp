@@ -8,8 +8,8 @@ HelpColours HelpColoursOf(const QPalette &desktop) {
   HelpColours colours;
   colours.page = desktop.color(QPalette::Base);
   const bool dark = ContrastText(colours.page) == QColor(Qt::white);
-  colours.key = dark ? colours.page.lighter(130) : colours.page.darker(107);
-  if (dark && colours.page.lightness() < 24) colours.key = QColor(0x2A, 0x2A, 0x2A);
+  colours.key = dark ? colours.page.lighter(180) : colours.page.darker(110);
+  if (dark && colours.page.lightness() < 24) colours.key = QColor(0x30, 0x30, 0x30);
   const QColor text = desktop.color(QPalette::Text);
   colours.text = ContrastRatio(text, colours.page) >= 7 ? text : ContrastText(colours.page);
   colours.heading = MeaningColor(QColor(0x1F, 0x5F, 0x9C), colours.key);
