@@ -26,6 +26,7 @@ inline constexpr int fileLocked = 3050;
 inline constexpr int cannotOpen = 3051;
 inline constexpr int readOnly = 3027;
 inline constexpr int fileDamaged = 3343;
+inline constexpr int fileMoved = 3043;
 inline constexpr int diskFull = 3026;
 inline constexpr int relation = 3200;
 inline constexpr int textTooLong = 3163;

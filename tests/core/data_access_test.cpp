@@ -63,6 +63,7 @@ TEST_F(DataAccess, NextKeys) {
     EXPECT_EQ(Next(table, "1"), "1") << table << " is empty";
   }
   Run("INSERT INTO people ( PersonID ) VALUES ( -2 );");
+  EXPECT_EQ(Next("people"), "1") << "beside the samples the first person has the first number";
   Run("INSERT INTO people ( PersonID ) VALUES ( 1 );");
   Run("INSERT INTO notes ( PersonID, RecordID ) VALUES ( 1, 41 );");
   Run("INSERT INTO other_daily_data ( PersonID, RecordID ) VALUES ( -2, 3 );");

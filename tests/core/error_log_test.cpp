@@ -45,6 +45,31 @@ TEST_F(Services, AnyLogFileHasTheSameForm) {
   EXPECT_EQ(file.readAll().trimmed(), QByteArray("2026-03-01 09:05:07 - Import started"));
 }
 
+TEST_F(Services, TheLogIsItsOwnersAlone) {
+  const QString path = folder.filePath(QStringLiteral("errorlog.txt"));
+  for (const QFile::Permissions found :
+       {QFile::Permissions(), QFile::ReadOwner | QFile::WriteOwner | QFile::ReadOther}) {
+    if (found) QFile::setPermissions(path, found);
+    LogError(session, QStringLiteral("m"), QStringLiteral("p"), QStringLiteral("text"));
+    EXPECT_EQ(QFile::permissions(path) & (QFile::ReadGroup | QFile::ReadOther), QFile::Permissions());
+  }
+  EXPECT_EQ(LogLines().size(), 2);
+}
+
+TEST_F(Services, ASettingThatCannotBeWrittenLeavesALine) {
+  QFile inTheWay(folder.filePath(QStringLiteral("folder")));
+  ASSERT_TRUE(inTheWay.open(QIODevice::WriteOnly));
+  const auto broken = OpenSettingsFile(folder.filePath(QStringLiteral("folder/Trimlog.ini")));
+  {
+    const Session ofBroken({folder.path(), *broken, clock, machine, boxes, QLocale::c()});
+    EXPECT_FALSE(broken->SaveSettingString(settingsRoot, QStringLiteral("UomID"), QStringLiteral("2")));
+  }
+  ASSERT_EQ(LogLines().size(), 1);
+  EXPECT_TRUE(LogLines().front().contains(QLatin1String("SaveSettingString, The settings could not be written: ")));
+  broken->SaveSettingString(settingsRoot, QStringLiteral("UomID"), QStringLiteral("1"));
+  EXPECT_EQ(LogLines().size(), 1) << "the session is gone";
+}
+
 TEST_F(Services, ALogThatCannotBeWrittenLosesTheLineSilently) {
   ASSERT_TRUE(QDir(folder.path()).mkdir(QStringLiteral("errorlog.txt")));
   LogError(session, QStringLiteral("m"), QStringLiteral("p"), QStringLiteral("text"));
@@ -66,6 +91,9 @@ TEST_F(Services, AFailureShowsItsBoxAndIsLogged) {
   withDescription.appendDescription = true;
   boxes.Expect(QStringLiteral("Error"), QStringLiteral("It failed.twice the same key"));
   EXPECT_FALSE(Guarded(session, withDescription, fail));
+
+  boxes.Expect(QStringLiteral("Error"), QStringLiteral("It failed.\n\nPut it back."));
+  EXPECT_FALSE(Guarded(session, exit, [] { throw Error(error_number::fileMoved, QStringLiteral("Put it back.")); }));
 
   FailureExit silent = exit;
   silent.text.clear();

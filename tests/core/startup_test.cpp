@@ -293,12 +293,56 @@ TEST_F(Start, TheDecimalSignOfTheLocale) {
   }
 }
 
-TEST_F(Start, AFailureAfterTheOpenIsLoggedWithoutABox) {
-  bench.Prepare(QStringLiteral("DROP TABLE selected_nutrients;"));
-  EXPECT_EQ(bench.application.Main(), Outcome::Ended) << "there is no window";
-  EXPECT_EQ(bench.calls, QStringList{QStringLiteral("upgrade")}) << "what stands behind the failing step is left out";
-  EXPECT_TRUE(bench.Log().startsWith(QLatin1String("2026-03-01 12:00:00 - basMain, Main, Error 3078 in basMain.Main")))
-      << bench.Log().toStdString();
+TEST_F(Start, NoStartEndsWithoutAWord) {
+  struct Case {
+    int number;
+    std::function<void(StartBench &)> fault;
+    const char *title;
+  };
+  const Case cases[] = {
+      {error_number::unknownTable, [](StartBench &b) { b.Prepare(QStringLiteral("DROP TABLE selected_nutrients;")); },
+       "Could Not Open Database"},
+      {error_number::diskFull,
+       [](StartBench &b) {
+         b.hooks.LoadRewardSettings = [] { throw Error(error_number::diskFull, QStringLiteral("The disk is full")); };
+       },
+       "Could Not Open Database"},
+      {error_number::fileDamaged,
+       [](StartBench &b) {
+         b.hooks.LoadRewardSettings = [] { throw Error(error_number::fileDamaged, QStringLiteral("a torn page")); };
+       },
+       "Database File Corrupt"},
+  };
+  for (const Case &row : cases) {
+    SCOPED_TRACE(row.number);
+    StartBench fresh;
+    row.fault(fresh);
+    const bool corrupt = row.number == error_number::fileDamaged;
+    fresh.boxes.Expect(QLatin1String(row.title), corrupt ? QStringLiteral("because it is corrupt")
+                                                         : QStringLiteral("Error Number: %1").arg(row.number));
+    EXPECT_EQ(fresh.application.Main(), Outcome::Ended);
+    EXPECT_EQ(fresh.calls, (QStringList{QStringLiteral("upgrade"), QStringLiteral("splash closed")}))
+        << "what stands behind the failing step is left out";
+    EXPECT_TRUE(fresh.Log().startsWith(
+        QStringLiteral("2026-03-01 12:00:00 - basMain, Main, Error %1 in basMain.Main").arg(row.number)))
+        << fresh.Log().toStdString();
+  }
+}
+
+TEST_F(Start, AProfileNumberedZeroGetsTheNextFreeNumberWithItsData) {
+  bench.Prepare(QStringLiteral("INSERT INTO people ( PersonID, PersonName ) VALUES ( 4, \"Ann\" );"));
+  bench.Prepare(QStringLiteral("INSERT INTO people ( PersonID, PersonName ) VALUES ( 0, \"Zoe\" );"));
+  bench.Prepare(
+      QStringLiteral("INSERT INTO weight_loss ( PersonID, ThisDate, ThisWeight, ThisLoss ) VALUES ( 0, "
+                     "#1/1/2026#, 180, 0 );"));
+  EXPECT_EQ(bench.application.Main(), Outcome::Running);
+  const auto value = [this](const char *field, const char *table, const char *where) {
+    return GetDataValue(bench.session.Data(), QLatin1String(field), QLatin1String(table), QLatin1String(where));
+  };
+  EXPECT_EQ(value("PersonName", "people", "PersonID=5"), QStringLiteral("Zoe"));
+  EXPECT_EQ(value("ThisWeight", "weight_loss", "PersonID=5"), QStringLiteral("180"));
+  EXPECT_EQ(value("PersonID", "people", "PersonID=0"), QString());
+  EXPECT_EQ(bench.session.profile.CurrentPersonID, QStringLiteral("4"));
 }
 
 TEST_F(Start, AFailureBehindTheFrameLeavesItStanding) {

@@ -244,6 +244,93 @@ TEST_F(StoreFileTest, AFileThatBecomesUnwritableLosesNothingAndWorksAgainLater) 
   EXPECT_EQ(Rows(QStringLiteral("SELECT Goal FROM people")), QStringLiteral("9 / 9"));
 }
 
+TEST_F(StoreFileTest, AFileTakenAwayWhileItIsOpenIsWrittenToNoMore) {
+  const QString away = Beside("away.dat");
+  const QString copy = Beside("copy.dat");
+  data->CopyTo(copy);
+  const auto takeAway = [&] { ASSERT_TRUE(QFile::rename(path, away)); };
+  const auto putBack = [&] {
+    QFile::remove(path);
+    ASSERT_TRUE(QFile::rename(away, path));
+  };
+  const std::pair<const char *, std::function<void()>> fates[] = {
+      {"removed", [] {}},
+      {"replaced", [&] { ASSERT_TRUE(QFile::copy(copy, path)); }},
+  };
+  for (const auto &[fate, happens] : fates) {
+    takeAway();
+    happens();
+    EXPECT_EQ(ErrorOf(QStringLiteral("UPDATE people SET Goal = \"1\"")), error_number::fileMoved) << fate;
+    EXPECT_TRUE(description.contains(QStringLiteral("put the file back"))) << description.toStdString();
+    try {
+      Transaction transaction(*data);
+      ADD_FAILURE() << fate;
+    } catch (const Error &error) {
+      EXPECT_EQ(error.Number(), error_number::fileMoved) << fate;
+    }
+    EXPECT_EQ(Rows(QStringLiteral("SELECT Goal FROM people")), QStringLiteral("120 / 180.5")) << "still to be read";
+    putBack();
+  }
+  EXPECT_EQ(ErrorOf(QStringLiteral("UPDATE people SET Goal = \"1\"")), 0) << "back in its place it is ours again";
+
+  takeAway();
+  ASSERT_TRUE(QFile::copy(copy, path));
+  const QByteArray newcomer = Bytes(path);
+  const QString journal = path + QStringLiteral("-journal");
+  QFile::remove(journal);
+  Write(journal, "another program's");
+  data.reset();
+  EXPECT_EQ(Bytes(path), newcomer);
+  EXPECT_EQ(Bytes(journal), "another program's") << "what stands beside another file is not ours to remove";
+}
+
+TEST_F(StoreFileTest, WhatCouldOnlyFailAtTheFirstWriteIsToldWhenItIsOpened) {
+  data.reset();
+  const QString journal = path + QStringLiteral("-journal");
+  const QByteArray good = Bytes(path);
+  const std::pair<const char *, std::function<void()>> obstacles[] = {
+      {"a header that allows no writing",
+       [&] {
+         QByteArray bytes = good;
+         bytes[18] = 3;
+         Write(path, bytes);
+       }},
+      {"a journal that may not be written",
+       [&] {
+         Write(journal, "x");
+         QFile::setPermissions(journal, QFile::ReadOwner | QFile::ReadUser);
+       }},
+      {"a folder in the journal's place", [&] { QDir().mkdir(journal); }},
+  };
+  for (const auto &[what, obstacle] : obstacles) {
+    obstacle();
+    EXPECT_EQ(OpenError(path), error_number::readOnly) << what << ": " << description.toStdString();
+    QDir().rmdir(journal);
+    QFile::remove(journal);
+    Write(path, good);
+  }
+  EXPECT_EQ(OpenError(path), 0) << description.toStdString();
+}
+
+TEST_F(StoreFileTest, FileJournalAndCopyAreTheOwnersAlone) {
+  const auto others = [](const QString &file) {
+    return QFile::permissions(file) & (QFile::ReadGroup | QFile::WriteGroup | QFile::ReadOther | QFile::WriteOther);
+  };
+  const QString made = Beside("made.dat");
+  const auto fresh = Database::Create(made);
+  fresh->Execute(QStringLiteral("CREATE TABLE t (a LONG)"));
+  const QString copy = Beside("copy.dat");
+  data->CopyTo(copy);
+  data.reset();
+  QFile::setPermissions(path, QFile::ReadOwner | QFile::WriteOwner | QFile::ReadGroup | QFile::ReadOther);
+  data = Database::Open(path);
+  data->Execute(QStringLiteral("UPDATE people SET Goal = \"1\""));
+  for (const QString &file : {made, made + QStringLiteral("-journal"), copy, path, path + QStringLiteral("-journal")}) {
+    EXPECT_TRUE(QFile::exists(file)) << file.toStdString();
+    EXPECT_EQ(others(file), QFile::Permissions()) << file.toStdString();
+  }
+}
+
 TEST_F(StoreFileTest, LookingAtAFileThatIsHeldLetsNothingGo) {
   const QString other = Beside("other.dat");
   const auto side = Database::Create(other);

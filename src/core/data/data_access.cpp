@@ -61,7 +61,8 @@ QString NextByRule(Database &database, const KeyRule &rule, QLatin1StringView fi
   Params params;
   if (filter.contains(u'?')) params.append(personID.toInt());
   const QString next = GetDataValue(database, rule.expression, rule.table, filter, keyAlias, params);
-  return next.isEmpty() ? QStringLiteral("1") : next;
+  // The keys of the samples, below 0, lead to no key of a row that a person makes.
+  return next.toInt() < 1 ? QStringLiteral("1") : next;
 }
 
 }  // namespace

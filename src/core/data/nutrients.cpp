@@ -80,7 +80,7 @@ void FillSelectedNutrientsArray(Nutrients &nutrients, Database &database) {
     entry.NutTotal = selection.Field(QStringLiteral("NutTotal%1").arg(position)).toBool();
     // 0 has a row of its own in the vocabulary, "None", which no position shows.
     if (entry.NutrientID == 0) continue;
-    vocabulary.FindFirst(QStringLiteral("NutrientID=%1").arg(entry.NutrientID));
+    vocabulary.FindFirst(QStringLiteral("NutrientID=?"), {entry.NutrientID});
     if (!vocabulary.NoMatch()) entry.descriptionPlusUnit = vocabulary.Text(QStringLiteral("NutDescPlusUoM"));
   }
   nutrients.SelectedNutrients = selected;
@@ -91,7 +91,7 @@ void FillNutrientTargets(Nutrients &nutrients, Database &database, int targetID)
   if (targetID == 0) return;
   Recordset rows = database.OpenRecordset(QStringLiteral("SELECT nutrition_targets.* FROM nutrition_targets;"));
   if (rows.Eof()) return;
-  rows.FindFirst(QStringLiteral("TargetID=%1").arg(targetID));
+  rows.FindFirst(QStringLiteral("TargetID=?"), {targetID});
   if (rows.NoMatch()) rows.MoveFirst();
   for (int i = 0; i < nutrientCount; ++i) {
     const QString column = nutrients.NutrientDefs[i].fieldName;

@@ -4,6 +4,8 @@
 #include <QFile>
 #include <QRegularExpression>
 
+#include "platform/machine/private_file.h"
+
 namespace trimlog {
 
 namespace {
@@ -17,6 +19,8 @@ QString OnOneLine(QString text) {
 }  // namespace
 
 void AppendLogLine(const Session &session, const QString &path, const QString &message) {
+  CreatePrivate(path);
+  MakePrivate(path);
   QFile file(path);
   if (!file.open(QIODevice::WriteOnly | QIODevice::Append | QIODevice::Text)) return;
   const QString when = session.clock.Now().toString(QStringLiteral("yyyy-MM-dd HH:mm:ss"));

@@ -6,6 +6,17 @@
 
 namespace trimlog {
 
+namespace {
+
+/// Who must act for the next save to succeed is told how, whatever the box.
+QString BoxText(const FailureExit &exit, const Failure &failure) {
+  if (exit.appendDescription) return exit.text + failure.description;
+  return failure.number == error_number::fileMoved ? exit.text + QStringLiteral("\n\n") + failure.description
+                                                   : exit.text;
+}
+
+}  // namespace
+
 std::optional<Failure> FailureOf(const std::function<void()> &work) {
   try {
     work();
@@ -23,9 +34,7 @@ bool Guarded(Session &session, const FailureExit &exit, const std::function<void
   // Logged before the box: a box left standing must not lose the line.
   LogError(session, exit.module, exit.procedure,
            exit.logMessage ? exit.logMessage(failure->description) : failure->description);
-  if (!exit.text.isEmpty()) {
-    session.boxes.Critical(exit.title, exit.appendDescription ? exit.text + failure->description : exit.text);
-  }
+  if (!exit.text.isEmpty()) session.boxes.Critical(exit.title, BoxText(exit, *failure));
   return false;
 }
 

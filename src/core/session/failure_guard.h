@@ -10,7 +10,7 @@
 namespace trimlog {
 
 /// The one failure exit of a business procedure: who it is, and the box that a failure shows. An empty text shows no
-/// box.
+/// box. A data file that was moved away is told in every box, with what to do about it.
 struct FailureExit {
   QString module;
   QString procedure;

@@ -2,6 +2,7 @@
 
 #include <QDir>
 
+#include "core/session/error_log.h"
 #include "platform/error.h"
 
 namespace trimlog {
@@ -12,9 +13,14 @@ Session::Session(const SessionPlaces &places)
       clock(places.clock),
       machine(places.machine),
       boxes(places.boxes),
-      locale(places.locale) {}
+      locale(places.locale) {
+  store.writeFailed = [this](const QString &place) {
+    LogError(*this, QStringLiteral("basRegistry"), QStringLiteral("SaveSettingString"),
+             QStringLiteral("The settings could not be written: ") + place);
+  };
+}
 
-Session::~Session() = default;
+Session::~Session() { store.writeFailed = nullptr; }
 
 Database &Session::Data() const {
   if (!database) throw Error(error_number::cannotOpen, QStringLiteral("The data file is not open."));

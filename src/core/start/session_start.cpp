@@ -3,6 +3,7 @@
 #include "core/data/data_access.h"
 #include "core/profiles/colour_scheme.h"
 #include "core/profiles/profiles.h"
+#include "core/session/change.h"
 #include "core/session/failure_guard.h"
 #include "core/session/system_services.h"
 #include "platform/store/recordset.h"
@@ -49,6 +50,21 @@ void LoadUnitLabel(Session &session) {
 
 void LoadDecimalComma(Session &session) {
   session.DecimalComma = GetLocaleValue(session.locale, localeDecimalSign) == QLatin1String(",");
+}
+
+void NumberStrayProfile(Session &session) {
+  const FailureExit exit{QStringLiteral("basMain"), QStringLiteral("NumberStrayProfile"), {}, {}};
+  Guarded(session, exit, [&session] {
+    const auto strays = session.Data().OpenRecordset(
+        QStringLiteral("SELECT people.PersonID FROM people WHERE (people.PersonID=0);"), {}, RecordsetKind::Forward);
+    if (strays.Eof()) return;
+    Change change(session);
+    const int personID = GetNextID(session.Data(), QStringLiteral("people")).toInt();
+    session.Data().Execute(QStringLiteral("UPDATE people SET people.PersonID = ? WHERE (people.PersonID=0);"),
+                           {personID});
+    change.Announce({.table = Table::People, .keys = {0, personID}});
+    change.Commit();
+  });
 }
 
 void ChooseProfile(Session &session) {

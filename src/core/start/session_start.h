@@ -10,6 +10,9 @@ namespace trimlog {
 void LoadUnitLabel(Session &session);
 /// The locale's decimal sign is a comma: the keypad's decimal key types one.
 void LoadDecimalComma(Session &session);
+/// A profile with the number 0, which no list shows and nothing can delete, gets the next free number and appears. A
+/// failure is logged and stops nothing.
+void NumberStrayProfile(Session &session);
 /// The saved profile when it still exists, else the lowest PersonID above 0, else "1"; with its colour scheme and its
 /// target set. Samples are never chosen.
 void ChooseProfile(Session &session);

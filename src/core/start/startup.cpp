@@ -45,6 +45,7 @@ Application::Outcome Application::Main() {
   if (failure) {
     LogError(session_, module, procedure,
              QStringLiteral("Error %1 in basMain.Main: %2").arg(failure->number).arg(failure->description));
+    if (!frameShown) TellWhyTheStartEnds(*failure);
   }
   return frameShown ? Outcome::Running : Outcome::Ended;
 }
@@ -54,12 +55,16 @@ bool Application::OpenDataFile() {
   const std::optional<Failure> failure =
       FailureOf([this] { session_.database = Database::Open(session_.DataFilePath()); });
   if (!failure) return true;
-  Run(doors_.CloseSplash);
-  ShowOpenFailure(session_, *failure);
+  TellWhyTheStartEnds(*failure);
   LogError(
       session_, module, procedure,
       QStringLiteral("Error opening database.  ErrNum=%1 ErrDesc=%2").arg(failure->number).arg(failure->description));
   return false;
+}
+
+void Application::TellWhyTheStartEnds(const Failure &failure) {
+  Run(doors_.CloseSplash);
+  ShowOpenFailure(session_, failure);
 }
 
 void Application::EnterSession(bool &frameShown) {
@@ -69,6 +74,7 @@ void Application::EnterSession(bool &frameShown) {
   CreateAdminProfile(session_);
   if (session_.edition.SeravaEdition) Run(hooks_.MakeDatabaseChangesSerava);
   LoadDecimalComma(session_);
+  NumberStrayProfile(session_);
   ChooseProfile(session_);
   RecreateDateTable(session_);
   LoadNutrients(session_);
@@ -98,7 +104,7 @@ bool Application::QueryUnload(EndedBy endedBy) {
   Run(hooks_.CloseToolsWindow);
   if (session_.ReloadInProgress) return true;
   if (!LeaveOpenEdit(endedBy)) return false;
-  GuardedQuietly([this] { StoreSession(); });
+  Guarded(session_, {module, QStringLiteral("QueryUnload"), {}, {}}, [this] { StoreSession(); });
   ResetSamples();
   if (session_.edition.BizEd) ResetSamples();
   if (session_.edition.HandheldSupport && hooks_.RunHandheldSync) {

@@ -6,6 +6,7 @@
 #include <memory>
 
 #include "core/frame/edit_outcome.h"
+#include "core/session/failure_guard.h"
 #include "core/session/room_hooks.h"
 #include "core/session/session.h"
 #include "platform/machine/operating_system.h"
@@ -48,6 +49,7 @@ class Application {
 
  private:
   bool OpenDataFile();
+  void TellWhyTheStartEnds(const Failure &failure);
   void EnterSession(bool &frameShown);
   bool LeaveOpenEdit(EndedBy endedBy);
   void StoreSession();

@@ -1,13 +1,11 @@
 #include "platform/machine/settings_store.h"
 
-#include <QFile>
 #include <QFileInfo>
 #include <QSettings>
 #include <QStandardPaths>
-#ifdef Q_OS_UNIX
-#include <fcntl.h>
-#include <unistd.h>
-#endif
+
+#include "platform/machine/private_file.h"
+#include "platform/machine/safe_file.h"
 
 namespace trimlog {
 
@@ -15,21 +13,11 @@ namespace {
 
 QString UpToNul(const QString &text) { return text.section(QChar(0), 0, 0); }
 
-/// A renamed file is safe from a power cut once its folder is on the disk too.
-void FlushFolder([[maybe_unused]] const QString &folder) {
-#ifdef Q_OS_UNIX
-  const int descriptor = open(QFile::encodeName(folder).constData(), O_RDONLY | O_CLOEXEC);
-  if (descriptor < 0) return;
-  fsync(descriptor);
-  close(descriptor);
-#endif
-}
-
 /// One group per key path in an INI file: "[Software%5CCorvane%20Software%5C...]". QSettings writes through a temporary
 /// file that it flushes to the disk and renames, so that a crash leaves the old values or the new ones.
 class IniStore final : public SettingsStore {
  public:
-  explicit IniStore(const QString &path) : ini_(path, QSettings::IniFormat) {}
+  explicit IniStore(const QString &path) : ini_(path, QSettings::IniFormat) { MakePrivate(path); }
 
   QString GetSettingString(const QString &key, const QString &valueName, const QString &fallback) const override {
     const QVariant value = ini_.value(PathOf(key, valueName));
@@ -79,6 +67,7 @@ class IniStore final : public SettingsStore {
       FlushFolder(QFileInfo(ini_.fileName()).absolutePath());
     }
     changed_ = ini_.status() != QSettings::NoError;
+    if (changed_ && writeFailed) writeFailed(ini_.fileName());
     return !changed_;
   }
 
@@ -116,9 +105,11 @@ class RegistryStore final : public SettingsStore {
 
  private:
   static QString PathOf(const QString &key) { return QStringLiteral("HKEY_CURRENT_USER\\") + key; }
-  static bool Written(QSettings &registry) {
+  bool Written(QSettings &registry) const {
     registry.sync();
-    return registry.status() == QSettings::NoError;
+    if (registry.status() == QSettings::NoError) return true;
+    if (writeFailed) writeFailed(registry.fileName());
+    return false;
   }
 };
 #endif

@@ -1,6 +1,7 @@
 #pragma once
 
 #include <QString>
+#include <functional>
 #include <memory>
 
 namespace trimlog {
@@ -11,6 +12,9 @@ namespace trimlog {
 class SettingsStore {
  public:
   virtual ~SettingsStore() = default;
+  /// Told of every write that failed, with the place that could not be written.
+  std::function<void(const QString &place)> writeFailed = {};
+
   /// The value up to its first NUL, or `fallback` when key or value is missing or not text.
   virtual QString GetSettingString(const QString &key, const QString &valueName,
                                    const QString &fallback = {}) const = 0;

@@ -351,7 +351,9 @@ void RegisterSqlFunctions(sqlite3 *connection, FunctionFailure &failure) {
     Register(connection, conversions[i], -1, {&failure, nullptr, static_cast<ColumnType>(i)}, CallConversion);
   }
   // Under the built-in's name, so that the file's own declarations stay readable by every SQLite tool.
-  sqlite3_create_collation(connection, "NOCASE", SQLITE_UTF8, nullptr, CompareWithoutCase);
+  if (sqlite3_create_collation(connection, "NOCASE", SQLITE_UTF8, nullptr, CompareWithoutCase) != SQLITE_OK) {
+    throw Error(error_number::other, QString::fromUtf8(sqlite3_errmsg(connection)));
+  }
 }
 
 const char *ConversionFunction(ColumnType type) { return conversions[static_cast<size_t>(type)]; }

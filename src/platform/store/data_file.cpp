@@ -49,6 +49,15 @@ bool ReadHeader(sqlite3 *connection, Header &header) {
          file->pMethods->xRead(file, header.data(), headerSize, 0) == SQLITE_OK;
 }
 
+[[noreturn]] void ReadOnly(const QString &what) {
+  throw Error(error_number::readOnly, QStringLiteral("%1 is read-only, so nothing could be saved.").arg(what));
+}
+
+bool HasMoved(sqlite3 *connection) {
+  int moved = 0;
+  return sqlite3_file_control(connection, "main", SQLITE_FCNTL_HAS_MOVED, &moved) == SQLITE_OK && moved != 0;
+}
+
 // A file marked read-only stays as it is even for an account that could write it all the same.
 bool MayWrite(const QFileInfo &info) {
   constexpr QFile::Permissions any = QFile::WriteOwner | QFile::WriteGroup | QFile::WriteOther;
@@ -89,14 +98,27 @@ void CheckHeader(sqlite3 *connection, const QString &path) {
 
 void CheckWritable(const QString &path) {
   const QFileInfo info(path);
-  if (!MayWrite(info)) {
-    throw Error(error_number::readOnly,
-                QStringLiteral("'%1' is read-only, so nothing could be saved in it.").arg(path));
+  if (!MayWrite(info)) ReadOnly(QStringLiteral("'%1'").arg(path));
+  if (!MayWrite(QFileInfo(info.absolutePath()))) ReadOnly(QStringLiteral("The folder of '%1'").arg(path));
+  const QFileInfo journal(path + QStringLiteral("-journal"));
+  if (journal.exists() && !(journal.isFile() && MayWrite(journal))) {
+    ReadOnly(QStringLiteral("'%1', which every change needs,").arg(journal.filePath()));
   }
-  if (!MayWrite(QFileInfo(info.absolutePath()))) {
-    throw Error(error_number::readOnly,
-                QStringLiteral("The folder of '%1' is read-only, so nothing could be saved in it.").arg(path));
-  }
+}
+
+void CheckWritable(sqlite3 *connection, const QString &path) {
+  if (sqlite3_db_readonly(connection, "main") != 0) ReadOnly(QStringLiteral("'%1'").arg(path));
+}
+
+void CheckInPlace(sqlite3 *connection, const QString &path) {
+  if (!HasMoved(connection)) return;
+  throw Error(error_number::fileMoved,
+              QStringLiteral("The data file '%1' was removed or replaced while the program was running, as programs do "
+                             "that synchronize or tidy up files.  Nothing can be saved in it now; what you typed is "
+                             "still on the screen.  Please put the file back in its place and try again.  If another "
+                             "file stands there that is to be used from now on, make a note of what you typed and "
+                             "start the program again.")
+                  .arg(path));
 }
 
 void CheckComplete(sqlite3 *connection, const QString &path) {
@@ -114,7 +136,8 @@ void CheckComplete(sqlite3 *connection, const QString &path) {
 
 void LeaveNothingBehind(sqlite3 *connection) {
   sqlite3_exec(connection, "ROLLBACK", nullptr, nullptr, nullptr);
-  if (sqlite3_db_readonly(connection, "main") != 0) return;
+  // The journal beside another file is not ours to remove.
+  if (sqlite3_db_readonly(connection, "main") != 0 || HasMoved(connection)) return;
   sqlite3_exec(connection, "PRAGMA journal_mode = DELETE", nullptr, nullptr, nullptr);
 }
 

@@ -21,8 +21,13 @@ void CheckDataFile(const QString &path);
 /// The same look at the first bytes through a connection that has not read or locked anything yet.
 void CheckHeader(sqlite3 *connection, const QString &path);
 
-/// Throws readOnly when the file or its folder may not be written to.
+/// Throws readOnly when the file, its journal or its folder may not be written to.
 void CheckWritable(const QString &path);
+/// The same for what only SQLite sees, once it has read from the file.
+void CheckWritable(sqlite3 *connection, const QString &path);
+
+/// Throws fileMoved when another file, or none, stands where the connection's was opened.
+void CheckInPlace(sqlite3 *connection, const QString &path);
 
 /// Throws fileDamaged when the file is shorter than it says it is.
 void CheckComplete(sqlite3 *connection, const QString &path);

@@ -6,6 +6,7 @@
 #include <QFile>
 #include <QFileInfo>
 
+#include "platform/machine/private_file.h"
 #include "platform/store/data_file.h"
 #include "platform/store/database_internals.h"
 #include "platform/store/recordset.h"
@@ -54,10 +55,13 @@ std::unique_ptr<Database> Database::Open(const QString &path) {
   auto impl = Connect(path, SQLite::OPEN_READWRITE);
   CheckHeader(impl->handle, path);
   CheckWritable(path);
+  MakePrivate(path);
+  MakePrivate(path + QStringLiteral("-journal"));
   Prepare(*impl);
   TakeAlone(*impl);
   CheckComplete(impl->handle, path);
   impl->Plain("SELECT 1 FROM sqlite_schema LIMIT 1");
+  CheckWritable(impl->handle, path);
   return std::unique_ptr<Database>(new Database(std::move(impl)));
 }
 
@@ -75,6 +79,7 @@ std::unique_ptr<Database> Database::Create(const QString &path) {
   if (QFileInfo::exists(path)) {
     throw Error(error_number::fileExists, QStringLiteral("'%1' exists already.").arg(path));
   }
+  CreatePrivate(path);  // SQLite gives the journal the same rights
   auto impl = Connect(path, SQLite::OPEN_READWRITE | SQLite::OPEN_CREATE);
   Prepare(*impl);
   const QByteArray mark = QStringLiteral("PRAGMA application_id = %1; PRAGMA user_version = %2")
@@ -177,6 +182,7 @@ StoreCounts Database::Counts() const { return impl_->counts; }
 
 void Database::CopyTo(const QString &path) {
   if (QFileInfo::exists(path)) throw Error(error_number::fileExists, QStringLiteral("'%1' exists already.").arg(path));
+  CreatePrivate(path);
   try {
     SQLite::Database target(path.toStdString(), SQLite::OPEN_READWRITE | SQLite::OPEN_CREATE);
     SQLite::Backup backup(target, impl_->connection);

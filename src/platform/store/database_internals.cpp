@@ -123,6 +123,7 @@ qint64 Database::Impl::Run(PreparedStatement &statement) {
 
 std::optional<qint64> Database::Impl::RunReturning(PreparedStatement &statement) {
   CheckTransaction();
+  if (depth == 0) CheckInPlace(handle, path);  // a change without a transaction is one of its own
   ++counts.statements;
   const qint64 before = sqlite3_total_changes64(handle);
   std::optional<qint64> key;

@@ -3,6 +3,7 @@
 #include <exception>
 #include <utility>
 
+#include "platform/store/data_file.h"
 #include "platform/store/database_internals.h"
 
 namespace trimlog {
@@ -35,6 +36,7 @@ Transaction::Transaction(Database &database)
   Database::Impl &impl = database_.Internals();
   impl.CheckTransaction();
   if (impl.depth == 0) {
+    CheckInPlace(impl.handle, impl.path);
     impl.Plain("BEGIN IMMEDIATE");
     impl.changesAtBegin = sqlite3_total_changes64(impl.handle);
   } else {
