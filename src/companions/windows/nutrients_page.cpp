@@ -7,6 +7,7 @@
 #include "companions/wizard_nutrients.h"
 #include "core/session/failure_guard.h"
 #include "core/windows/setup/setup_controls.h"
+#include "platform/windows/controls/spoken_label.h"
 #include "platform/windows/grid/bound_grid.h"
 
 namespace trimlog {
@@ -67,7 +68,8 @@ NutrientsPage::NutrientsPage(Session &session, QWidget *parent) : WizardPage(par
   lblNote = AddNote(layout, QStringLiteral("lblNote"), {});
   MakeGrid();
   layout->addWidget(grdNutrients, 1);
-  lblNutrientCount = AddNote(layout, QStringLiteral("lblNutrientCount"), {});
+  lblNutrientCount = new SpokenLabel(QStringLiteral("lblNutrientCount"), this);
+  layout->addWidget(lblNutrientCount);
 }
 
 void NutrientsPage::MakeGrid() {
@@ -118,7 +120,7 @@ bool NutrientsPage::Check(const WizardAnswers &) {
 }
 
 void NutrientsPage::UpdateNutrientCount() {
-  GuardedQuietly([this] { lblNutrientCount->setText(WizardCountText(CountWizardNutrients(session_))); });
+  GuardedQuietly([this] { lblNutrientCount->Tell(WizardCountText(CountWizardNutrients(session_))); });
 }
 
 // Enter goes on to the next step, as on every page; while a target is being typed it belongs to its field.

@@ -10,6 +10,7 @@ class QLabel;
 namespace trimlog {
 
 class BoundGrid;
+class SpokenLabel;
 
 /// The nutrients to watch and their targets, proposed by the diet.
 class NutrientsPage : public WizardPage {
@@ -31,7 +32,7 @@ class NutrientsPage : public WizardPage {
   Session &session_;
   QLabel *lblNote = nullptr;
   BoundGrid *grdNutrients = nullptr;
-  QLabel *lblNutrientCount = nullptr;
+  SpokenLabel *lblNutrientCount = nullptr;
   std::optional<WizardAnswers> filledFor_;
 };
 
