@@ -1,5 +1,6 @@
 // Which room's window stands behind which door. A door that is not filled here belongs to a window that does not exist
 // yet: what would open it is shown disabled.
+#include <QApplication>
 #include <QFile>
 
 #include "catalogs/windows/frmSelectedNutrients.h"
@@ -43,7 +44,11 @@ void Program::FillNavigator() {
   navigator_.OpenNutrientSelection = [this](QWidget *owner) {
     trimlog::OpenNutrientSelection(session_, navigator_, owner ? owner : frame_.get());
   };
-  navigator_.StartWiz = [this](bool force) { return StartWiz(session_, navigator_, force, frame_.get()); };
+  navigator_.StartWiz = [this](bool force) {
+    QWidget *above = QApplication::activeModalWidget();  // the options can start it too
+    return StartWiz(session_, navigator_, force, above ? above : frame_.get());
+  };
+  navigator_.CreateProfile = [this](QWidget *owner) { return frame_->CreateProfile(owner); };
   navigator_.AddProfile = [this](QWidget *owner) {
     return AddRec(owner ? owner : frame_.get(),
                   [this](QWidget *parent) { return new AddProfilePage(session_, parent); });

@@ -1,6 +1,7 @@
 #include "companions/wizard_answers.h"
 
-#include "core/profiles/profile_list.h"
+#include "core/profiles/goal.h"
+#include "core/profiles/height.h"
 #include "health/body_formulas.h"
 #include "platform/text/text_format.h"
 #include "weightlog/weight_log.h"
@@ -8,8 +9,6 @@
 namespace trimlog {
 
 namespace {
-
-constexpr double tallest = 3;  // metres
 
 TypedWeight::Check CheckWeight(double weight) { return ReadTypedWeight(PlainText(weight), QLocale::c()).check; }
 
@@ -38,32 +37,24 @@ QString RepairedPersonName(const QString &text) {
   return text.trimmed().isEmpty() ? QStringLiteral("New Profile") : text;
 }
 
-std::optional<WizardComplaint> CheckProfileAnswers(const WizardAnswers &answers, const QDate &today) {
-  const WizardComplaint possible[] = {
-      {WizardField::Height1, QStringLiteral("Invalid Height"), RefusedHeight(answers.height1)},
-      {WizardField::Height2, QStringLiteral("Invalid Height"), RefusedHeight(answers.height2)},
-      {WizardField::BirthDate, QStringLiteral("Invalid Birth Date"), RefusedBirthDate(answers.birthDate, today)},
-  };
-  for (const WizardComplaint &complaint : possible) {
-    if (!complaint.text.isEmpty()) return complaint;
-  }
-  return std::nullopt;
-}
-
-std::optional<WizardComplaint> CheckWeightAnswers(const WizardAnswers &answers) {
+std::optional<WeightComplaint> CheckWeightAnswers(const WizardAnswers &answers) {
   const TypedWeight::Check weight = CheckWeight(answers.startingWeight);
   if (weight != TypedWeight::Check::Fine) {
-    return WizardComplaint{
-        WizardField::StartingWeight, QStringLiteral("Invalid Weight"),
+    return WeightComplaint{
+        WeightStepField::StartingWeight, QStringLiteral("Invalid Weight"),
         QStringLiteral("The weight that you entered is invalid.  Please enter a %1 value for your weight.")
             .arg(weight == TypedWeight::Check::NotPositive ? QStringLiteral("positive") : QStringLiteral("numeric"))};
   }
-  if (CheckWeight(answers.goal) == TypedWeight::Check::NotNumeric) {
-    return WizardComplaint{
-        WizardField::Goal, QStringLiteral("Invalid Goal"),
-        QStringLiteral("The goal that you entered is invalid.  Please enter a numeric value for your goal.")};
-  }
-  return std::nullopt;
+  const QString refused = RefusedGoal(answers.person.Goal.value_or(0));
+  if (refused.isEmpty()) return std::nullopt;
+  return WeightComplaint{WeightStepField::Goal, QStringLiteral("Invalid Goal"), refused};
+}
+
+int ProposedUomID(int UomID, const QLocale &locale) {
+  constexpr int ofNewStores = 1;
+  constexpr int metric = 2;
+  const bool metricCountry = locale.measurementSystem() == QLocale::MetricSystem;
+  return UomID == ofNewStores && metricCountry ? metric : UomID;
 }
 
 const QList<WizardColor> &WizardColors() {
@@ -76,12 +67,13 @@ const QList<WizardColor> &WizardColors() {
 }
 
 QString HealthyWeightText(const WizardAnswers &answers, const QString &uomDisplay) {
-  const double metres = HeightInMetres(answers.height1, answers.height2, answers.UomID);
-  if (metres <= 0 || metres > tallest) {
+  const double feet = answers.person.HeightFeet;
+  const double inches = answers.person.HeightInches;
+  if (!IsHeightOfPerson(feet, inches, answers.UomID)) {
     return QStringLiteral("Please go back and enter your height first.  Your healthy weight range depends on it.");
   }
-  const int low = WeightForBMI(21, answers.height1, answers.height2, answers.UomID);
-  const int high = WeightForBMI(23, answers.height1, answers.height2, answers.UomID);
+  const int low = WeightForBMI(21, feet, inches, answers.UomID);
+  const int high = WeightForBMI(23, feet, inches, answers.UomID);
   return QStringLiteral(
              "According to the BMI chart, a healthy weight range for someone with your height should be between ") +
          QString::number(low) + QStringLiteral(" and ") + QString::number(high) + QStringLiteral(" ") + uomDisplay +

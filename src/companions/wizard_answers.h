@@ -6,22 +6,18 @@
 #include <QString>
 #include <optional>
 
+#include "core/profiles/person.h"
+
 namespace trimlog {
 
 /// What a person has answered so far. Numbers are in the unit system chosen; going back and forth keeps them.
 struct WizardAnswers {
-  QString PersonName;
+  Person person;
   int UomID = 1;
-  double height1 = 0;  ///< feet or metres
-  double height2 = 0;  ///< inches or centimetres
-  QDate birthDate;
-  bool genderMale = false;
   double startingWeight = 0;
   QDate startingDate;
-  double goal = 0;
   QString diet = QStringLiteral("100");  ///< key of a diet plan
   int nutrientID = 1;                    ///< the most important nutrient, for the customized plan
-  quint32 backColor = 16769216;          ///< blue-green-red byte order
 };
 
 // What a field shows after it was left: mended without a message, so that every step can be passed.
@@ -36,17 +32,19 @@ QString RepairedBirthDate(const QString &text, const QDate &today, const QLocale
 QString RepairedStartingDate(const QString &text, const QDate &today, const QLocale &locale);
 QString RepairedPersonName(const QString &text);
 
-/// Why a step's answers cannot be kept, and which field to go back to.
-enum class WizardField { Height1, Height2, BirthDate, StartingWeight, Goal };
-struct WizardComplaint {
-  WizardField field;
+/// Why the weight step cannot be left: the weight has to be one that the calendar takes, and the goal no larger than
+/// that. A goal of 0 is no complaint: ConfirmGoal asks.
+enum class WeightStepField { StartingWeight, Goal };
+struct WeightComplaint {
+  WeightStepField field = WeightStepField::StartingWeight;
   QString title;
   QString text;
 };
-/// Heights beyond any person's and birth dates in the future or the distant past. A height of 0 means "not told".
-std::optional<WizardComplaint> CheckProfileAnswers(const WizardAnswers &answers, const QDate &today);
-/// The weight has to be one that the calendar takes, and the goal no larger than that. A goal of 0 is no complaint.
-std::optional<WizardComplaint> CheckWeightAnswers(const WizardAnswers &answers);
+std::optional<WeightComplaint> CheckWeightAnswers(const WizardAnswers &answers);
+
+/// The unit system that the wizard proposes on its first run: the one set or, where that is the one every new store
+/// begins with, the one of the person's country.
+int ProposedUomID(int UomID, const QLocale &locale);
 
 /// A colour scheme that the wizard offers; `option` numbers its option button.
 struct WizardColor {

@@ -3,7 +3,10 @@
 #include "catalogs/nutrient_selection.h"
 #include "companions/wizard_nutrients.h"
 #include "core/data/data_access.h"
+#include "core/profiles/colour_scheme.h"
+#include "core/profiles/profiles.h"
 #include "core/session/change.h"
+#include "health/weight_ends.h"
 #include "platform/store/recordset.h"
 #include "platform/text/text_format.h"
 
@@ -14,29 +17,13 @@ namespace {
 constexpr int userTargetType = 4;  // beside 1 labels, 2 recommended allowances, 3 example diets
 constexpr int lastNumberedTargetSet = 10;
 
-QString NewPersonID(Session &session, bool addingProfile) {
-  const QString next = GetNextID(session.Data(), QStringLiteral("people"));
-  // With nobody but the samples the next key is below 1: the first profile takes the key the session started with.
-  return addingProfile || next.toInt() >= 1 ? next : QStringLiteral("1");
-}
-
-void InsertPerson(Session &session, const WizardAnswers &answers, const QString &personID, const QString &targetID) {
-  session.Data().Execute(
-      QStringLiteral(
-          "INSERT INTO people ( PersonID, PersonName, Goal, HeightFeet, "
-          "HeightInches, BackColor, GenderID, BirthDate, NutTargetID ) "
-          "SELECT ? AS Expr1, ? AS Expr2, ? AS Expr3, ? AS Expr4, ? AS Expr5, ? AS Expr6, ? AS Expr7, ? AS Expr8, "
-          "? AS Expr9;"),
-      {personID.toInt(), WithoutDoubleQuotes(answers.PersonName), PlainText(answers.goal), answers.height1,
-       answers.height2, static_cast<int>(answers.backColor), answers.genderMale ? 1 : 2, answers.birthDate,
-       targetID.toInt()});
-}
-
 void InsertFirstWeight(Session &session, const WizardAnswers &answers, const QString &personID) {
-  session.Data().Execute(
-      QStringLiteral("INSERT INTO weight_loss ( PersonID, ThisDate, ThisWeight, ThisLoss ) SELECT ") + personID +
-      QStringLiteral(" AS Expr1, ") + SQLDate(answers.startingDate) + QStringLiteral(" AS Expr2, ") +
-      PlainText(answers.startingWeight) + QStringLiteral(" AS Expr3, 0 As Expr4; "));
+  Change change(session);
+  session.Data().Execute(QStringLiteral("INSERT INTO weight_loss ( PersonID, ThisDate, ThisWeight, ThisLoss ) "
+                                        "SELECT ? AS Expr1, ? AS Expr2, ? AS Expr3, 0 As Expr4; "),
+                         {personID.toInt(), answers.startingDate, answers.startingWeight});
+  change.Announce({.table = Table::WeightLoss, .personID = personID, .date = answers.startingDate});
+  change.Commit();
 }
 
 /// The ticked nutrients in their order.
@@ -69,10 +56,11 @@ QString TargetSetName(Session &session, int targetID) {
   return sets == 0 || targetID > lastNumberedTargetSet ? name : name + QStringLiteral(" %1").arg(sets + 1);
 }
 
-void InsertTargets(Session &session, const QString &targetID, const QList<TickedNutrient> &ticked) {
+void InsertTargets(Session &session, int targetID, const QList<TickedNutrient> &ticked) {
+  Change change(session);
   QString columns = QStringLiteral("INSERT INTO nutrition_targets ( TargetID, TargetDesc, TargetType");
   QString values = QStringLiteral(" ) SELECT ? AS TargetID1, ? AS TargetDesc1, ? AS TargetType1");
-  Params params = {targetID.toInt(), TargetSetName(session, targetID.toInt()), userTargetType};
+  Params params = {targetID, TargetSetName(session, targetID), userTargetType};
   for (const TickedNutrient &nutrient : ticked) {
     const std::optional<double> target = ParseNumber(nutrient.target, session.locale);
     if (!target) continue;
@@ -81,6 +69,8 @@ void InsertTargets(Session &session, const QString &targetID, const QList<Ticked
     params.append(*target);
   }
   session.Data().Execute(columns + values + QStringLiteral(";"), params);
+  change.Announce({.table = Table::NutritionTargets, .keys = {targetID}});
+  change.Commit();
 }
 
 NutrientSelection SelectionOf(const QList<TickedNutrient> &ticked) {
@@ -94,41 +84,74 @@ NutrientSelection SelectionOf(const QList<TickedNutrient> &ticked) {
   return selection;
 }
 
-}  // namespace
+QString CompleteProfile(Session &session, const WizardAnswers &answers) {
+  const QString personID = session.profile.CurrentPersonID;
+  UpdatePerson(session, personID, answers.person);
+  if (!ReadWeightEnds(session)) InsertFirstWeight(session, answers, personID);
+  return personID;
+}
 
-QString FinishWizard(Session &session, const WizardAnswers &answers, bool addingProfile) {
-  Change change(session);
-  const QString personID = NewPersonID(session, addingProfile);
-  const QString targetID = GetNextID(session.Data(), QStringLiteral("nutrition_targets"));
-  InsertPerson(session, answers, personID, targetID);
+QString MakeProfile(Session &session, const WizardAnswers &answers, bool withTargets) {
+  const QString personID = NextPersonID(session);
+  Person person = answers.person;
+  person.NutTargetID = GetNextID(session.Data(), QStringLiteral("nutrition_targets")).toInt();
+  InsertPerson(session, personID, person);
   InsertFirstWeight(session, answers, personID);
-  if (!addingProfile) {
+  if (withTargets) {
     const QList<TickedNutrient> ticked = ReadTicked(session);
-    InsertTargets(session, targetID, ticked);
-    change.Announce({.table = Table::NutritionTargets, .keys = {targetID.toInt()}});
+    InsertTargets(session, person.NutTargetID, ticked);
     SaveNutrientSelection(session, SelectionOf(ticked));
   }
-  if (!addingProfile && answers.diet == DietPlans().last().key) {
+  return personID;
+}
+
+}  // namespace
+
+bool NeedsWizard(Session &session) {
+  const QString goal = GetDataValue(session.Data(), QStringLiteral("Goal"), QStringLiteral("people"),
+                                    QStringLiteral("PersonID=?"), {}, {session.profile.CurrentPersonID.toInt()});
+  return goal.isEmpty() || !ReadWeightEnds(session);
+}
+
+WizardMode WizardModeNow(Session &session) {
+  if (HasNoProfiles(session)) return WizardMode::FirstRun;
+  const bool ordinary =
+      session.profile.CurrentPersonID.toInt() > 0 && ProfileExists(session, session.profile.CurrentPersonID);
+  return ordinary && NeedsWizard(session) ? WizardMode::CompletingProfile : WizardMode::AddingProfile;
+}
+
+WizardStart StartingAnswers(Session &session, WizardMode mode) {
+  WizardStart start;
+  start.answers.UomID = session.settings.UomID;
+  start.answers.startingDate = session.Today();
+  start.answers.person.BackColor = DefaultBackColor(session);
+  if (mode == WizardMode::FirstRun) {
+    start.answers.person.PersonName = session.machine.AccountName();
+    start.answers.UomID = ProposedUomID(session.settings.UomID, session.locale);
+  }
+  if (mode != WizardMode::CompletingProfile) return start;
+  if (const auto person = ReadPerson(session, session.profile.CurrentPersonID)) start.answers.person = *person;
+  if (const std::optional<WeightEnds> ends = ReadWeightEnds(session)) {
+    start.hasWeights = true;
+    start.answers.startingDate = ends->first.ThisDate;
+    start.answers.startingWeight = ends->first.ThisWeight;
+  }
+  return start;
+}
+
+QString FinishWizard(Session &session, const WizardAnswers &answers, WizardMode mode) {
+  Change change(session);
+  const QString personID = mode == WizardMode::CompletingProfile
+                               ? CompleteProfile(session, answers)
+                               : MakeProfile(session, answers, mode == WizardMode::FirstRun);
+  if (mode == WizardMode::FirstRun && answers.diet == DietPlans().last().key) {
     change.Afterwards([&session, nutrientID = answers.nutrientID] {
       session.settings.NutrientID = nutrientID;
       SaveSetting(session.settings, session.store, QStringLiteral("NutrientID"));
     });
   }
-  change.Announce({.table = Table::People, .keys = {personID.toInt()}});
-  change.Announce({.table = Table::WeightLoss, .personID = personID, .date = answers.startingDate});
   change.Commit();
   return personID;
 }
-
-bool NeedsWizard(Session &session) {
-  const QString goal = GetDataValue(session.Data(), QStringLiteral("Goal"), QStringLiteral("people"),
-                                    QStringLiteral("PersonID=?"), {}, {session.profile.CurrentPersonID.toInt()});
-  const QString firstWeight = GetDataValue(session.Data(), QStringLiteral("Min(ThisDate) AS FirstDate"),
-                                           QStringLiteral("weight_loss"), QStringLiteral("PersonID=?"),
-                                           QStringLiteral("FirstDate"), {session.profile.CurrentPersonID.toInt()});
-  return goal.isEmpty() || firstWeight.isEmpty();
-}
-
-QString ProposedPersonName(const Session &session) { return session.machine.AccountName(); }
 
 }  // namespace trimlog

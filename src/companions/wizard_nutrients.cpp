@@ -1,9 +1,12 @@
 #include "companions/wizard_nutrients.h"
 
+#include <cmath>
+#include <limits>
 #include <map>
 
 #include "catalogs/nutrient_selection.h"
 #include "core/data/data_access.h"
+#include "core/data/schema.h"
 #include "health/body_formulas.h"
 #include "platform/store/recordset.h"
 #include "platform/text/rounding.h"
@@ -13,6 +16,7 @@ namespace trimlog {
 
 namespace {
 
+constexpr double mostTellable = 9999999;  // the rest can hold more than anybody means
 const QString atkins = QStringLiteral("101");
 const QString zone = QStringLiteral("102");
 const QString lowCarb = QStringLiteral("103");
@@ -40,10 +44,21 @@ const std::map<QString, std::map<int, QString>> &OwnTargets() {
   return targets;
 }
 
+/// What the nutrient's column of a target set can hold.
+double LargestTarget(const QString &fieldName) {
+  for (const SchemaColumn &column : FindSchemaTable(QStringLiteral("nutrition_targets")).columns) {
+    if (column.name != fieldName) continue;
+    if (column.type == ColumnType::Byte) return std::numeric_limits<quint8>::max();
+    if (column.type == ColumnType::Integer) return std::numeric_limits<qint16>::max();
+  }
+  return mostTellable;
+}
+
 QString RecommendedTarget(Session &session, const WizardAnswers &answers, int nutrientID, const QString &fieldName) {
-  const QString value = GetDataValue(
-      session.Data(), fieldName, QStringLiteral("nutrition_targets"),
-      QStringLiteral("TargetID=") + GetRDATargetID(answers.birthDate, answers.genderMale, session.Today()));
+  const QString value =
+      GetDataValue(session.Data(), fieldName, QStringLiteral("nutrition_targets"),
+                   QStringLiteral("TargetID=") +
+                       GetRDATargetID(answers.person.BirthDate, answers.person.GenderID == 1, session.Today()));
   if (value.isEmpty()) return noTarget;
   const bool keepsDecimals = answers.diet != vitamins || nutrientID == 13 || nutrientID == 14;
   const double number = Val(value);
@@ -143,6 +158,14 @@ QString RefusedTarget(const QString &typed, const QLocale &locale) {
   if (!IsTold(typed)) return {};
   const std::optional<double> number = ParseNumber(typed, locale);
   return number && *number >= 0 ? QString() : QStringLiteral("Please type a number, or leave the field blank.");
+}
+
+QString RefusedTargetOf(const Session &session, int nutrientID, const QString &typed) {
+  const std::optional<double> number = ParseNumber(typed, session.locale);
+  if (!number) return {};
+  const double largest = LargestTarget(Definition(session.nutrients, nutrientID).fieldName);
+  if (std::round(*number) <= largest) return {};
+  return QStringLiteral("Please type a number from 0 to %1.").arg(largest, 0, 'f', 0);
 }
 
 void MatchTickAndTarget(GridRowEdit &row) {

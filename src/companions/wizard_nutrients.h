@@ -34,6 +34,8 @@ inline const QString noTarget = QStringLiteral("None");
 inline const QString targetPrompt = QStringLiteral("(type a value)");
 /// Why a typed target is refused, or "". A number that is not negative, or none, is fine.
 QString RefusedTarget(const QString &typed, const QLocale &locale);
+/// The same for a number that the nutrient's place in a target set cannot hold.
+QString RefusedTargetOf(const Session &session, int nutrientID, const QString &typed);
 /// Before a changed row of the list is stored: a nutrient that is ticked without a target asks for one, and one that is
 /// given a target is ticked.
 void MatchTickAndTarget(GridRowEdit &row);

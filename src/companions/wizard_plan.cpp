@@ -4,8 +4,8 @@
 
 namespace trimlog {
 
-WizardPlan::WizardPlan(bool addingProfile, bool manyColors) : addingProfile_(addingProfile) {
-  if (addingProfile) {
+WizardPlan::WizardPlan(WizardMode mode, bool manyColors) : mode_(mode) {
+  if (!IsFirstRun()) {
     steps_ = {WizardStep::Profile, WizardStep::WeightAndDiet};
     return;
   }
@@ -30,8 +30,8 @@ QString WizardPlan::TitleOf(int number) const {
       title = QStringLiteral("Your Profile Information");
       break;
     case WizardStep::WeightAndDiet:
-      title = addingProfile_ ? QStringLiteral("Your Weight Information")
-                             : QStringLiteral("Your Weight and Diet Information");
+      title =
+          IsFirstRun() ? QStringLiteral("Your Weight and Diet Information") : QStringLiteral("Your Weight Information");
       break;
     case WizardStep::Nutrients:
       title = QStringLiteral("Your Nutrient Selections");
@@ -50,7 +50,7 @@ QString WizardPlan::NameOf(int number) const {
     case WizardStep::Profile:
       return QStringLiteral("Profile");
     case WizardStep::WeightAndDiet:
-      return addingProfile_ ? QStringLiteral("Weight") : QStringLiteral("Weight and diet");
+      return IsFirstRun() ? QStringLiteral("Weight and diet") : QStringLiteral("Weight");
     case WizardStep::Nutrients:
       return QStringLiteral("Nutrients");
     case WizardStep::Colors:

@@ -18,7 +18,6 @@ constexpr double kilogramsPerPoundInIndex = 0.454;
 constexpr double poundsPerKilogramInIndex = 2.205;
 constexpr double poundsPerKilogram = 2.2046;
 constexpr double centimetresPerInch = 2.54;
-constexpr double metresPerInch = 0.0254;
 
 bool DayReached(const QDate &from, const QDate &to) { return to.day() >= from.day(); }
 
@@ -45,10 +44,6 @@ BodyProfile ReadBodyProfile(const Session &session) {
   if (people.Eof()) return {};
   return {people.Integer(QStringLiteral("GenderID")), people.Field(QStringLiteral("BirthDate")).toDate(),
           people.Number(QStringLiteral("HeightFeet")), people.Number(QStringLiteral("HeightInches"))};
-}
-
-double HeightInMetres(double heightFeet, double heightInches, int UomID) {
-  return UomID == poundsSystem ? (heightFeet * 12 + heightInches) * metresPerInch : heightFeet + heightInches / 100;
 }
 
 double UnroundedBMI(double weight, double heightFeet, double heightInches, int UomID) {

@@ -3,6 +3,8 @@
 #include <QDate>
 #include <QString>
 
+#include "core/profiles/height.h"
+
 namespace trimlog {
 
 class Session;
@@ -22,8 +24,6 @@ struct BodyProfile {
   int WholeHeight(int UomID) const;
 };
 BodyProfile ReadBodyProfile(const Session &session);
-
-double HeightInMetres(double heightFeet, double heightInches, int UomID);
 
 /// The body mass index, weight in kilograms over height in metres squared (Adolphe Quetelet, "Sur l'homme", 1835),
 /// rounded to a whole number, halves to even; the whole number is what the risk bands compare. A pound counts as

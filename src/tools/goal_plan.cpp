@@ -1,5 +1,6 @@
 #include "tools/goal_plan.h"
 
+#include "core/profiles/goal.h"
 #include "platform/text/rounding.h"
 #include "platform/text/text_format.h"
 #include "tools/index_advice.h"
@@ -87,7 +88,7 @@ QString PlanPrompt() { return QStringLiteral("Click the <Calculate Plan> button\
 
 std::optional<Box> CheckGoal(const QString &goal, const QLocale &locale) {
   const std::optional<double> value = ParseNumber(goal, locale);
-  if (!value) {
+  if (!value || *value > heaviestWeight) {
     return Refusal("Invalid Goal",
                    "The goal that you entered is invalid.  Please enter a numeric value for your weight loss goal.");
   }

@@ -1,5 +1,6 @@
 #include "tools/tools_profile.h"
 
+#include "core/profiles/goal.h"
 #include "core/session/change.h"
 #include "platform/store/recordset.h"
 #include "platform/text/text_format.h"
@@ -24,29 +25,19 @@ void ReadPlan(ToolsProfile &profile, const Session &session) {
   const Recordset datPeople = session.Data().OpenRecordset(
       QStringLiteral("SELECT people.* from people WHERE PersonID=?;"), {session.profile.CurrentPersonID.toInt()});
   if (datPeople.Eof()) return;
-  profile.Goal = StoredNumberText(datPeople.Text(QStringLiteral("Goal")), session.locale);
+  profile.Goal = GoalToShow(datPeople.Text(QStringLiteral("Goal")), session.locale);
   profile.method = datPeople.Integer(QStringLiteral("GoalMethodID")) == 1 ? GoalMethod::ByRate : GoalMethod::ByDate;
   profile.GoalMethodDate = datPeople.Field(QStringLiteral("GoalMethodDate")).toDate();
   profile.GoalMethodLbsWeek = StoredNumberText(datPeople.Text(QStringLiteral("GoalMethodLbsWeek")), session.locale);
 }
 
-void ReadWeights(ToolsProfile &profile, const Session &session) {
-  const std::optional<WeightEnds> ends = ReadWeightEnds(session);
-  if (!ends) return;
-  profile.initialWeight = ends->first;
-  profile.currentWeight = ends->last;
-}
-
-void ReadWaist(ToolsProfile &profile, const Session &session) {
-  Recordset measurements =
-      session.Data().OpenRecordset(QStringLiteral("SELECT measurements.ThisDate, measurements.Waist FROM measurements "
-                                                  "WHERE (measurements.PersonID=?) ORDER BY measurements.ThisDate; "),
-                                   {session.profile.CurrentPersonID.toInt()});
-  if (measurements.Eof()) return;
-  measurements.MoveLast();
-  if (!measurements.Text(QStringLiteral("Waist")).isEmpty()) {
-    profile.LatestWaist = measurements.Number(QStringLiteral("Waist"));
-  }
+std::optional<double> ReadLatestWaist(const Session &session) {
+  const Recordset latest = session.Data().OpenRecordset(
+      QStringLiteral("SELECT measurements.ThisDate, measurements.Waist FROM measurements "
+                     "WHERE (measurements.PersonID=?) ORDER BY measurements.ThisDate DESC; "),
+      {session.profile.CurrentPersonID.toInt()}, RecordsetKind::Forward);
+  if (latest.Eof() || latest.Text(QStringLiteral("Waist")).isEmpty()) return std::nullopt;
+  return latest.Number(QStringLiteral("Waist"));
 }
 
 }  // namespace
@@ -55,8 +46,11 @@ ToolsProfile ReadToolsProfile(const Session &session) {
   ToolsProfile profile;
   profile.body = ReadBodyProfile(session);
   ReadPlan(profile, session);
-  ReadWeights(profile, session);
-  ReadWaist(profile, session);
+  if (const std::optional<WeightEnds> ends = ReadWeightEnds(session)) {
+    profile.initialWeight = ends->first;
+    profile.currentWeight = ends->last;
+  }
+  profile.LatestWaist = ReadLatestWaist(session);
   return profile;
 }
 

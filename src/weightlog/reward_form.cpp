@@ -1,6 +1,7 @@
 #include "weightlog/reward_form.h"
 
 #include "core/data/data_access.h"
+#include "core/profiles/goal.h"
 #include "core/session/failure_guard.h"
 #include "platform/text/text_format.h"
 #include "weightlog/rewards.h"
@@ -59,7 +60,7 @@ RewardForm ReadRewardForm(const Session &session) {
 }
 
 QString ProposedAmount(Session &session, RewardType type, int uomID) {
-  if (type == RewardType::PersonalWeight) return Shown(PersonValue(session, QStringLiteral("Goal")), session.locale);
+  if (type == RewardType::PersonalWeight) return ReadGoalText(session);
   return Shown(DefaultRewardAmount(type, uomID), session.locale);
 }
 

@@ -1,5 +1,6 @@
 #include "weightlog/weight_log.h"
 
+#include "core/profiles/goal.h"
 #include "core/session/session.h"
 #include "platform/store/recordset.h"
 #include "platform/text/rounding.h"
@@ -8,9 +9,6 @@
 namespace trimlog {
 
 namespace {
-
-/// Above it a Double cannot keep two decimals any more.
-constexpr double heaviestWeight = 9e13;
 
 WeightRow CurrentRow(const Recordset &rows) {
   return {rows.Field(0).toDate(), rows.Field(1).toDouble(), rows.Field(2).toDouble()};

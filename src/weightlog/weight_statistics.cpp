@@ -2,9 +2,9 @@
 
 #include <cmath>
 
+#include "core/profiles/goal.h"
 #include "core/session/failure_guard.h"
 #include "core/session/session.h"
-#include "platform/store/recordset.h"
 #include "platform/text/rounding.h"
 #include "platform/text/text_format.h"
 #include "weightlog/weight_log.h"
@@ -33,13 +33,6 @@ std::optional<int> DaysLeft(double left, double pace) {
   const double days = std::fabs(left / pace) * 7;
   if (!(days < 32767.5)) return std::nullopt;
   return Whole(days);
-}
-
-std::optional<double> ReadGoal(const Session &session) {
-  const Recordset people =
-      session.Data().OpenRecordset(QStringLiteral("SELECT people.Goal FROM people WHERE PersonID=?;"),
-                                   {session.profile.CurrentPersonID.toInt()}, RecordsetKind::Forward);
-  return people.Eof() ? std::nullopt : ParseNumber(people.Text(QStringLiteral("Goal")), session.locale);
 }
 
 }  // namespace

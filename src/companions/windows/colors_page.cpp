@@ -2,10 +2,9 @@
 
 #include <QHBoxLayout>
 
-#include "companions/windows/wizard_controls.h"
 #include "core/windows/controls/art.h"
 #include "core/windows/controls/theme.h"
-#include "core/windows/setup/setup_controls.h"
+#include "platform/windows/controls/named_controls.h"
 
 namespace trimlog {
 
@@ -16,7 +15,7 @@ constexpr int pictureSide = 48;
 }  // namespace
 
 ColorsPage::ColorsPage(quint32 initial, QWidget *parent) : WizardPage(parent) {
-  QVBoxLayout *layout = MakeWizardColumn(this);
+  QVBoxLayout *layout = MakeColumn();
   AddNote(layout, QStringLiteral("lblColors"),
           QStringLiteral("Which colors would you like to see?  The arrow keys go from one to the next."));
   layout->addSpacing(8);
@@ -77,6 +76,6 @@ QWidget *ColorsPage::FirstField() const {
   return optBackColor.first();
 }
 
-void ColorsPage::Store(WizardAnswers &answers) { answers.backColor = Chosen(); }
+void ColorsPage::Store(WizardAnswers &answers) { answers.person.BackColor = Chosen(); }
 
 }  // namespace trimlog

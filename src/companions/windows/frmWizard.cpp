@@ -1,9 +1,11 @@
 #include "companions/windows/frmWizard.h"
 
+#include <QComboBox>
 #include <QHBoxLayout>
 #include <QLabel>
 #include <QLineEdit>
 #include <QPushButton>
+#include <QRadioButton>
 #include <QScreen>
 #include <QStackedWidget>
 
@@ -13,26 +15,20 @@
 #include "companions/windows/profile_page.h"
 #include "companions/windows/weight_page.h"
 #include "companions/windows/wizard_banner.h"
-#include "companions/wizard_finish.h"
 #include "core/profiles/colour_scheme.h"
 #include "core/profiles/profiles.h"
 #include "core/session/failure_guard.h"
 #include "core/windows/controls/theme.h"
+#include "platform/windows/controls/named_controls.h"
 
 namespace trimlog {
 
 namespace {
 
-constexpr double titleScale = 1.3;
-
-QLabel *MakeTitle(QWidget *parent) {
-  auto *title = new QLabel(parent);
-  title->setObjectName(QStringLiteral("lblTitle"));
-  QFont font = title->font();
-  font.setBold(true);
-  font.setPointSizeF(font.pointSizeF() * titleScale);
-  title->setFont(font);
-  return title;
+QString ProfileSentence(WizardMode mode) {
+  return mode == WizardMode::AddingProfile
+             ? QStringLiteral("Who is the new profile for?")
+             : QStringLiteral("Your height, age and gender let the program work out how many calories you need.");
 }
 
 QFrame *MakeLine(QWidget *parent) {
@@ -44,20 +40,20 @@ QFrame *MakeLine(QWidget *parent) {
 
 }  // namespace
 
-frmWizard::frmWizard(Session &session, const Navigator &navigator, bool addingProfile, QWidget *owner)
-    : QDialog(owner), session_(session), navigator_(navigator), plan_(addingProfile, !ShowsFewColours(session)) {
+frmWizard::frmWizard(Session &session, const Navigator &navigator, WizardMode mode, QWidget *owner)
+    : QDialog(owner), session_(session), navigator_(navigator), plan_(mode, !ShowsFewColours(session)) {
   setObjectName(QStringLiteral("frmWizard"));
   setWindowTitle(QStringLiteral("Trimlog Pro Configuration Wizard"));
   setWindowFlag(Qt::WindowContextHelpButtonHint, false);
   setSizeGripEnabled(true);
-  answers_.UomID = session.settings.UomID;
-  answers_.backColor = DefaultBackColor(session);
 }
 
 bool frmWizard::Form_Load() {
   const FailureExit failure{QStringLiteral("frmWizard"), QStringLiteral("Form_Load"), windowTitle(),
                             QStringLiteral("An error occurred while loading the configuration wizard.")};
   return Guarded(session_, failure, [this] {
+    start_ = StartingAnswers(session_, plan_.Mode());
+    answers_ = start_.answers;
     auto *columns = new QHBoxLayout(this);
     columns->setContentsMargins(0, 0, 0, 0);
     columns->setSpacing(0);
@@ -66,13 +62,13 @@ bool frmWizard::Form_Load() {
     layout->setContentsMargins(20, 16, 20, 14);
     layout->setSpacing(10);
     columns->addLayout(layout, 1);
-    lblTitle = MakeTitle(this);
-    layout->addWidget(lblTitle);
+    lblTitle = AddHeading(layout, QStringLiteral("lblTitle"), {});
     layout->addWidget(MakeLine(this));
     pages_ = new QStackedWidget(this);
     layout->addWidget(pages_, 1);
     layout->addWidget(MakeLine(this));
     AddPages();
+    WatchAnswers();
     AddButtons(layout);
     ShowStep(1);
     FitToScreen();
@@ -83,16 +79,13 @@ QWidget *frmWizard::MakeBanner() {
   QStringList steps;
   for (int step = 1; step <= plan_.WizardSteps(); ++step) steps.append(plan_.NameOf(step));
   banner_ = new WizardBanner(steps, this);
-  PaintPanel(banner_, answers_.backColor);
+  PaintPanel(banner_, answers_.person.BackColor);
   return banner_;
 }
 
 QPushButton *frmWizard::AddButton(QLayout *row, const char *name, const QString &caption,
                                   void (frmWizard::*pressed)()) {
-  auto *button = new QPushButton(caption, this);
-  button->setObjectName(QString::fromLatin1(name));
-  button->setAutoDefault(false);  // Enter is the next step's, wherever the focus is
-  row->addWidget(button);
+  QPushButton *button = AddCommand(row, QString::fromLatin1(name), caption);
   connect(button, &QPushButton::clicked, this, pressed);
   return button;
 }
@@ -100,7 +93,7 @@ QPushButton *frmWizard::AddButton(QLayout *row, const char *name, const QString 
 void frmWizard::AddButtons(QVBoxLayout *layout) {
   auto *row = new QHBoxLayout;
   layout->addLayout(row);
-  if (!plan_.AddingProfile()) {
+  if (plan_.IsFirstRun()) {
     cmdSkip = AddButton(row, "cmdSkip", QStringLiteral("&Skip Wizard"), &frmWizard::Skip);
     cmdImport = AddButton(row, "cmdImport", QStringLiteral("&Import Data"), &frmWizard::Import);
     cmdImport->setToolTip(QStringLiteral("Takes over the data of an earlier release."));
@@ -110,7 +103,7 @@ void frmWizard::AddButtons(QVBoxLayout *layout) {
   cmdBack = AddButton(row, "cmdBack", QStringLiteral("&Back"), &frmWizard::WizardBack);
   cmdNext = AddButton(row, "cmdNext", plan_.NextCaption(1), &frmWizard::WizardNext);
   cmdNext->setDefault(true);
-  if (plan_.AddingProfile()) AddButton(row, "cmdCancel", QStringLiteral("Cancel"), &frmWizard::reject);
+  if (!plan_.IsFirstRun()) AddButton(row, "cmdCancel", QStringLiteral("Cancel"), &frmWizard::reject);
   QWidget::setTabOrder(cmdNext, cmdBack);
   if (cmdSkip) QWidget::setTabOrder(cmdBack, cmdSkip);
   if (cmdImport) QWidget::setTabOrder(cmdSkip, cmdImport);
@@ -121,15 +114,15 @@ WizardPage *frmWizard::MakePage(WizardStep step) {
     case WizardStep::Introduction:
       return new IntroductionPage(plan_.StepAt(plan_.WizardSteps()) == WizardStep::Colors, pages_);
     case WizardStep::Profile:
-      return new ProfilePage(session_, plan_.AddingProfile(), pages_);
+      return new ProfilePage(session_, plan_.IsFirstRun(), ProfileSentence(plan_.Mode()), answers_, pages_);
     case WizardStep::WeightAndDiet:
-      return new WeightPage(session_, plan_.AddingProfile(), pages_);
+      return new WeightPage(session_, plan_.IsFirstRun(), start_, pages_);
     case WizardStep::Nutrients:
       return new NutrientsPage(session_, pages_);
     case WizardStep::Colors:
       break;
   }
-  auto *colors = new ColorsPage(answers_.backColor, pages_);
+  auto *colors = new ColorsPage(answers_.person.BackColor, pages_);
   connect(colors, &ColorsPage::ColorChosen, banner_, [this](quint32 colour) { PaintPanel(banner_, colour); });
   return colors;
 }
@@ -139,6 +132,30 @@ void frmWizard::AddPages() {
 }
 
 WizardPage *frmWizard::CurrentPage() const { return static_cast<WizardPage *>(pages_->currentWidget()); }
+
+void frmWizard::WatchAnswers() {
+  const auto answered = [this] { answered_ = true; };
+  for (const QLineEdit *field : pages_->findChildren<QLineEdit *>()) {
+    connect(field, &QLineEdit::textEdited, this, answered);
+  }
+  for (const QComboBox *list : pages_->findChildren<QComboBox *>())
+    connect(list, &QComboBox::activated, this, answered);
+  for (const QRadioButton *option : pages_->findChildren<QRadioButton *>()) {
+    connect(option, &QRadioButton::clicked, this, answered);
+  }
+}
+
+bool frmWizard::MayThrowAnswersAway() {
+  return !answered_ ||
+         session_.boxes.Ask(
+             windowTitle(),
+             QStringLiteral("What you have entered so far will be lost.  Do you want to leave the wizard?"),
+             BoxButton::No);
+}
+
+void frmWizard::reject() {
+  if (MayThrowAnswersAway()) QDialog::reject();
+}
 
 void frmWizard::WizardNext() {
   CurrentPage()->Store(answers_);
@@ -163,6 +180,7 @@ void frmWizard::ShowStep(int number) {
     if (cmdImport) cmdImport->setVisible(number == 1);
     banner_->ShowStep(number);
     auto *page = static_cast<WizardPage *>(pages_->widget(number - 1));
+    page->setAccessibleName(lblTitle->text());  // told when the focus comes into the page
     page->Enter(answers_);
     pages_->setCurrentWidget(page);
     FocusFirstField();
@@ -179,7 +197,7 @@ void frmWizard::FitToScreen() {
   }
   pages_->setMinimumWidth(width);
   const QSize room = screen()->availableSize() - QSize(16, 48);
-  const int height = fontMetrics().height() * (plan_.AddingProfile() ? 24 : 32);
+  const int height = fontMetrics().height() * (plan_.IsFirstRun() ? 32 : 24);
   resize(sizeHint().expandedTo({0, height}).boundedTo(room));
 }
 
@@ -196,6 +214,7 @@ void frmWizard::LeaveAs(Outcome outcome) {
 }
 
 void frmWizard::Skip() {
+  if (!MayThrowAnswersAway()) return;
   session_.boxes.Inform(
       QStringLiteral("Skipping the Configuration Wizard..."),
       QStringLiteral(
@@ -204,15 +223,16 @@ void frmWizard::Skip() {
   LeaveAs(Outcome::Skipped);
 }
 
-void frmWizard::Import() { LeaveAs(Outcome::Importing); }
+void frmWizard::Import() {
+  if (MayThrowAnswersAway()) LeaveAs(Outcome::Importing);
+}
 
 void frmWizard::Finish() {
   const FailureExit failure{QStringLiteral("frmWizard"), QStringLiteral("cmdNext_Click"),
                             QStringLiteral("Error Saving Profile"),
                             QStringLiteral("An error occurred while saving your profile.  Nothing was saved.  "), true};
-  const bool saved = Guarded(session_, failure, [this] {
-    session_.profile.CurrentPersonID = FinishWizard(session_, answers_, plan_.AddingProfile());
-  });
+  const bool saved = Guarded(
+      session_, failure, [this] { session_.profile.CurrentPersonID = FinishWizard(session_, answers_, plan_.Mode()); });
   if (saved) LeaveAs(Outcome::Finished);
 }
 
@@ -224,7 +244,7 @@ bool StartWiz(Session &session, const Navigator &navigator, bool force, QWidget 
                             QStringLiteral("An error occurred while trying to start the configuration wizard.")};
   Guarded(session, failure, [&] {
     if (!force && !NeedsWizard(session)) return;
-    frmWizard wizard(session, navigator, !HasNoProfiles(session), owner);
+    frmWizard wizard(session, navigator, WizardModeNow(session), owner);
     if (!wizard.Form_Load()) return;
     wizard.exec();
     outcome = wizard.HowLeft();

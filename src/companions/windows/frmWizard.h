@@ -4,6 +4,7 @@
 #include <QList>
 
 #include "companions/windows/wizard_page.h"
+#include "companions/wizard_finish.h"
 #include "companions/wizard_plan.h"
 #include "core/session/navigator.h"
 #include "core/session/session.h"
@@ -17,17 +18,18 @@ namespace trimlog {
 
 class WizardBanner;
 
-/// The configuration wizard: takes a newcomer to a working profile, or adds one more profile. Nothing is kept before
-/// Finish but the unit system.
+/// The configuration wizard: takes a newcomer to a working profile, adds one more profile, or completes the one in use.
+/// Nothing is kept before Finish but the unit system; what was typed is not thrown away without a question.
 class frmWizard : public QDialog {
   Q_OBJECT
  public:
   enum class Outcome { Left, Skipped, Importing, Finished };
-  frmWizard(Session &session, const Navigator &navigator, bool addingProfile, QWidget *owner);
+  frmWizard(Session &session, const Navigator &navigator, WizardMode mode, QWidget *owner);
 
   /// Makes the pages and shows the first. False when that failed: the box was shown.
   bool Form_Load();
   Outcome HowLeft() const { return outcome_; }
+  void reject() override;
 
  private:
   QWidget *MakeBanner();
@@ -36,6 +38,10 @@ class frmWizard : public QDialog {
   void AddPages();
   WizardPage *MakePage(WizardStep step);
   WizardPage *CurrentPage() const;
+  /// From now on `answered_` tells whether anything was typed or chosen.
+  void WatchAnswers();
+  /// True when nothing would be lost, or the person agrees to lose it.
+  bool MayThrowAnswersAway();
 
   void WizardNext();
   void WizardBack();
@@ -50,7 +56,9 @@ class frmWizard : public QDialog {
   Session &session_;
   const Navigator &navigator_;
   const WizardPlan plan_;
+  WizardStart start_;
   WizardAnswers answers_;
+  bool answered_ = false;
   int WizardStep_ = 1;
   Outcome outcome_ = Outcome::Left;
 
@@ -63,9 +71,9 @@ class frmWizard : public QDialog {
   QPushButton *cmdNext = nullptr;
 };
 
-/// Opens the wizard: for the first profile of the file or, when profiles are there, for one more. Without `force` only
-/// where the current profile lacks a goal or weights. True when it wrote a profile, which is then the session's current
-/// one and still to be loaded.
+/// Opens the wizard: for the first profile of the file, for the current one where it lacks a goal or weights, otherwise
+/// for one more. Without `force` only where the current profile lacks something. True when it wrote a profile, which is
+/// then the session's current one and still to be loaded.
 bool StartWiz(Session &session, const Navigator &navigator, bool force, QWidget *owner);
 
 }  // namespace trimlog

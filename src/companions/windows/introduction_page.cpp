@@ -2,13 +2,12 @@
 
 #include <QVBoxLayout>
 
-#include "companions/windows/wizard_controls.h"
-#include "core/windows/setup/setup_controls.h"
+#include "platform/windows/controls/named_controls.h"
 
 namespace trimlog {
 
 IntroductionPage::IntroductionPage(bool asksForColors, QWidget *parent) : WizardPage(parent) {
-  QVBoxLayout *layout = MakeWizardColumn(this);
+  QVBoxLayout *layout = MakeColumn();
   layout->setSpacing(12);
   AddNote(
       layout, QStringLiteral("lblWelcome"),

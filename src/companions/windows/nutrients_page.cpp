@@ -3,10 +3,10 @@
 #include <QHeaderView>
 #include <QKeyEvent>
 
-#include "companions/windows/wizard_controls.h"
 #include "companions/wizard_nutrients.h"
 #include "core/session/failure_guard.h"
-#include "core/windows/setup/setup_controls.h"
+#include "core/windows/controls/refused_row.h"
+#include "platform/windows/controls/named_controls.h"
 #include "platform/windows/controls/spoken_label.h"
 #include "platform/windows/grid/bound_grid.h"
 
@@ -50,8 +50,8 @@ GridSource NutrientRows() {
 
 /// Did an answer change that the proposal depends on?
 bool ProposesElse(const WizardAnswers &one, const WizardAnswers &other) {
-  return one.diet != other.diet || one.birthDate != other.birthDate || one.genderMale != other.genderMale ||
-         one.nutrientID != other.nutrientID;
+  return one.diet != other.diet || one.person.BirthDate != other.person.BirthDate ||
+         one.person.GenderID != other.person.GenderID || one.nutrientID != other.nutrientID;
 }
 
 FailureExit Exit(const char *procedure, const char *text) {
@@ -62,7 +62,7 @@ FailureExit Exit(const char *procedure, const char *text) {
 }  // namespace
 
 NutrientsPage::NutrientsPage(Session &session, QWidget *parent) : WizardPage(parent), session_(session) {
-  QVBoxLayout *layout = MakeWizardColumn(this);
+  QVBoxLayout *layout = MakeColumn();
   AddNote(layout, QStringLiteral("lblNutrients"),
           QStringLiteral("Tick up to ten nutrients to see in your journal, and type a target or limit for each day."));
   lblNote = AddNote(layout, QStringLiteral("lblNote"), {});
@@ -86,9 +86,9 @@ void NutrientsPage::MakeGrid() {
   hooks.guard = [this](GridAction, const std::function<void()> &work) {
     return Guarded(session_, Exit("grdNutrients_AfterUpdate", "An error occurred while saving the nutrients.  "), work);
   };
-  hooks.beforeUpdate = [](GridRowEdit &row) {
+  hooks.beforeUpdate = [this](GridRowEdit &row) {
     MatchTickAndTarget(row);
-    return QString();
+    return RefusedTargetOf(session_, static_cast<int>(row.Key()), row.Get(QStringLiteral("Amount")).toString());
   };
   hooks.afterUpdate = [this](qint64) { UpdateNutrientCount(); };
   // A tick counts as soon as it is set, not only when its row is left.
@@ -115,7 +115,7 @@ QWidget *NutrientsPage::FirstField() const { return grdNutrients; }
 
 bool NutrientsPage::Check(const WizardAnswers &) {
   if (grdNutrients->CommitRow()) return CheckWizardNutrients(session_);
-  grdNutrients->setFocus();
+  ShowRefusedRow(session_, QStringLiteral("Invalid Target"), *grdNutrients);
   return false;
 }
 

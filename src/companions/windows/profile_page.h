@@ -3,45 +3,28 @@
 #include "companions/windows/wizard_page.h"
 #include "core/session/session.h"
 
-class QGridLayout;
-class QLabel;
-class QRadioButton;
-
 namespace trimlog {
 
-class ChoiceCombo;
-class DateField;
-class NumberField;
-class TextField;
+class ProfileForm;
 
 /// Who the profile belongs to: name, units (first run only), height, birth date, gender.
 class ProfilePage : public WizardPage {
   Q_OBJECT
  public:
-  ProfilePage(Session &session, bool addingProfile, QWidget *parent);
+  /// `startingAnswers` fill the fields.
+  ProfilePage(Session &session, bool asksForUnits, const QString &sentence, const WizardAnswers &startingAnswers,
+              QWidget *parent);
 
   QWidget *FirstField() const override;
   void Store(WizardAnswers &answers) override;
   bool Check(const WizardAnswers &answers) override;
 
  private:
-  void AddName(QGridLayout *grid, bool addingProfile);
-  void AddHeight(QGridLayout *grid);
-  void AddBirthDate(QGridLayout *grid);
-  void AddGender(QGridLayout *grid);
-  void ShowUnits();
-  void ChangeUnits();
+  /// The unit system is the one answer that is kept before the wizard's end.
+  void StoreUnits();
 
   Session &session_;
-  TextField *txtPersonName = nullptr;
-  ChoiceCombo *cboUomID = nullptr;  ///< on the first run only
-  NumberField *txtHeight1 = nullptr;
-  NumberField *txtHeight2 = nullptr;
-  QLabel *lblHeight1 = nullptr;
-  QLabel *lblHeight2 = nullptr;
-  DateField *txtBirthDate = nullptr;
-  QRadioButton *optGenderMale = nullptr;
-  QRadioButton *optGenderFemale = nullptr;
+  ProfileForm *form_;
 };
 
 }  // namespace trimlog

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "companions/windows/wizard_page.h"
+#include "companions/wizard_finish.h"
 #include "core/session/session.h"
 
 class QComboBox;
@@ -17,7 +18,8 @@ class NumberField;
 class WeightPage : public WizardPage {
   Q_OBJECT
  public:
-  WeightPage(Session &session, bool addingProfile, QWidget *parent);
+  /// `start` fills the fields; a first weight that the profile has already is shown and stays.
+  WeightPage(Session &session, bool asksForDiet, const WizardStart &start, QWidget *parent);
 
   void Enter(const WizardAnswers &answers) override;
   QWidget *FirstField() const override;
@@ -28,6 +30,7 @@ class WeightPage : public WizardPage {
   void AddWeights(QGridLayout *grid);
   void AddStartingDate(QGridLayout *grid);
   void AddDiet(QGridLayout *grid);
+  void Fill(const WizardStart &start);
   void FollowDiet();
   void TellHealthyWeight();
 
@@ -38,6 +41,7 @@ class WeightPage : public WizardPage {
   QLabel *lblStartingWeightUom = nullptr;
   QLabel *lblGoalUom = nullptr;
   DateField *txtStartingDate = nullptr;
+  QWidget *cmdCalendar = nullptr;
   QComboBox *cboDiet = nullptr;  ///< on the first run only, like the next two
   ChoiceCombo *cboNutrientID = nullptr;
   QLabel *lblNutrientID = nullptr;

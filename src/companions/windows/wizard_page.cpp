@@ -1,6 +1,10 @@
 #include "companions/windows/wizard_page.h"
 
-#include <QFocusEvent>
+#include <QGridLayout>
+
+#include "platform/windows/controls/field_left.h"
+#include "platform/windows/controls/form_rows.h"
+#include "platform/windows/controls/named_controls.h"
 
 namespace trimlog {
 
@@ -8,10 +12,36 @@ namespace {
 
 void MendField(QLineEdit *field, const WizardPage::Mend &mend) {
   const QString mended = mend(field->text());
-  if (mended != field->text()) field->setText(mended);
+  if (mended == field->text()) return;
+  const bool typed = field->isModified();
+  field->setText(mended);
+  field->setModified(typed);
 }
 
 }  // namespace
+
+QVBoxLayout *WizardPage::MakeColumn() {
+  auto *layout = new QVBoxLayout(this);
+  layout->setContentsMargins(0, 6, 0, 6);
+  return layout;
+}
+
+void WizardPage::AddForm(const QString &sentence, QWidget *form) {
+  QVBoxLayout *layout = MakeColumn();
+  AddNote(layout, {}, sentence);
+  layout->addSpacing(8);
+  layout->addWidget(form);
+  layout->addStretch();
+}
+
+QGridLayout *WizardPage::MakeForm(const QString &sentence) {
+  auto *form = new QWidget(this);
+  QGridLayout *grid = MakeFormGrid();
+  grid->setContentsMargins(0, 0, 0, 0);
+  form->setLayout(grid);
+  AddForm(sentence, form);
+  return grid;
+}
 
 void WizardPage::MendOnLeaving(QLineEdit *field, const Mend &mend) {
   mended_.append({field, mend});
@@ -28,11 +58,9 @@ void WizardPage::GoTo(QLineEdit *field) {
 }
 
 bool WizardPage::eventFilter(QObject *watched, QEvent *event) {
-  if (event->type() == QEvent::FocusOut) {
-    const Qt::FocusReason reason = static_cast<QFocusEvent *>(event)->reason();
-    const bool left = reason != Qt::ActiveWindowFocusReason && reason != Qt::PopupFocusReason;
+  if (IsFieldLeft(*event)) {
     for (const auto &[field, mend] : mended_) {
-      if (left && field == watched) MendField(field, mend);
+      if (field == watched) MendField(field, mend);
     }
   }
   return QWidget::eventFilter(watched, event);

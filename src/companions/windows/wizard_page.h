@@ -8,6 +8,9 @@
 
 #include "companions/wizard_answers.h"
 
+class QGridLayout;
+class QVBoxLayout;
+
 namespace trimlog {
 
 /// One step of the configuration wizard. It keeps its controls as long as the wizard lives, so that going back and
@@ -28,6 +31,11 @@ class WizardPage : public QWidget {
   virtual bool Check(const WizardAnswers &) { return true; }
 
  protected:
+  /// What the page stands in: as wide as the wizard's title above it.
+  QVBoxLayout *MakeColumn();
+  /// A sentence, and below it the fields: a form, or the grid that AddFormRow fills.
+  void AddForm(const QString &sentence, QWidget *form);
+  QGridLayout *MakeForm(const QString &sentence);
   /// A field that is mended, without a message, when it is left.
   void MendOnLeaving(QLineEdit *field, const Mend &mend);
   void MendFields();

@@ -1,7 +1,7 @@
 #include "core/frame/frame_data.h"
 
 #include "core/data/data_access.h"
-#include "core/profiles/profile_list.h"
+#include "core/profiles/goal.h"
 #include "platform/store/recordset.h"
 
 namespace trimlog {

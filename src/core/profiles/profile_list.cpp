@@ -1,11 +1,11 @@
 #include "core/profiles/profile_list.h"
 
-#include <QDate>
-
 #include "core/data/data_access.h"
+#include "core/profiles/goal.h"
+#include "core/profiles/height.h"
+#include "core/profiles/person.h"
 #include "core/profiles/profiles.h"
 #include "core/settings/options.h"
-#include "platform/text/text_format.h"
 
 namespace trimlog {
 
@@ -13,8 +13,6 @@ namespace {
 
 constexpr int longestName = 255;
 constexpr int longestGoal = 50;
-constexpr double tallest = 300;  // centimetres beside no metres; feet, metres and inches stay far below
-constexpr int oldest = 150;      // years
 
 QString FirstProfile(Session &session) {
   return GetDataValue(session.Data(), QStringLiteral("Min(people.PersonID) AS FirstID"), QStringLiteral("people"),
@@ -32,19 +30,18 @@ GridColumn HeightColumn(const QString &field, const QString &caption) {
           .type = GridType::Number,
           .width = 8,
           .editable = true,
-          .validate = [](const Value &height) { return RefusedHeight(height.toDouble()); }};
+          .validate = [](const Value &height) {
+            return height.toDouble() >= 0 ? QString() : QStringLiteral("Please enter a valid height.");
+          }};
 }
 
 }  // namespace
 
-QString RefusedHeight(double height) {
-  return height >= 0 && height <= tallest ? QString() : QStringLiteral("Please enter a valid height.");
-}
-
-QString RefusedBirthDate(const QDate &date, const QDate &today) {
-  if (!date.isValid()) return {};
-  if (date > today) return QStringLiteral("Please enter a birth date that is not in the future.");
-  return date < today.addYears(-oldest) ? QStringLiteral("Please enter a valid birth date.") : QString();
+QString RefusedProfileRow(const GridRowEdit &row, int UomID) {
+  const QString feet = QStringLiteral("HeightFeet");
+  const QString inches = QStringLiteral("HeightInches");
+  if (!row.IsChanged(feet) && !row.IsChanged(inches)) return {};
+  return RefusedHeight(row.Get(feet).toDouble(), row.Get(inches).toDouble(), UomID);
 }
 
 GridSource ProfilesSource() {
@@ -71,7 +68,8 @@ GridColumns ProfileColumns(const Session &session) {
        .type = GridType::NumberText,
        .width = 10,
        .editable = true,
-       .maxLength = longestGoal},
+       .maxLength = longestGoal,
+       .validate = [](const Value &goal) { return RefusedGoal(GoalFrom(goal.toString()).value_or(0)); }},
       HeightColumn(QStringLiteral("HeightFeet"), labels.HeightFeet),
       HeightColumn(QStringLiteral("HeightInches"), labels.HeightInches),
       {.name = QStringLiteral("Gender"),
@@ -131,19 +129,6 @@ QString ProfileToStandOn(Session &session) {
   if (!ProfileExists(session, session.profile.LastRealPersonID)) session.profile.LastRealPersonID = first;
   if (ProfileExists(session, session.profile.CurrentPersonID)) return session.profile.CurrentPersonID;
   return first.isEmpty() ? sampleProfile1 : first;
-}
-
-bool ConfirmGoal(Session &session, const QString &goal) {
-  const std::optional<double> number = ParseNumber(goal, session.locale);
-  if (number && *number > 0) return true;
-  return session.boxes.Ask(
-      QStringLiteral("Invalid Goal"),
-      QStringLiteral("The goal that you entered is invalid.  Are you sure that you want to continue?"));
-}
-
-QString GoalToShow(const QString &stored, const QLocale &locale) {
-  const std::optional<double> number = ParseNumber(stored);
-  return number ? PlainText(*number).replace(QLatin1Char('.'), locale.decimalPoint()) : stored;
 }
 
 }  // namespace trimlog

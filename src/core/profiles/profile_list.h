@@ -1,6 +1,5 @@
 #pragma once
 
-#include <QDate>
 #include <QList>
 #include <QString>
 
@@ -29,16 +28,8 @@ bool AskDeleteProfiles(Session &session, int count);
 /// the first that is left, otherwise the first sample. Also forgets a deleted LastRealPersonID.
 QString ProfileToStandOn(Session &session);
 
-/// Why a height (one of its two numbers) or a birth date cannot be kept: a sentence, or "". An invalid date is "not
-/// told".
-QString RefusedHeight(double height);
-QString RefusedBirthDate(const QDate &date, const QDate &today);
-
-/// May the options window be left with this goal, as shown in the person's own form? True for a number above 0;
-/// otherwise the person decides.
-bool ConfirmGoal(Session &session, const QString &goal);
-
-/// A kept goal ("150.5") in the person's own form; a goal that is no number as it is.
-QString GoalToShow(const QString &stored, const QLocale &locale);
+/// What a changed row of the profiles list is refused for: a height that is no person's in the unit system `UomID`. A
+/// height that nobody touched stays, whatever the units have become since.
+QString RefusedProfileRow(const GridRowEdit &row, int UomID);
 
 }  // namespace trimlog

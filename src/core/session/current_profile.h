@@ -8,12 +8,15 @@
 
 namespace trimlog {
 
+/// The target set of a profile that names none: an example for all.
+inline constexpr int defaultTargetSet = 30;
+
 /// The person whose data the windows show, and what is kept in memory of that person.
 struct CurrentProfile {
   QString CurrentPersonID = QStringLiteral("1");  ///< "-1", "-2" samples; "0" nobody
   QString LastRealPersonID;                       ///< survives into the next run; never a sample
   quint32 BackColor = 0xFFE0C0;                   ///< colour scheme, blue-green-red byte order
-  int NutTargetID = 30;                           ///< the current target set; 0 for none
+  int NutTargetID = defaultTargetSet;             ///< the current target set; 0 for none
   RewardSettings rewards;
   Statistics statistics;  ///< what UpdateStats last found
   QDate FirstWeightDate;  ///< invalid: no weights

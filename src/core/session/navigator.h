@@ -27,6 +27,9 @@ struct Navigator {
   std::function<void(QWidget *owner)> OpenQuickJournal;
   /// Adds a further profile through the generic add dialog; true when one was added.
   std::function<bool(QWidget *owner)> AddProfile;
+  /// Makes a profile: the first of all with the wizard, and loads it; every other one through AddProfile. True when one
+  /// was made.
+  std::function<bool(QWidget *owner)> CreateProfile;
   std::function<void(QWidget *owner)> ImportData;  ///< takes over the data of an earlier release
   std::function<void(const QString &topic)> ShowHelp;
   std::function<void()> ExitProgram;        ///< closes the frame

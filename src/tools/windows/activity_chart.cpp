@@ -7,7 +7,8 @@
 #include <QPainter>
 #include <QRadioButton>
 
-#include "tools/windows/tool_controls.h"
+#include "platform/windows/controls/member_name.h"
+#include "platform/windows/controls/named_controls.h"
 
 namespace trimlog {
 
@@ -86,15 +87,13 @@ ActivityChart::ActivityChart(const std::array<QColor, activityLevels> &colours, 
   grid->setHorizontalSpacing(3 * frameMargin);
   for (int i = 0; i < activityLevels; ++i) {
     const ActivityLevel &level = ActivityLevels()[i];
-    const auto named = [i](const char *array) { return QStringLiteral("%1(%2)").arg(QLatin1String(array)).arg(i); };
     optBMRActivity_[i] = new QRadioButton(level.caption, this);
-    optBMRActivity_[i]->setObjectName(named("optBMRActivity"));
+    optBMRActivity_[i]->setObjectName(MemberName("optBMRActivity", i));
     pnlBMRActivity_[i] = new ActivityCell(colours[i], this);
-    pnlBMRActivity_[i]->setObjectName(named("pnlBMRActivity"));
-    pnlBMRActivity_[i]->setAccessibleName(level.caption);
+    pnlBMRActivity_[i]->setObjectName(MemberName("pnlBMRActivity", i));
     pnlBMRActivity_[i]->setFixedHeight(qRound(fontMetrics().lineSpacing() * (2 * level.multiplier - 0.5)));
     pnlBMRActivityDesc_[i] = new QLabel(level.description, this);
-    pnlBMRActivityDesc_[i]->setObjectName(named("pnlBMRActivityDesc"));
+    pnlBMRActivityDesc_[i]->setObjectName(MemberName("pnlBMRActivityDesc", i));
     pnlBMRActivityDesc_[i]->setWordWrap(true);
     pnlBMRActivityDesc_[i]->setAlignment(Qt::AlignHCenter | Qt::AlignTop);
     grid->addWidget(optBMRActivity_[i], 0, i, Qt::AlignHCenter);
@@ -117,7 +116,13 @@ ActivityChart::ActivityChart(const std::array<QColor, activityLevels> &colours, 
 }
 
 void ActivityChart::ShowAmounts(const std::array<QString, activityLevels> &amounts) {
-  for (int i = 0; i < activityLevels; ++i) pnlBMRActivity_[i]->setText(amounts[i]);
+  for (int i = 0; i < activityLevels; ++i) {
+    pnlBMRActivity_[i]->setText(amounts[i]);
+    // Whoever goes through the levels by ear hears what each comes to.
+    optBMRActivity_[i]->setAccessibleDescription(amounts[i].isEmpty() ? ActivityLevels()[i].description
+                                                                      : amounts[i] + QStringLiteral(", ") +
+                                                                            ActivityLevels()[i].description);
+  }
 }
 
 int ActivityChart::Chosen() const {

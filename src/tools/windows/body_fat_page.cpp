@@ -5,14 +5,20 @@
 #include <QRadioButton>
 
 #include "core/session/failure_guard.h"
-#include "core/windows/setup/setup_controls.h"
+#include "platform/windows/controls/named_controls.h"
+#include "platform/windows/controls/result_text.h"
 #include "platform/windows/fields/number_field.h"
 #include "tools/body_fat.h"
 #include "tools/windows/body_fat_bar.h"
 #include "tools/windows/tool_colours.h"
-#include "tools/windows/tool_controls.h"
 
 namespace trimlog {
+
+namespace {
+
+constexpr int linesOfAssessment = 7;
+
+}  // namespace
 
 BodyFatPage::BodyFatPage(Session &session, const ToolsProfile &profile, QWidget *parent)
     : QWidget(parent), session_(session), profile_(profile) {
@@ -28,7 +34,9 @@ BodyFatPage::BodyFatPage(Session &session, const ToolsProfile &profile, QWidget 
   pnlBodyFatChart->hide();
   layout->addSpacing(8);
   layout->addWidget(pnlBodyFatChart);
-  pnlBodyFatSummary = AddResultText(layout, QStringLiteral("pnlBodyFatSummary"), QStringLiteral("Assessment"), 7);
+  pnlBodyFatSummary = new ResultText(QStringLiteral("pnlBodyFatSummary"), this);
+  pnlBodyFatSummary->MakeFrame(linesOfAssessment);
+  layout->addWidget(pnlBodyFatSummary);
   SetToolFields();
 }
 
@@ -74,6 +82,7 @@ void BodyFatPage::AddInputs(QLayout *layout) {
 
 void BodyFatPage::FillFields() {
   txtBodyFatGoal->setText(profile_.Goal);
+  if (!profile_.LatestWaist) optBodyFatOtherWaist->setChecked(true);  // what was never measured can only be typed
   SetToolFields();
 }
 
@@ -87,7 +96,13 @@ void BodyFatPage::ShowBodyFatTool() {
   ClearBodyFatSummary();
 }
 
-void BodyFatPage::FocusCalculate() { cmdBodyFatCalculate->setFocus(); }
+void BodyFatPage::FocusFirst() {
+  if (profile_.LatestWaist) {
+    cmdBodyFatCalculate->setFocus();
+  } else if (optBodyFatOtherWaist->isChecked()) {
+    txtBodyFatWaist->setFocus();
+  }
+}
 
 void BodyFatPage::SetToolFields() {
   txtBodyFatGoal->setEnabled(optBodyFatGoalWeight->isChecked());

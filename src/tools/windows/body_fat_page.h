@@ -14,6 +14,7 @@ namespace trimlog {
 
 class BodyFatBar;
 class NumberField;
+class ResultText;
 
 /// The Body Fat Assessment: the percentage of body fat from waist and weight, its place on a bar, and what to think of
 /// it.
@@ -26,7 +27,8 @@ class BodyFatPage : public QWidget {
   void FillFields();
   /// Shows what is taken from the profile and its latest measurement.
   void ShowBodyFatTool();
-  void FocusCalculate();
+  /// What is still to be done: to type a waist or, where one is recorded, to calculate.
+  void FocusFirst();
 
  private:
   void AddInputs(QLayout *layout);
@@ -48,7 +50,7 @@ class BodyFatPage : public QWidget {
   QLabel *lblBodyFatUOMInches = nullptr;
   QPushButton *cmdBodyFatCalculate = nullptr;
   BodyFatBar *pnlBodyFatChart = nullptr;
-  QLabel *pnlBodyFatSummary = nullptr;
+  ResultText *pnlBodyFatSummary = nullptr;
 };
 
 }  // namespace trimlog

@@ -1,21 +1,23 @@
 #include "tools/windows/caloric_needs_page.h"
 
-#include <QFocusEvent>
 #include <QGridLayout>
 #include <QLabel>
 #include <QPushButton>
 #include <QRadioButton>
 
 #include "core/session/failure_guard.h"
-#include "core/windows/setup/setup_controls.h"
+#include "platform/windows/controls/field_left.h"
+#include "platform/windows/controls/named_controls.h"
+#include "platform/windows/controls/result_text.h"
 #include "platform/windows/fields/number_field.h"
 #include "tools/windows/activity_chart.h"
 #include "tools/windows/tool_colours.h"
-#include "tools/windows/tool_controls.h"
 
 namespace trimlog {
 
 namespace {
+
+constexpr int linesOfSummary = 6;
 
 QLabel *KeepPlaceWhenHidden(QLabel *label) {
   QSizePolicy policy = label->sizePolicy();
@@ -36,8 +38,9 @@ CaloricNeedsPage::CaloricNeedsPage(Session &session, const ToolsProfile &profile
   AddResults(layout);
   chart_ = new ActivityChart(ToolColours(session_), this);
   layout->addWidget(chart_);
-  pnlBMRSummary =
-      KeepPlaceWhenHidden(AddResultText(layout, QStringLiteral("pnlBMRSummary"), QStringLiteral("Summary"), 6));
+  pnlBMRSummary = new ResultText(QStringLiteral("pnlBMRSummary"), this);
+  pnlBMRSummary->MakeFrame(linesOfSummary);
+  layout->addWidget(KeepPlaceWhenHidden(pnlBMRSummary));
   connect(chart_, &ActivityChart::ChoiceMade, this, &CaloricNeedsPage::UpdateBMRSummary);
   SetToolFields();
   ClearBMRResults();
@@ -86,10 +89,9 @@ void CaloricNeedsPage::AddInputs(QLayout *layout) {
 void CaloricNeedsPage::AddResults(QLayout *layout) {
   pnlBMRResults1 = AddLabel(layout, QStringLiteral("pnlBMRResults1"), {});
   QHBoxLayout *basal = AddRow(layout);
-  pnlBMRValue = AddLabel(basal, QStringLiteral("pnlBMRValue"), {});
-  QFont bold = pnlBMRValue->font();
-  bold.setBold(true);
-  pnlBMRValue->setFont(bold);
+  pnlBMRValue = new ResultText(QStringLiteral("pnlBMRValue"), this);
+  MakeBold(pnlBMRValue);
+  basal->addWidget(pnlBMRValue);
   pnlBMRResults2 =
       KeepPlaceWhenHidden(AddLabel(basal, QStringLiteral("pnlBMRResults2"), QStringLiteral("This is your BMR.")));
   basal->addStretch();
@@ -160,11 +162,7 @@ void CaloricNeedsPage::UpdateBMRSummary() {
 }
 
 bool CaloricNeedsPage::eventFilter(QObject *watched, QEvent *event) {
-  if (watched == txtBMRGoal && event->type() == QEvent::FocusIn) {
-    const Qt::FocusReason reason = static_cast<QFocusEvent *>(event)->reason();
-    // Coming back from another program or a menu is no new question.
-    if (reason != Qt::ActiveWindowFocusReason && reason != Qt::PopupFocusReason) ClearBMRResults();
-  }
+  if (watched == txtBMRGoal && IsFieldEntered(*event)) ClearBMRResults();
   return QWidget::eventFilter(watched, event);
 }
 

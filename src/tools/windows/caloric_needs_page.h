@@ -14,6 +14,7 @@ namespace trimlog {
 
 class ActivityChart;
 class NumberField;
+class ResultText;
 
 /// The Caloric Needs Estimator: the basal metabolic rate, and what three levels of activity make of it.
 class CaloricNeedsPage : public QWidget {
@@ -49,11 +50,11 @@ class CaloricNeedsPage : public QWidget {
   QRadioButton *optBMROtherAge = nullptr;
   NumberField *txtBMRAge = nullptr;
   QLabel *pnlBMRResults1 = nullptr;
-  QLabel *pnlBMRValue = nullptr;
+  ResultText *pnlBMRValue = nullptr;
   QLabel *pnlBMRResults2 = nullptr;
   QLabel *pnlBMRResults3 = nullptr;
   ActivityChart *chart_ = nullptr;
-  QLabel *pnlBMRSummary = nullptr;
+  ResultText *pnlBMRSummary = nullptr;
 };
 
 }  // namespace trimlog

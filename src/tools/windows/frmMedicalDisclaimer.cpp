@@ -1,13 +1,13 @@
 #include "tools/windows/frmMedicalDisclaimer.h"
 
 #include <QCheckBox>
-#include <QDialogButtonBox>
 #include <QLabel>
 #include <QPushButton>
 #include <QStyle>
 #include <QVBoxLayout>
 
-#include "core/windows/setup/setup_controls.h"
+#include "platform/windows/controls/named_controls.h"
+#include "platform/windows/controls/ok_cancel.h"
 #include "tools/tool_notices.h"
 
 namespace trimlog {
@@ -29,13 +29,10 @@ frmMedicalDisclaimer::frmMedicalDisclaimer(Session &session, QWidget *parent) : 
   QCheckBox *chkDisplay =
       AddCheck(layout, QStringLiteral("chkDisplay"), QStringLiteral(" Do not display this message again."));
   chkDisplay->setChecked(true);
-  auto *buttons = new QDialogButtonBox(this);
-  QPushButton *cmdOK = buttons->addButton(QDialogButtonBox::Ok);
-  cmdOK->setObjectName(QStringLiteral("cmdOK"));
-  cmdOK->setDefault(true);
-  cmdOK->setFocus();
-  layout->addWidget(buttons);
-  connect(buttons, &QDialogButtonBox::accepted, this, &QDialog::accept);
+  AddOkCancel(
+      *this, layout, [this] { accept(); }, QDialogButtonBox::Ok)
+      ->button(QDialogButtonBox::Ok)
+      ->setFocus();
   connect(this, &QDialog::finished, this, [&session, chkDisplay] {
     session.settings.MedicalDisclaimer = chkDisplay->isChecked();
     SaveSetting(session.settings, session.store, QStringLiteral("MedicalDisclaimer"));

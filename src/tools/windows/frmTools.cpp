@@ -12,7 +12,7 @@
 #include "core/profiles/colour_scheme.h"
 #include "core/session/failure_guard.h"
 #include "core/windows/controls/theme.h"
-#include "core/windows/setup/setup_controls.h"
+#include "platform/windows/controls/named_controls.h"
 #include "platform/windows/printing/window_printer.h"
 #include "tools/tool_notices.h"
 #include "tools/windows/body_fat_page.h"
@@ -20,7 +20,6 @@
 #include "tools/windows/frmMedicalDisclaimer.h"
 #include "tools/windows/planner_page.h"
 #include "tools/windows/tool_colours.h"
-#include "tools/windows/tool_controls.h"
 
 namespace trimlog {
 
@@ -67,13 +66,15 @@ frmTools::frmTools(Session &session, const Navigator &navigator, ToolsPanel pane
   AddButtons(layout);
   if (ShowsFewColours(session_)) {
     PaintToolPanel(this, Qt::white);
-    for (QWidget *page :
-         {static_cast<QWidget *>(pnlPlanner), static_cast<QWidget *>(pnlBMR), static_cast<QWidget *>(pnlBodyFat)}) {
-      PaintToolPanel(page, Qt::white);
-    }
+    for (QWidget *page : Pages()) PaintToolPanel(page, Qt::white);
   }
   cboTools->setCurrentIndex(static_cast<int>(panel));
   panels_->setCurrentIndex(static_cast<int>(panel));
+  // Every panel shows its texts before the window is measured, and the window has its size before it finds its place.
+  pnlBMR->ShowBMRTool();
+  pnlBodyFat->ShowBodyFatTool();
+  ensurePolished();
+  FitToPanels();
   connect(cboTools, &QComboBox::currentIndexChanged, this, &frmTools::SelectTool);
   connect(&session_.changes, &DataChanges::Changed, this, &frmTools::FollowChange);
 }
@@ -128,22 +129,29 @@ void frmTools::AddButtons(QLayout *layout) {
 
 void frmTools::FitToPanels() {
   // Captions may just have grown: their rows must know before they are asked.
-  for (QWidget *page :
-       {static_cast<QWidget *>(pnlPlanner), static_cast<QWidget *>(pnlBMR), static_cast<QWidget *>(pnlBodyFat)}) {
-    page->layout()->activate();
-  }
+  for (QWidget *page : Pages()) page->layout()->activate();
   // Room for the frame and title bar that the desktop puts around the window.
   const QSize room = screen()->availableSize() - QSize(16, 48);
   const int others = layout()->sizeHint().height() - scroll_->sizeHint().height();
-  const QSize needed = panels_->sizeHint().expandedTo(panels_->minimumSizeHint());
+  const int width = panels_->sizeHint().expandedTo(panels_->minimumSizeHint()).width();
+  // How high the notes are is known only once their width is.
+  const int height = std::max(panels_->minimumSizeHint().height(), panels_->heightForWidth(width));
   // A bar at the right must not make one at the bottom necessary.
-  const bool scrolls = needed.height() + others > room.height();
+  const bool scrolls = height + others > room.height();
   const int bar = scrolls ? style()->pixelMetric(QStyle::PM_ScrollBarExtent, nullptr, this) : 0;
-  resize(QSize(needed.width() + bar, needed.height() + others).expandedTo(size()).boundedTo(room));
+  resize(QSize(width + bar, height + others).expandedTo(size()).boundedTo(room));
+  if (isVisible()) KeepOnScreen();
+}
+
+void frmTools::KeepOnScreen() {
+  const QRect room = screen()->availableGeometry();
+  const QRect frame = frameGeometry();
+  const QPoint corner(std::max(room.left(), std::min(frame.left(), room.right() - frame.width() + 1)),
+                      std::max(room.top(), std::min(frame.top(), room.bottom() - frame.height() + 1)));
+  if (corner != frame.topLeft()) move(corner);
 }
 
 void frmTools::showEvent(QShowEvent *event) {
-  if (!activated_) FitToPanels();
   QDialog::showEvent(event);
   if (activated_) return;
   activated_ = true;
@@ -226,7 +234,7 @@ void frmTools::FillTool() {
       break;
     case ToolsPanel::BodyFat:
       pnlBodyFat->ShowBodyFatTool();
-      if (profile_.LatestWaist) pnlBodyFat->FocusCalculate();
+      pnlBodyFat->FocusFirst();
       break;
   }
 }

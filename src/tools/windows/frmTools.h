@@ -47,6 +47,7 @@ class frmTools : public QDialog {
   void FillTool();
   /// Grows the window until no panel is cut, as far as the screen allows.
   void FitToPanels();
+  void KeepOnScreen();
   void FollowChange(const DataChange &change);
   void PrintResults();
 

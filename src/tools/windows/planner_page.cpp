@@ -10,13 +10,13 @@
 #include "core/session/failure_guard.h"
 #include "core/windows/controls/show_calendar.h"
 #include "core/windows/controls/theme.h"
-#include "core/windows/setup/setup_controls.h"
+#include "platform/windows/controls/leave_check.h"
+#include "platform/windows/controls/named_controls.h"
+#include "platform/windows/controls/result_text.h"
 #include "platform/windows/fields/date_field.h"
 #include "platform/windows/fields/number_field.h"
 #include "tools/goal_plan.h"
-#include "tools/windows/leave_check.h"
 #include "tools/windows/tool_colours.h"
-#include "tools/windows/tool_controls.h"
 
 namespace trimlog {
 
@@ -46,6 +46,8 @@ PlannerPage::PlannerPage(Session &session, const ToolsProfile &profile, QWidget 
 
 namespace {
 
+constexpr int linesOfPlan = 5;
+
 /// Holds what the profile has stored; nobody sees it.
 QLabel *AddCarrier(QWidget *panel, const QString &name) {
   auto *carrier = new QLabel(panel);
@@ -63,7 +65,7 @@ QFrame *PlannerPage::AddStep(QLayout *layout, const QString &name, const QString
   panel->setFrameShape(QFrame::StyledPanel);
   layout->addWidget(panel);
   auto *rows = new QVBoxLayout(panel);
-  AddStepCaption(rows, caption);
+  MakeBold(AddLabel(rows, {}, caption));
   return panel;
 }
 
@@ -133,7 +135,9 @@ void PlannerPage::AddResultStep(QLayout *layout) {
   QFrame *panel = stepPanels_[3] =
       AddStep(layout, QStringLiteral("pnlStep3"), QStringLiteral("Step 4: What You Need to do"));
   QHBoxLayout *row = AddRow(panel->layout());
-  txtGoalConstraint = AddResultText(row, QStringLiteral("txtGoalConstraint"), QStringLiteral("What You Need to do"), 5);
+  txtGoalConstraint = new ResultText(QStringLiteral("txtGoalConstraint"), panel);
+  txtGoalConstraint->MakeFrame(linesOfPlan);
+  row->addWidget(txtGoalConstraint);
   cmdCalculate = AddCommand(row, QStringLiteral("cmdCalculate"), QStringLiteral("C&alculate Plan"));
   row->setAlignment(cmdCalculate, Qt::AlignTop);
   connect(cmdCalculate, &QPushButton::clicked, this, &PlannerPage::Calculate);
@@ -216,7 +220,9 @@ bool PlannerPage::FieldsAccepted() {
 }
 
 void PlannerPage::Calculate() {
-  if (FieldsAccepted()) UpdateGoalText();
+  const bool usable =
+      std::all_of(checks_.begin(), checks_.end(), [](LeaveCheck *check) { return check->InsistOnAny(); });
+  if (usable) UpdateGoalText();
 }
 
 void PlannerPage::UpdateGoalText() {

@@ -18,6 +18,7 @@ namespace trimlog {
 class DateField;
 class LeaveCheck;
 class NumberField;
+class ResultText;
 
 /// The Goal Planner: when the goal is reached at a rate, or which rate a date needs. A what-if: only the method of the
 /// plan, its date and its rate are kept with the profile, when the window closes.
@@ -31,7 +32,7 @@ class PlannerPage : public QWidget {
   /// Follows the weights of the profile, which may have changed.
   void ShowWeights();
   void FocusGoal();
-  /// False when a field that is being left refuses its text; the box was shown.
+  /// False when a field that was typed into refuses its text; the box was shown.
   bool FieldsAccepted();
   void StorePlan();
 
@@ -73,7 +74,7 @@ class PlannerPage : public QWidget {
   QRadioButton *optInitialWeight = nullptr;
   QRadioButton *optCurrentWeight = nullptr;
   QPushButton *cmdCalculate = nullptr;
-  QLabel *txtGoalConstraint = nullptr;
+  ResultText *txtGoalConstraint = nullptr;
   std::array<LeaveCheck *, 3> checks_{};
 };
 

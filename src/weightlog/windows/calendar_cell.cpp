@@ -5,7 +5,7 @@
 
 #include "core/windows/controls/fitting_font.h"
 #include "core/windows/controls/theme.h"
-#include "platform/windows/fields/member_name.h"
+#include "platform/windows/controls/member_name.h"
 
 namespace trimlog {
 

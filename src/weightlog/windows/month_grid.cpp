@@ -5,7 +5,7 @@
 
 #include "core/windows/controls/figure_field.h"
 #include "core/windows/controls/theme.h"
-#include "platform/windows/fields/member_name.h"
+#include "platform/windows/controls/member_name.h"
 #include "weightlog/calendar_speech.h"
 
 namespace trimlog {

@@ -11,7 +11,7 @@
 #include <QVBoxLayout>
 
 #include "core/settings/options.h"
-#include "core/windows/setup/setup_controls.h"
+#include "platform/windows/controls/named_controls.h"
 #include "platform/windows/fields/number_field.h"
 #include "platform/windows/fields/text_field.h"
 #include "weightlog/windows/frmReward.h"

@@ -74,7 +74,7 @@ void frmMDI::RunProfileCommand(const ProfileMenuEntry &entry) {
       if (session_.profile.CurrentPersonID == entry.PersonID) ShowSampleWelcome(session_, entry.PersonID);
       break;
     case ProfileCommand::CreateProfile:
-      if (SaveOpenEdit()) CreateProfile();
+      if (SaveOpenEdit()) CreateProfile(this);
       break;
     case ProfileCommand::EditProfiles:
       if (SaveOpenEdit()) navigator_.OpenSetup(SetupTab::Profiles);
@@ -86,20 +86,22 @@ void frmMDI::RunProfileCommand(const ProfileMenuEntry &entry) {
   }
 }
 
-void frmMDI::CreateProfile() {
-  Guarded(session_, LoadDataFailure(), [this] {
+bool frmMDI::CreateProfile(QWidget *owner) {
+  bool made = false;
+  Guarded(session_, LoadDataFailure(), [this, owner, &made] {
     if (!HasNoProfiles(session_)) {
-      navigator_.AddProfile(this);
+      made = navigator_.AddProfile(owner);
       return;
     }
     const QString before = session_.profile.CurrentPersonID;
     session_.profile.CurrentPersonID = QStringLiteral("1");
-    const bool written = navigator_.StartWiz(true);
-    if (!written && session_.profile.CurrentPersonID == QStringLiteral("1") && HasNoProfiles(session_)) {
+    made = navigator_.StartWiz(true);
+    if (!made && session_.profile.CurrentPersonID == QStringLiteral("1") && HasNoProfiles(session_)) {
       session_.profile.CurrentPersonID = before;
     }
     SwitchTo(session_.profile.CurrentPersonID);
   });
+  return made;
 }
 
 void frmMDI::GoToOwnProfile() {

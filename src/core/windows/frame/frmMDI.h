@@ -68,6 +68,8 @@ class frmMDI : public QMainWindow {
   void RunWizard();
   /// From a sample to the person's own profile; the first one is made on the way.
   void GoToOwnProfile();
+  /// Makes a profile: the first one with the wizard, and loads it; a further one with the add dialog. True when made.
+  bool CreateProfile(QWidget *owner);
 
   void CloseSplash();
   /// The window's place and state into the session, in twips.
@@ -104,7 +106,6 @@ class frmMDI : public QMainWindow {
   void SwitchTo(const QString &personID);
   void RunProfileCommand(const ProfileMenuEntry &entry);
   bool CanRunProfileCommand(ProfileCommand command) const;
-  void CreateProfile();
 
   Session &session_;
   const Navigator &navigator_;

@@ -1,7 +1,6 @@
 #include "core/windows/profiles/frmAddRec.h"
 
-#include <QDialogButtonBox>
-#include <QPushButton>
+#include "platform/windows/controls/ok_cancel.h"
 
 namespace trimlog {
 
@@ -12,13 +11,6 @@ frmAddRec::frmAddRec(QWidget *owner) : QDialog(owner), lblHeader(new QLabel(this
   lblHeader->setObjectName(QStringLiteral("lblHeader"));
   lblHeader->setWordWrap(true);
   layout_->addWidget(lblHeader);
-
-  auto *buttons = new QDialogButtonBox(QDialogButtonBox::Ok | QDialogButtonBox::Cancel, this);
-  buttons->button(QDialogButtonBox::Ok)->setObjectName(QStringLiteral("cmdOK"));
-  buttons->button(QDialogButtonBox::Cancel)->setObjectName(QStringLiteral("cmdCancel"));
-  connect(buttons, &QDialogButtonBox::accepted, this, &frmAddRec::OnOk);
-  connect(buttons, &QDialogButtonBox::rejected, this, &frmAddRec::reject);
-  layout_->addWidget(buttons);
 }
 
 void frmAddRec::SetPage(AddRecPage *page) {
@@ -26,6 +18,7 @@ void frmAddRec::SetPage(AddRecPage *page) {
   layout_->insertWidget(1, page, 1);
   setWindowTitle(page->Title());
   lblHeader->setText(page->Header());
+  AddOkCancel(*this, layout_, [this] { OnOk(); });
   page->setFocus();
 }
 

@@ -1,13 +1,13 @@
 #include "core/windows/profiles/frmEditPassword.h"
 
-#include <QDialogButtonBox>
 #include <QFormLayout>
 #include <QLabel>
 #include <QLineEdit>
-#include <QPushButton>
 #include <QVBoxLayout>
 
 #include "core/profiles/passwords.h"
+#include "platform/windows/controls/named_controls.h"
+#include "platform/windows/controls/ok_cancel.h"
 
 namespace trimlog {
 
@@ -20,28 +20,19 @@ frmEditPassword::frmEditPassword(Session &session, const QString &personID, cons
   auto *layout = new QVBoxLayout(this);
   auto *fields = new QFormLayout;
   layout->addLayout(fields);
-  auto *name = new QLabel(personName, this);
-  name->setObjectName(QStringLiteral("lblPersonName"));
-  name->setTextFormat(Qt::PlainText);
-  fields->addRow(QStringLiteral("Profile:"), name);
+  fields->addRow(QStringLiteral("Profile:"), MakeLabel(QStringLiteral("lblPersonName"), personName));
   txtOldPassword = AddField(fields, QStringLiteral("txtOldPassword"), QStringLiteral("&Old password:"),
                             QStringLiteral("Old password"));
   txtNewPassword = AddField(fields, QStringLiteral("txtNewPassword"), QStringLiteral("&New password:"),
                             QStringLiteral("New password"));
   txtConfirmPassword = AddField(fields, QStringLiteral("txtConfirmPassword"), QStringLiteral("&Confirm new password:"),
                                 QStringLiteral("Confirm new password"));
-  auto *note = new QLabel(QStringLiteral("Passwords can be a maximum of 25 characters and are not case-sensitive.  "
-                                         "Leave the new password empty to remove the password."),
-                          this);
-  note->setWordWrap(true);
-  layout->addWidget(note);
+  AddNote(
+      layout, QStringLiteral("lblNote"),
+      QStringLiteral("Passwords can be a maximum of 25 characters and are not case-sensitive.  Leave the new password "
+                     "empty to remove the password."));
 
-  auto *buttons = new QDialogButtonBox(QDialogButtonBox::Ok | QDialogButtonBox::Cancel, this);
-  buttons->button(QDialogButtonBox::Ok)->setObjectName(QStringLiteral("cmdOK"));
-  buttons->button(QDialogButtonBox::Cancel)->setObjectName(QStringLiteral("cmdCancel"));
-  connect(buttons, &QDialogButtonBox::accepted, this, &frmEditPassword::OnOk);
-  connect(buttons, &QDialogButtonBox::rejected, this, &frmEditPassword::reject);
-  layout->addWidget(buttons);
+  AddOkCancel(*this, layout, [this] { OnOk(); });
   txtOldPassword->setFocus();
 }
 

@@ -1,18 +1,18 @@
 #include "core/windows/profiles/frmPassword.h"
 
 #include <QComboBox>
-#include <QDialogButtonBox>
 #include <QEvent>
 #include <QFormLayout>
 #include <QLabel>
 #include <QLineEdit>
-#include <QPushButton>
 #include <QTimer>
 #include <QVBoxLayout>
 
 #include "core/data/data_access.h"
 #include "core/profiles/passwords.h"
 #include "core/profiles/profiles.h"
+#include "platform/windows/controls/named_controls.h"
+#include "platform/windows/controls/ok_cancel.h"
 
 namespace trimlog {
 
@@ -51,16 +51,12 @@ frmPassword::frmPassword(Session &session, const QString &personID, bool atStart
   setWindowFlag(Qt::WindowContextHelpButtonHint, false);
 
   auto *layout = new QVBoxLayout(this);
-  auto *message = new QLabel(atStartup ? QStringLiteral("Please choose a profile from the list and enter the password "
-                                                        "(if any).  Click <OK> to continue or <Cancel> to load a "
-                                                        "sample profile instead.")
-                                       : QStringLiteral("This profile is protected by a password."),
-                             this);
-  message->setObjectName(QStringLiteral("lblMessage"));
-  message->setTextFormat(Qt::PlainText);
-  message->setWordWrap(true);
-  message->setMinimumWidth(messageWidth);
-  layout->addWidget(message);
+  AddNote(layout, QStringLiteral("lblMessage"),
+          atStartup
+              ? QStringLiteral("Please choose a profile from the list and enter the password (if any).  Click <OK> "
+                               "to continue or <Cancel> to load a sample profile instead.")
+              : QStringLiteral("This profile is protected by a password."))
+      ->setMinimumWidth(messageWidth);
   auto *fields = new QFormLayout;
   layout->addLayout(fields);
   AddProfile(fields);
@@ -72,12 +68,7 @@ frmPassword::frmPassword(Session &session, const QString &personID, bool atStart
   txtPassword->setMaxLength(passwordLength);
   fields->addRow(QStringLiteral("Pass&word:"), txtPassword);
 
-  auto *buttons = new QDialogButtonBox(QDialogButtonBox::Ok | QDialogButtonBox::Cancel, this);
-  buttons->button(QDialogButtonBox::Ok)->setObjectName(QStringLiteral("cmdOK"));
-  buttons->button(QDialogButtonBox::Cancel)->setObjectName(QStringLiteral("cmdCancel"));
-  connect(buttons, &QDialogButtonBox::accepted, this, &frmPassword::OnOk);
-  connect(buttons, &QDialogButtonBox::rejected, this, &frmPassword::reject);
-  layout->addWidget(buttons);
+  AddOkCancel(*this, layout, [this] { OnOk(); });
   txtPassword->setFocus();
 }
 
@@ -89,10 +80,8 @@ void frmPassword::AddProfile(QFormLayout *fields) {
     fields->addRow(QStringLiteral("&Profile:"), cboPassword);
     return;
   }
-  auto *name = new QLabel(ProfileName(session_, personID_), this);
-  name->setObjectName(QStringLiteral("lblPersonName"));
-  name->setTextFormat(Qt::PlainText);
-  fields->addRow(QStringLiteral("Profile:"), name);
+  fields->addRow(QStringLiteral("Profile:"),
+                 MakeLabel(QStringLiteral("lblPersonName"), ProfileName(session_, personID_)));
 }
 
 QString frmPassword::SelectedPersonID() const { return atStartup_ ? cboPassword->currentData().toString() : personID_; }

@@ -1,12 +1,11 @@
 #include "core/windows/setup/frmSetup.h"
 
-#include <QDialogButtonBox>
-#include <QPushButton>
 #include <QTabWidget>
 #include <QVBoxLayout>
 
 #include "core/session/failure_guard.h"
 #include "core/settings/options.h"
+#include "platform/windows/controls/ok_cancel.h"
 
 namespace trimlog {
 
@@ -22,12 +21,6 @@ frmSetup::frmSetup(Session &session, const Navigator &navigator, const QList<Set
   SSTab1->setObjectName(QStringLiteral("SSTab1"));
   SSTab1->setAccessibleName(QStringLiteral("Options"));
   layout->addWidget(SSTab1);
-  auto *buttons = new QDialogButtonBox(QDialogButtonBox::Ok | QDialogButtonBox::Cancel, this);
-  buttons->button(QDialogButtonBox::Ok)->setObjectName(QStringLiteral("cmdOK"));
-  buttons->button(QDialogButtonBox::Cancel)->setObjectName(QStringLiteral("cmdCancel"));
-  connect(buttons, &QDialogButtonBox::accepted, this, &frmSetup::OnOk);
-  connect(buttons, &QDialogButtonBox::rejected, this, &frmSetup::reject);
-  layout->addWidget(buttons);
 
   const FailureExit failure{QStringLiteral("frmSetup"), QStringLiteral("Form_Load"),
                             QStringLiteral("Error Loading Setup Info"),
@@ -36,6 +29,7 @@ frmSetup::frmSetup(Session &session, const Navigator &navigator, const QList<Set
     RereadNutrientID(session_);
     AddPages(CoreSetupPages() + roomPages, navigator);
   });
+  AddOkCancel(*this, layout, [this] { OnOk(); });
 }
 
 void frmSetup::AddPages(const QList<SetupPageMaker> &makers, const Navigator &navigator) {

@@ -8,7 +8,8 @@
 #include "core/settings/options.h"
 #include "core/windows/controls/choice_combo.h"
 #include "core/windows/controls/colour_combo.h"
-#include "core/windows/setup/setup_controls.h"
+#include "platform/windows/controls/member_name.h"
+#include "platform/windows/controls/named_controls.h"
 
 namespace trimlog {
 
@@ -16,20 +17,18 @@ namespace {
 
 constexpr int bodyTypesInARow = 4;
 
-QString OfChart(const QString &control, size_t chart) { return QStringLiteral("%1(%2)").arg(control).arg(chart + 1); }
+QString OfChart(const char *control, size_t chart) { return MemberName(control, static_cast<int>(chart) + 1); }
 
 QLabel *Heading(const QString &text, QWidget *parent) {
   auto *heading = new QLabel(text, parent);
   heading->setTextFormat(Qt::PlainText);
   heading->setWordWrap(true);
   heading->setAlignment(Qt::AlignLeft | Qt::AlignBottom);
-  QFont bold = heading->font();
-  bold.setBold(true);
-  heading->setFont(bold);
+  MakeBold(heading);
   return heading;
 }
 
-QCheckBox *AddCell(QGridLayout *grid, int row, size_t chart, const QString &name, const QString &caption) {
+QCheckBox *AddCell(QGridLayout *grid, int row, size_t chart, const char *name, const QString &caption) {
   auto *check = new QCheckBox(caption);
   check->setObjectName(OfChart(name, chart));
   check->setAccessibleName(caption + QStringLiteral(", ") + ChartNames().at(static_cast<qsizetype>(chart)));
@@ -71,17 +70,19 @@ void SetupChartsPage::AddColumn(QGridLayout *grid, size_t chart) {
   const int place = static_cast<int>(chart) + 1;
   grid->addWidget(Heading(chartName, this), 0, place);
   ChartColumn &column = charts_[chart];
-  column.chkShowGridlines = AddCell(grid, 1, chart, QStringLiteral("chkShowGridlines"), QStringLiteral("Gridlines"));
-  column.chkShowDataLabels =
-      AddCell(grid, 2, chart, QStringLiteral("chkShowDataLabels"), QStringLiteral("Data labels"));
-  column.chkPlotPoints = AddCell(grid, 3, chart, QStringLiteral("chkPlotPoints"), QStringLiteral("Plot points"));
+  column.chkShowGridlines = AddCell(grid, 1, chart, "chkShowGridlines", QStringLiteral("Gridlines"));
+  column.chkShowDataLabels = AddCell(grid, 2, chart, "chkShowDataLabels", QStringLiteral("Data labels"));
+  column.chkPlotPoints = AddCell(grid, 3, chart, "chkPlotPoints", QStringLiteral("Plot points"));
   column.cboLineWidth =
-      new ChoiceCombo(OfChart(QStringLiteral("cboLineWidth"), chart), QStringLiteral("Line width, ") + chartName, this);
+      new ChoiceCombo(OfChart("cboLineWidth", chart), QStringLiteral("Line width, ") + chartName, this);
   column.cboLineWidth->SetChoices(LineWidths());
-  column.cboLineColor = new ColourCombo(OfChart(QStringLiteral("cboLineColor"), chart),
-                                        QStringLiteral("Line color, ") + chartName, ChartColours(), this);
-  column.cboPointColor = new ColourCombo(OfChart(QStringLiteral("cboPointColor"), chart),
-                                         QStringLiteral("Point color, ") + chartName, ChartColours(), this);
+  column.cboLineColor =
+      new ColourCombo(OfChart("cboLineColor", chart), QStringLiteral("Line color, ") + chartName, ChartColours(), this);
+  column.cboPointColor = new ColourCombo(OfChart("cboPointColor", chart), QStringLiteral("Point color, ") + chartName,
+                                         ChartColours(), this);
+  SpeakAs(column.cboLineWidth, QStringLiteral("Line width, ") + chartName);
+  SpeakAs(column.cboLineColor, QStringLiteral("Line color, ") + chartName);
+  SpeakAs(column.cboPointColor, QStringLiteral("Point color, ") + chartName);
   grid->addWidget(column.cboLineWidth, 4, place);
   grid->addWidget(column.cboLineColor, 5, place);
   grid->addWidget(column.cboPointColor, 6, place);
@@ -94,7 +95,7 @@ QWidget *SetupChartsPage::MakeBodyTypes() {
   optBodyType = new QButtonGroup(this);
   for (const OptionChoice &type : BodyTypes()) {
     auto *option = new QRadioButton(type.text, group);
-    option->setObjectName(QStringLiteral("optBodyType(%1)").arg(type.value - 1));
+    option->setObjectName(MemberName("optBodyType", type.value - 1));
     optBodyType->addButton(option, type.value);
     layout->addWidget(option, (type.value - 1) / bodyTypesInARow, (type.value - 1) % bodyTypesInARow);
   }

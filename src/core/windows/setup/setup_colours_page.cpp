@@ -8,7 +8,7 @@
 #include "core/settings/options.h"
 #include "core/windows/controls/colour_combo.h"
 #include "core/windows/controls/grid_follow.h"
-#include "core/windows/setup/setup_controls.h"
+#include "platform/windows/controls/named_controls.h"
 #include "platform/windows/grid/bound_grid.h"
 
 namespace trimlog {

@@ -7,7 +7,7 @@
 
 #include "core/settings/options.h"
 #include "core/windows/controls/choice_combo.h"
-#include "core/windows/setup/setup_controls.h"
+#include "platform/windows/controls/named_controls.h"
 
 namespace trimlog {
 

@@ -5,7 +5,7 @@
 #include <QVBoxLayout>
 
 #include "core/settings/options.h"
-#include "core/windows/setup/setup_controls.h"
+#include "platform/windows/controls/named_controls.h"
 
 namespace trimlog {
 

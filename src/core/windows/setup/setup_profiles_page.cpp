@@ -3,12 +3,14 @@
 #include <QHBoxLayout>
 #include <QVBoxLayout>
 
+#include "core/profiles/goal.h"
 #include "core/profiles/profile_list.h"
 #include "core/profiles/profiles.h"
 #include "core/settings/options.h"
 #include "core/windows/controls/grid_follow.h"
+#include "core/windows/controls/refused_row.h"
 #include "core/windows/profiles/frmEditPassword.h"
-#include "core/windows/setup/setup_controls.h"
+#include "platform/windows/controls/named_controls.h"
 #include "platform/windows/grid/bound_grid.h"
 
 namespace trimlog {
@@ -41,6 +43,7 @@ void SetupProfilesPage::SetHooks() {
   hooks.guard = [this](GridAction action, const std::function<void()> &work) {
     return Guarded(session_, ProfileListFailure(action), work);
   };
+  hooks.beforeUpdate = [this](GridRowEdit &row) { return RefusedProfileRow(row, uomID_); };
   hooks.beforeDelete = [this](const std::vector<qint64> &keys) {
     return AskDeleteProfiles(session_, static_cast<int>(keys.size()));
   };
@@ -56,6 +59,7 @@ void SetupProfilesPage::Load(const Settings &) {
 }
 
 void SetupProfilesPage::ShowUnits(int uomID) {
+  uomID_ = uomID;
   const UnitLabels labels = LabelsOf(uomID);
   GridModel &model = grdPeople->Model();
   model.SetCaption(QStringLiteral("Goal"), labels.Goal);
@@ -65,7 +69,7 @@ void SetupProfilesPage::ShowUnits(int uomID) {
 
 void SetupProfilesPage::UpdateButtons() {
   const bool onProfile = grdPeople->CurrentKey().has_value();
-  cmdNewProfile->setEnabled(static_cast<bool>(navigator_.AddProfile));
+  cmdNewProfile->setEnabled(static_cast<bool>(navigator_.CreateProfile));
   cmdDeleteProfile->setEnabled(onProfile);
   cmdPassword->setEnabled(onProfile);
 }
@@ -79,19 +83,24 @@ bool SetupProfilesPage::Validate() {
   const bool saved = grdPeople->CommitRow();
   if (!grdPeople->CurrentKey()) return saved;
   const QModelIndex goal = GoalCell();
-  const bool goOn = ConfirmGoal(session_, goal.data(Qt::EditRole).toString());
-  if (goOn && saved) return true;
-  grdPeople->setFocus();
+  if (!ConfirmGoal(session_, goal.data(Qt::EditRole).toString())) {
+    grdPeople->setFocus();
+    return false;
+  }
+  if (saved) return true;
   const bool goalRefused = !goal.data(GridModel::SentenceRole).toString().isEmpty();
-  if (!goOn || !goalRefused) return false;
-  // Who goes on with a goal that is no number leaves with the goal that was there.
-  grdPeople->setCurrentIndex(goal);
-  grdPeople->UndoField();
-  return grdPeople->CommitRow();
+  if (goalRefused && !IsGoal(goal.data(Qt::EditRole).toString(), session_.locale)) {
+    // Who goes on with a goal that is no number leaves with the goal that was there.
+    grdPeople->setCurrentIndex(goal);
+    grdPeople->UndoField();
+    if (grdPeople->CommitRow()) return true;
+  }
+  ShowRefusedRow(session_, QStringLiteral("Invalid Profile"), *grdPeople);
+  return false;
 }
 
 void SetupProfilesPage::OnNewProfile() {
-  if (!grdPeople->CommitRow() || !navigator_.AddProfile(this)) return;
+  if (!grdPeople->CommitRow() || !navigator_.CreateProfile(this)) return;
   UpdateButtons();
 }
 

@@ -31,6 +31,7 @@ class SetupProfilesPage : public SetupPage {
 
   Session &session_;
   const Navigator &navigator_;
+  int uomID_ = 1;  ///< the unit system that the window shows
   BoundGrid *grdPeople = nullptr;
   QPushButton *cmdNewProfile = nullptr;
   QPushButton *cmdDeleteProfile = nullptr;

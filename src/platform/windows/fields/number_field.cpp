@@ -26,6 +26,7 @@ NumberField::NumberField(const QString &objectName, const QString &label, const 
   setAccessibleName(label);
   setAlignment(Qt::AlignRight | Qt::AlignVCenter);
   setInputMethodHints(Qt::ImhFormattedNumbersOnly);
+  home(false);  // without a first place of the cursor a screen reader is silent on the first Tab
 }
 
 std::optional<double> NumberField::Number() const { return ParseNumber(text(), locale_); }

@@ -6,6 +6,7 @@ TextField::TextField(const QString &objectName, const QString &label, int maxLen
     : QLineEdit(parent) {
   setObjectName(objectName);
   setAccessibleName(label);
+  home(false);  // without a first place of the cursor a screen reader is silent on the first Tab
   if (maxLength > 0) setMaxLength(maxLength);
   connect(this, &QLineEdit::textEdited, this, [this](const QString &typed) {
     QString oneLine = typed;
