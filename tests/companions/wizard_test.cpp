@@ -20,16 +20,18 @@ QStringList Titles(const WizardPlan &plan) {
 }
 
 TEST(WizardPlan, NamesItsStepsByModeAndScreen) {
-  EXPECT_EQ(Titles(WizardPlan(false, true)),
+  EXPECT_EQ(Titles(WizardPlan(WizardMode::FirstRun, true)),
             (QStringList{"Introduction to this Wizard (Step 1 of 5)", "Your Profile Information (Step 2 of 5)",
                          "Your Weight and Diet Information (Step 3 of 5)", "Your Nutrient Selections (Step 4 of 5)",
                          "Your Color Scheme (Step 5 of 5)"}));
-  EXPECT_EQ(Titles(WizardPlan(false, false)).last(), "Your Nutrient Selections (Step 4 of 4)");
-  EXPECT_EQ(Titles(WizardPlan(true, true)),
-            (QStringList{"Your Profile Information (Step 1 of 2)", "Your Weight Information (Step 2 of 2)"}));
-  EXPECT_EQ(WizardPlan(true, true).NextCaption(1), "&Next");
-  EXPECT_EQ(WizardPlan(true, true).NextCaption(2), "&Finish");
-  EXPECT_THROW(WizardPlan(true, true).StepAt(3), Error);
+  EXPECT_EQ(Titles(WizardPlan(WizardMode::FirstRun, false)).last(), "Your Nutrient Selections (Step 4 of 4)");
+  for (const WizardMode mode : {WizardMode::AddingProfile, WizardMode::CompletingProfile}) {
+    const WizardPlan plan(mode, true);
+    EXPECT_EQ(Titles(plan),
+              (QStringList{"Your Profile Information (Step 1 of 2)", "Your Weight Information (Step 2 of 2)"}));
+    EXPECT_EQ(plan.NextCaption(1) + plan.NextCaption(2), "&Next&Finish");
+    EXPECT_THROW(plan.StepAt(3), Error);
+  }
 }
 
 TEST(WizardFields, AreMendedOnLeaving) {
@@ -46,8 +48,8 @@ TEST(WizardFields, AreMendedOnLeaving) {
 
 WizardAnswers Height(double height1, double height2, int UomID) {
   WizardAnswers answers;
-  answers.height1 = height1;
-  answers.height2 = height2;
+  answers.person.HeightFeet = height1;
+  answers.person.HeightInches = height2;
   answers.UomID = UomID;
   return answers;
 }
@@ -96,6 +98,30 @@ TEST(WizardNutrients, KeepTickAndTargetInStep) {
   for (const char *refused : {"lots", "-1", "12,3,4"}) EXPECT_NE(RefusedTarget(refused, german), "") << refused;
 }
 
+TEST(WizardNutrients, RefuseATargetThatItsColumnCannotHold) {
+  TestSession session;
+  struct Case {
+    int nutrientID;
+    const char *typed;
+    const char *sentence;
+  };
+  for (const Case &c : {Case{1, "32767", ""},
+                        {1, "32767.6", "Please type a number from 0 to 32767."},
+                        {23, "255", ""},
+                        {23, "256", "Please type a number from 0 to 255."},
+                        {20, "40000", ""},
+                        {20, "1e30", "Please type a number from 0 to 9999999."},
+                        {1, "(type a value)", ""}}) {
+    EXPECT_EQ(RefusedTargetOf(*session, c.nutrientID, c.typed), c.sentence) << c.nutrientID << " " << c.typed;
+  }
+}
+
+TEST(WizardFields, ProposeTheUnitsOfTheCountry) {
+  EXPECT_EQ(ProposedUomID(1, german), 2);
+  EXPECT_EQ(ProposedUomID(1, english), 1);
+  EXPECT_EQ(ProposedUomID(2, english), 2) << "somebody chose it";
+}
+
 TEST(WizardNutrients, RecommendTheBandOfAgeAndGender) {
   const QDate today(2026, 3, 1);
   const std::vector<std::tuple<int, const char *, const char *>> bands = {
@@ -111,13 +137,14 @@ TEST(WizardNutrients, RecommendTheBandOfAgeAndGender) {
 
 WizardAnswers Answers(const QString &diet) {
   WizardAnswers answers;
-  answers.PersonName = QStringLiteral("O'Brien \"Bo\"");
-  answers.height1 = 5;
-  answers.height2 = 6;
-  answers.birthDate = QDate(1990, 1, 1);
+  answers.person = {.PersonName = QStringLiteral("O'Brien \"Bo\""),
+                    .Goal = 150,
+                    .HeightFeet = 5,
+                    .HeightInches = 6,
+                    .BirthDate = QDate(1990, 1, 1),
+                    .BackColor = 16769216};
   answers.startingWeight = 185.5;
   answers.startingDate = QDate(2026, 3, 1);
-  answers.goal = 150;
   answers.diet = diet;
   return answers;
 }
@@ -134,9 +161,10 @@ TEST(WizardNutrients, FollowTheDiet) {
     int nutrientID;
     const char *target;
   };
-  const std::vector<Case> cases = {{"101", 33, "20"},   {"101", 2, "None"}, {"102", 2, "133"},  {"102", 27, "40"},
-                                   {"102", 1, "None"},  {"103", 4, "120"},  {"104", 1, "2200"}, {"106", 13, "1.6"},
-                                   {"106", 11, "4000"}, {"100", 20, "None"}};
+  const std::vector<Case> cases = {{"101", 33, "20"},  {"101", 2, "None"},  {"102", 3, "50"},   {"102", 4, "100"},
+                                   {"102", 23, "30"},  {"102", 25, "30"},   {"102", 2, "133"},  {"102", 27, "40"},
+                                   {"102", 1, "None"}, {"103", 2, "50"},    {"103", 4, "120"},  {"104", 1, "2200"},
+                                   {"106", 13, "1.6"}, {"106", 11, "4000"}, {"100", 20, "None"}};
   for (const Case &c : cases) {
     FillWizardNutrients(*session, Answers(QString::fromLatin1(c.diet)));
     EXPECT_EQ(TargetOf(session, c.nutrientID), c.target) << c.diet << " nutrient " << c.nutrientID;
@@ -197,7 +225,7 @@ TEST(WizardFinish, TheFirstRunWritesProfileWeightTargetsAndSelection) {
   session.Data().Execute("UPDATE temp_meals_search SET Amount = \"77,5\" WHERE (MealID=1);");
   session.Data().Execute("UPDATE temp_meals_search SET Amount = \"1800.5\" WHERE (MealID=2);");
 
-  EXPECT_EQ(FinishWizard(*session, answers, false), "1");
+  EXPECT_EQ(FinishWizard(*session, answers, WizardMode::FirstRun), "1");
   EXPECT_EQ(session.ValueOf("PersonName", "people", "PersonID=1"), "O'Brien ''Bo''");
   EXPECT_EQ(session.ValueOf("Goal", "people", "PersonID=1"), "150");
   EXPECT_EQ(session.ValueOf("GenderID", "people", "PersonID=1"), "2");
@@ -227,10 +255,43 @@ TEST(WizardFinish, AFurtherProfileLeavesTheSelectionAlone) {
   FillWizardNutrients(*session, Answers(QStringLiteral("101")));
   const QString before = session.ValueOf("NutrientID1", "selected_nutrients", "PersonID=1");
   const QString sets = session.ValueOf("Max(TargetID) AS M", "nutrition_targets");
-  EXPECT_EQ(FinishWizard(*session, Answers(QStringLiteral("101")), true), "2");
+  EXPECT_EQ(FinishWizard(*session, Answers(QStringLiteral("101")), WizardMode::AddingProfile), "2");
   EXPECT_EQ(session.ValueOf("NutrientID1", "selected_nutrients", "PersonID=1"), before);
   EXPECT_EQ(session.ValueOf("Max(TargetID) AS M", "nutrition_targets"), sets);
   EXPECT_EQ(session->settings.NutrientID, 102);
+}
+
+TEST(WizardFinish, CompletesTheProfileInUseAndNobodyElse) {
+  TestSession session;
+  session.AddProfile(2, QStringLiteral("Ann"));
+  session.Data().Execute("UPDATE people SET Goal=\"\", Password=\"x\", NutTargetID=12 WHERE (PersonID=1);");
+  EXPECT_EQ(WizardModeNow(*session), WizardMode::CompletingProfile);
+  WizardStart start = StartingAnswers(*session, WizardMode::CompletingProfile);
+  EXPECT_EQ(start.answers.person.PersonName, "Test Person");
+  EXPECT_FALSE(start.hasWeights);
+  start.answers.person.Goal = 140;
+  start.answers.startingWeight = 181.5;
+  EXPECT_EQ(FinishWizard(*session, start.answers, WizardMode::CompletingProfile), "1");
+  EXPECT_EQ(session.ValueOf("Goal", "people", "PersonID=1"), "140");
+  EXPECT_EQ(
+      session.ValueOf("Password", "people", "PersonID=1") + session.ValueOf("NutTargetID", "people", "PersonID=1"),
+      "x12");
+  EXPECT_EQ(session.ValueOf("ThisWeight", "weight_loss", "PersonID=1 AND ThisDate=#3/1/2026#"), "181.5");
+  EXPECT_EQ(session.ValueOf("PersonName", "people", "PersonID=2") + session.ValueOf("Goal", "people", "PersonID=2"),
+            "Ann150");
+  EXPECT_EQ(session.ValueOf("Count(*) AS N", "people", "PersonID > 0"), "2");
+  EXPECT_EQ(WizardModeNow(*session), WizardMode::AddingProfile) << "nothing is missing any more";
+
+  // With weights and no goal the weights stay.
+  session.Data().Execute("UPDATE people SET Goal=\"\" WHERE (PersonID=1);");
+  start = StartingAnswers(*session, WizardMode::CompletingProfile);
+  EXPECT_TRUE(start.hasWeights);
+  EXPECT_EQ(start.answers.startingWeight, 181.5);
+  start.answers.person.Goal = 130;
+  FinishWizard(*session, start.answers, WizardMode::CompletingProfile);
+  EXPECT_EQ(session.ValueOf("Count(*) AS N", "weight_loss", "PersonID=1"), "1");
+  session->profile.CurrentPersonID = QStringLiteral("-2");
+  EXPECT_EQ(WizardModeNow(*session), WizardMode::AddingProfile) << "a sample lacks nothing";
 }
 
 TEST(WizardFinish, WritesAllOrNothing) {
@@ -238,7 +299,7 @@ TEST(WizardFinish, WritesAllOrNothing) {
   WizardAnswers answers = Answers(QStringLiteral("101"));
   session.Data().Execute("DELETE selected_nutrients.*, selected_nutrients.PersonID FROM selected_nutrients;");
   session.Data().Execute("ALTER TABLE selected_nutrients RENAME TO gone;");
-  EXPECT_THROW(FinishWizard(*session, answers, false), Error);
+  EXPECT_THROW(FinishWizard(*session, answers, WizardMode::FirstRun), Error);
   EXPECT_EQ(session.ValueOf("PersonName", "people", "PersonID=2"), "");
 }
 

@@ -47,8 +47,9 @@ TEST_F(AddProfile, SaysWhatIsWrongAndGoesThere) {
                         {"txtBirthDate", "3/2/2026", "Invalid Birth Date", "3/2/1996"},
                         {"txtUserID", "", "Profile ID Required", "ann"},
                         {"txtUserID", "12345678901234567890123456", "Profile ID Too Long", "ann"},
-                        {"txtUserID", "TAKEN", "Profile ID Already Exists", "ann"},
-                        {"txtPassword", "12345678901234567890123456", "Password Too Long", "secret"}};
+                        {"txtUserID", "TAKEN", "Profile ID Already Exists", "an\"n"},
+                        {"txtPassword", "12345678901234567890123456", "Password Too Long", "se\"cret"},
+                        {"txtGoal", "1e300", "Invalid Goal", "150"}};
   EXPECT_TRUE(Add([&](QWidget &dialog, Keyboard &keys) {
     Find<QLineEdit>(dialog, "txtPersonName").setText("Ann");
     Find<QLineEdit>(dialog, "txtUserID").setText("ann");
@@ -68,7 +69,7 @@ TEST_F(AddProfile, SaysWhatIsWrongAndGoesThere) {
     keys.Type("140");
     keys.Enter();
   }));
-  EXPECT_EQ(Person("UserID", 2) + "|" + Person("Password", 2) + "|" + Person("Goal", 2), "ann|secret|140");
+  EXPECT_EQ(Person("UserID", 2) + "|" + Person("Password", 2) + "|" + Person("Goal", 2), "an\"n|se\"cret|140");
   EXPECT_EQ(Count("people", "PersonID=2 AND BirthDate=#3/2/1996#"), "1");
 }
 

@@ -3,6 +3,7 @@
 #include <gtest/gtest.h>
 
 #include <QApplication>
+#include <QDialog>
 #include <QLabel>
 #include <QLineEdit>
 #include <QTest>
@@ -74,8 +75,20 @@ class WizardTest : public testing::Test {
     WhenModal([&act](QWidget &wizard) {
       Keyboard keys(wizard);
       act(wizard, keys);
+      // What a test leaves open is closed without a question.
+      if (auto *dialog = qobject_cast<QDialog *>(&wizard); dialog && dialog->isVisible()) dialog->done(0);
     });
     return StartWiz(*session, navigator, force, nullptr);
+  }
+  void Weigh(double weight) {
+    session.Data().Execute(QStringLiteral("INSERT INTO weight_loss ( PersonID, ThisDate, ThisWeight, ThisLoss ) "
+                                          "VALUES ( 1, #3/1/2026#, ?, 0 );"),
+                           {weight});
+  }
+  void ExpectLeaveQuestion(BoxButton answer) {
+    session.boxes.Expect(QStringLiteral("Trimlog Pro Configuration Wizard"),
+                         QStringLiteral("What you have entered so far will be lost.  Do you want to leave the wizard?"),
+                         answer);
   }
   static QString TextOf(QWidget &wizard, const char *name) {
     return Find<QWidget>(wizard, QString::fromLatin1(name)).property("text").toString();

@@ -82,9 +82,9 @@ class FirstRunInGerman : public FirstRun {
 
 TEST_F(FirstRunInGerman, TakesKilogramsMetresAndDecimalCommas) {
   EXPECT_TRUE(Run([&](QWidget &wizard, Keyboard &keys) {
+    EXPECT_EQ(session->settings.UomID, 1);
     keys.Enter();
-    keys.Alt(Qt::Key_U);
-    keys.Press(Qt::Key_Down);
+    keys.Alt(Qt::Key_U);  // the country's units are proposed
     EXPECT_EQ(TextOf(wizard, "lblHeight1") + TextOf(wizard, "lblHeight2"), "MetersCentimeters");
     keys.Tab();
     keys.FillStep({"1", "78,5", "6.5.1990", "", ""});
@@ -132,6 +132,7 @@ TEST_F(FirstRun, MendsFieldsThatAreLeft) {
                         {"txtHeight1", "0.9", "0"},
                         {"txtHeight2", "12", "11"},
                         {"txtHeight2", "5.5", "5.5"},
+                        {"txtHeight1", "5", "5"},
                         {"txtBirthDate", "yesterday", "3/1/1996"},
                         {"txtBirthDate", "2/30/1990", "3/1/1996"}};
   Run([&](QWidget &wizard, Keyboard &keys) {
@@ -170,6 +171,7 @@ TEST_F(FirstRun, RefusesWhatNoProfileCanKeep) {
   };
   const Case profile[] = {
       {"txtHeight1", "5000000000", "Invalid Height", "Please enter a valid height."},
+      {"txtHeight1", "170", "Invalid Height", "Please enter a valid height."},
       {"txtBirthDate", "3/2/2026", "Invalid Birth Date", "Please enter a birth date that is not in the future."},
       {"txtBirthDate", "1/1/1850", "Invalid Birth Date", "Please enter a valid birth date."}};
   const Case weight[] = {{"txtStartingWeight", "x", "Invalid Weight", "positive value"},
@@ -192,6 +194,7 @@ TEST_F(FirstRun, RefusesWhatNoProfileCanKeep) {
     Find<QLineEdit>(wizard, "txtPersonName").setText(QString(10000, u'n'));
     Find<QLineEdit>(wizard, "txtBirthDate").setText("1/1/1990");
     for (const Case &c : profile) refuse(c, "Your Profile Information (Step 2 of 5)");
+    Find<QLineEdit>(wizard, "txtHeight1").setText("5");
     Find<QLineEdit>(wizard, "txtHeight2").setText("1e6");
     keys.Enter();
     EXPECT_EQ(TextOf(wizard, "txtHeight2"), "11") << "Enter mends the field that it leaves";
@@ -318,10 +321,18 @@ TEST_F(FirstRun, SkippedLoadsASampleAndComesBack) {
       false));
 }
 
-TEST_F(FirstRun, LeftByEscapeWritesNothing) {
-  EXPECT_FALSE(Run([&](QWidget &, Keyboard &keys) {
+TEST_F(FirstRun, IsNotLeftWithAnswersWithoutAQuestion) {
+  EXPECT_FALSE(Run([&](QWidget &wizard, Keyboard &keys) {
     GoToNutrients(keys);
+    ExpectLeaveQuestion(BoxButton::No);
     keys.Press(Qt::Key_Escape);
+    EXPECT_EQ(session.boxes.Shown().back().defaultButton, BoxButton::No);
+    ExpectLeaveQuestion(BoxButton::No);
+    keys.Alt(Qt::Key_S);
+    EXPECT_TRUE(wizard.isVisible());
+    ExpectLeaveQuestion(BoxButton::Yes);
+    keys.Press(Qt::Key_Escape);
+    EXPECT_FALSE(wizard.isVisible());
   }));
   EXPECT_EQ(Count("people", "PersonID > 0") + Count("weight_loss", "PersonID > 0"), "00");
   EXPECT_TRUE(loaded.isEmpty());
@@ -380,10 +391,44 @@ TEST_F(FirstRun, NoTwoControlsOfAPageShareAnAccessKey) {
   });
 }
 
-class AddingProfile : public WizardTest {};
+TEST_F(FirstRun, AHeightIsAskedAboutAgainAfterTheUnitsChanged) {
+  Run([&](QWidget &wizard, Keyboard &keys) {
+    keys.Enter();
+    Find<QLineEdit>(wizard, "txtHeight1").setText("5");
+    Find<QLineEdit>(wizard, "txtHeight2").setText("6");
+    keys.Alt(Qt::Key_U);
+    keys.Press(Qt::Key_Down);
+    session.boxes.Expect("Invalid Height", "Please enter a valid height.");
+    keys.Enter();
+    EXPECT_EQ(keys.FocusName(), "txtHeight1") << "five metres and six";
+  });
+}
+
+TEST_F(FirstRun, ATargetBeyondItsColumnIsRefusedAtItsOwnStep) {
+  EXPECT_TRUE(Run([&](QWidget &wizard, Keyboard &keys) {
+    GoToNutrients(keys);
+    const QString calories = Cell(wizard, 0, targetColumn);
+    GoToCell(wizard, 0, targetColumn);
+    keys.Type("99999");
+    keys.Enter();
+    session.boxes.Expect("Invalid Target", "Please type a number from 0 to 32767.");
+    keys.Enter();
+    EXPECT_EQ(Title(wizard), "Your Nutrient Selections (Step 4 of 5)");
+    Grid(wizard).UndoRow();
+    EXPECT_EQ(Cell(wizard, 0, targetColumn), calories);
+    keys.Enter();
+    keys.Enter();
+  }));
+}
+
+class AddingProfile : public WizardTest {
+ protected:
+  AddingProfile() { Weigh(180); }
+};
 
 TEST_F(AddingProfile, TakesTwoStepsAndLeavesSelectionTargetsAndUnitsAlone) {
   for (const int uomID : {1, 2}) {
+    session->profile.CurrentPersonID = QStringLiteral("1");
     session->settings.UomID = uomID;
     const QString selection = session.ValueOf("NutrientID1", "selected_nutrients", "PersonID=1");
     const QString sets = Count("nutrition_targets");
@@ -411,6 +456,7 @@ TEST_F(AddingProfile, TakesTwoStepsAndLeavesSelectionTargetsAndUnitsAlone) {
 TEST_F(AddingProfile, CancelLeavesTheProfileInUse) {
   EXPECT_FALSE(Run([&](QWidget &wizard, Keyboard &keys) {
     keys.Type("Ann");
+    ExpectLeaveQuestion(BoxButton::Yes);
     Find<QPushButton>(wizard, "cmdCancel").click();
   }));
   EXPECT_EQ(session->profile.CurrentPersonID, "1");
@@ -418,14 +464,52 @@ TEST_F(AddingProfile, CancelLeavesTheProfileInUse) {
 }
 
 TEST_F(AddingProfile, TheWizardStartsByItselfOnlyWithoutGoalOrWeights) {
-  session.Data().Execute(
-      "INSERT INTO weight_loss ( PersonID, ThisDate, ThisWeight, ThisLoss ) "
-      "VALUES ( 1, #3/1/2026#, 180, 0 );");
   EXPECT_FALSE(StartWiz(*session, navigator, false, nullptr)) << "a window would hang here";
   session.Data().Execute("UPDATE people SET Goal = \"\" WHERE (PersonID=1);");
   bool opened = false;
   Run([&](QWidget &, Keyboard &) { opened = true; }, false);
   EXPECT_TRUE(opened);
+}
+
+class CompletingProfile : public WizardTest {};
+
+TEST_F(CompletingProfile, FillsInWhatIsKnownAndAddsTheWeight) {
+  session.Data().Execute(
+      "UPDATE people SET HeightFeet=5, HeightInches=6.5, BirthDate=#5/6/1990#, GenderID=1 "
+      "WHERE (PersonID=1);");
+  EXPECT_TRUE(Run(
+      [&](QWidget &wizard, Keyboard &keys) {
+        EXPECT_EQ(Title(wizard), "Your Profile Information (Step 1 of 2)");
+        EXPECT_EQ(TextOf(wizard, "txtPersonName") + TextOf(wizard, "txtHeight1") + TextOf(wizard, "txtHeight2"),
+                  "Test Person56.5");
+        EXPECT_EQ(TextOf(wizard, "txtBirthDate"), "5/6/1990");
+        EXPECT_TRUE(Find<QRadioButton>(wizard, "optGenderMale").isChecked());
+        keys.Type("Bo");
+        keys.Enter();
+        EXPECT_EQ(Title(wizard), "Your Weight Information (Step 2 of 2)");
+        EXPECT_EQ(TextOf(wizard, "txtGoal"), "150");
+        keys.FillStep({"181.5"});
+      },
+      false));
+  EXPECT_EQ(Count("people", "PersonID > 0"), "1") << "no second person";
+  EXPECT_EQ(session->profile.CurrentPersonID, "1");
+  EXPECT_EQ(Person("PersonName", 1) + Person("HeightInches", 1) + Person("Goal", 1), "Bo6.5150");
+  EXPECT_EQ(Count("weight_loss", "PersonID=1 AND ThisWeight=181.5"), "1");
+}
+
+TEST_F(CompletingProfile, WithoutAGoalTheWeightsStayAsTheyAre) {
+  Weigh(180);
+  session.Data().Execute("UPDATE people SET Goal=Null WHERE (PersonID=1);");
+  EXPECT_TRUE(Run(
+      [&](QWidget &wizard, Keyboard &keys) {
+        keys.Enter();
+        EXPECT_EQ(TextOf(wizard, "txtStartingWeight"), "180");
+        EXPECT_FALSE(Find<QWidget>(wizard, "txtStartingWeight").isEnabled());
+        EXPECT_EQ(keys.FocusName(), "txtGoal");
+        keys.FillStep({"150"});
+      },
+      false));
+  EXPECT_EQ(Person("Goal", 1) + Count("weight_loss", "PersonID=1"), "1501");
 }
 
 TEST_F(AddingProfile, AWizardThatCannotStartSaysSo) {

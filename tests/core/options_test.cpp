@@ -2,7 +2,7 @@
 
 #include <gtest/gtest.h>
 
-#include "core/profiles/profile_list.h"
+#include "core/profiles/goal.h"
 #include "core/settings/window_position.h"
 #include "support/test_session.h"
 

@@ -1,10 +1,12 @@
 #include <gtest/gtest.h>
 
+#include <QAccessible>
 #include <QCheckBox>
 #include <QLabel>
 #include <QLineEdit>
 #include <QPushButton>
 #include <QRadioButton>
+#include <QTabBar>
 #include <QTabWidget>
 #include <QTest>
 
@@ -261,22 +263,27 @@ TEST_F(SetupWindow, RefusedValuesStayInViewAndKeepTheWindowOpen) {
   struct Case {
     const char *column;
     const char *typed;
+    const char *sentence;
   };
-  for (const Case &row : {Case{"BirthDate", "4/1/2026"},
-                          {"BirthDate", "1/1/1800"},
-                          {"BirthDate", "yesterday"},
-                          {"HeightFeet", "-1"},
-                          {"HeightInches", "tall"}}) {
+  for (const Case &row : {Case{"BirthDate", "4/1/2026", "Please enter a birth date that is not in the future."},
+                          {"BirthDate", "1/1/1800", "Please enter a valid birth date."},
+                          {"BirthDate", "yesterday", ""},
+                          {"HeightFeet", "-1", "Please enter a valid height."},
+                          {"HeightFeet", "170", "Please enter a valid height."},
+                          {"Goal", "1e300", "Please enter a numeric value for your goal."},
+                          {"HeightInches", "tall", ""}}) {
     SCOPED_TRACE(row.typed);
     const std::string before = Person(row.column, 1);
     Open(SetupTab::Profiles);
     TypeCell(row.column, QString::fromLatin1(row.typed));
+    session.boxes.Expect(QStringLiteral("Invalid Profile"), QString::fromLatin1(row.sentence));
     Press("cmdOK");
     EXPECT_TRUE(window->isVisible());
+    EXPECT_FALSE(session.boxes.Shown().back().text.isEmpty());
     auto &grid = The<BoundGrid>(QStringLiteral("grdPeople"));
     const int column = grid.Model().ColumnByName(QString::fromLatin1(row.column));
     const QModelIndex cell = grid.Model().index(grid.currentIndex().row(), column);
-    EXPECT_EQ(cell.data().toString().toStdString(), row.typed);
+    EXPECT_EQ(cell.data().toString().toDouble(), QString::fromLatin1(row.typed).toDouble());
     EXPECT_FALSE(cell.data(GridModel::SentenceRole).toString().isEmpty());
     Press("cmdCancel");
     EXPECT_EQ(Person(row.column, 1), before);
@@ -351,7 +358,8 @@ TEST_F(SetupWindow, DeletingAsksInItsOwnWordsAndStandsOnWhatIsLeft) {
 TEST_F(SetupWindow, NewProfileIsThereOnlyWithItsDoor) {
   Open(SetupTab::Profiles);
   EXPECT_FALSE(The<QPushButton>(QStringLiteral("cmdNewProfile")).isEnabled());
-  navigator.AddProfile = [this](QWidget *) {
+  navigator.CreateProfile = [this](QWidget *owner) {
+    EXPECT_TRUE(owner);
     session.AddProfile(8, QStringLiteral("Zoe"));
     session.Announce({.table = Table::People, .keys = {8}});
     return true;
@@ -394,6 +402,37 @@ TEST_F(SetupWindow, TheSignOfLossesIsStoredAtOnce) {
   Click(QStringLiteral("optShowPositive"));
   Press("cmdOK");
   EXPECT_EQ(Stored(QStringLiteral("LossFactor")), "1") << "OK keeps what the option stored";
+}
+
+TEST_F(SetupWindow, TabGoesThroughThePageBeforeOk) {
+  for (const SetupTab tab : {SetupTab::Calendar, SetupTab::Charts, SetupTab::Colors, SetupTab::Journal}) {
+    Open(tab);
+    QApplication::setActiveWindow(window.get());
+    The<QTabWidget>(QStringLiteral("SSTab1")).tabBar()->setFocus();
+    QStringList visited;
+    while (visited.size() < 60 && !visited.contains(QStringLiteral("cmdCancel"))) {
+      QTest::keyClick(window->focusWidget(), Qt::Key_Tab);
+      visited.append(window->focusWidget()->objectName());
+    }
+    EXPECT_GE(visited.size(), 5) << visited.join(u' ').toStdString();
+    EXPECT_EQ(visited.mid(visited.size() - 2).join(u' ').toStdString(), "cmdOK cmdCancel");
+  }
+}
+
+TEST_F(SetupWindow, EveryListHasALabelThatTellsIt) {
+  Open(SetupTab::Charts);
+  QStringList told;
+  for (QComboBox *list : window->findChildren<QComboBox *>()) {
+    if (list->objectName().startsWith(QStringLiteral("ddn"))) continue;
+    QString label;
+    for (const auto &[relative, relation] :
+         QAccessible::queryAccessibleInterface(list)->relations(QAccessible::Label)) {
+      label = relative->text(QAccessible::Name);
+    }
+    EXPECT_FALSE(label.isEmpty()) << list->objectName().toStdString();
+    told.append(label);
+  }
+  EXPECT_EQ(told.size(), told.removeDuplicates() + told.size()) << "two lists sound alike";
 }
 
 TEST_F(SetupWindow, WindowsGoBackToTheirPlace) {

@@ -45,7 +45,7 @@ QString RefusedBirthDate(const QDate &date, const QDate &today) {
 std::optional<PersonComplaint> CheckBody(const Person &person, int UomID, const QDate &today) {
   const PersonComplaint possible[] = {
       {PersonField::Goal, QStringLiteral("Invalid Goal"), RefusedGoal(person.Goal.value_or(0))},
-      {PersonField::HeightFeet, QStringLiteral("Invalid Height"),
+      {person.HeightInches < 0 ? PersonField::HeightInches : PersonField::HeightFeet, QStringLiteral("Invalid Height"),
        RefusedHeight(person.HeightFeet, person.HeightInches, UomID)},
       {PersonField::BirthDate, QStringLiteral("Invalid Birth Date"), RefusedBirthDate(person.BirthDate, today)},
   };
