@@ -410,9 +410,8 @@ TEST_F(FirstRun, ATargetBeyondItsColumnIsRefusedAtItsOwnStep) {
     const QString calories = Cell(wizard, 0, targetColumn);
     GoToCell(wizard, 0, targetColumn);
     keys.Type("99999");
-    keys.Enter();
     session.boxes.Expect("Invalid Target", "Please type a number from 0 to 32767.");
-    keys.Enter();
+    keys.Alt(Qt::Key_N);
     EXPECT_EQ(Title(wizard), "Your Nutrient Selections (Step 4 of 5)");
     Grid(wizard).UndoRow();
     EXPECT_EQ(Cell(wizard, 0, targetColumn), calories);
