@@ -1,5 +1,6 @@
 #include <gtest/gtest.h>
 
+#include <QAccessible>
 #include <QCheckBox>
 #include <QComboBox>
 #include <QLabel>
@@ -7,6 +8,9 @@
 #include <QPrinterInfo>
 #include <QPushButton>
 #include <QRadioButton>
+#include <QScreen>
+#include <QScrollArea>
+#include <QScrollBar>
 #include <QTest>
 #include <QTimer>
 
@@ -178,6 +182,72 @@ TEST_F(ToolsWindow, ARefusedFieldKeepsTheFocusAndItsTextSelected) {
   session.boxes.Expect(QStringLiteral("Invalid Goal"), QStringLiteral("positive value"));
   Click("cmdClose");
   EXPECT_TRUE(window->isVisible());
+}
+
+TEST_F(ToolsWindow, AGoalThatNobodyTypedTrapsNobody) {
+  FillProfile();
+  for (const char *goal : {"", "0"}) {
+    session.Data().Execute(QStringLiteral("UPDATE people SET Goal=? WHERE PersonID=1;"), {QString::fromLatin1(goal)});
+    Open();
+    EXPECT_EQ(TextOf("txtGoal").toStdString(), goal);
+    EXPECT_TRUE(Find<QWidget>(*window, QStringLiteral("txtGoal")).hasFocus());
+    Click("optInitialWeight");
+    Find<QWidget>(*window, QStringLiteral("cboTools")).setFocus();
+    QCoreApplication::processEvents();
+    session.boxes.Expect(QStringLiteral("Invalid Goal"), QString());
+    Click("cmdCalculate");
+    Click("cmdClose");
+    EXPECT_FALSE(window->isVisible());
+  }
+  Open();
+  Type("txtGoal", "1e300");
+  session.boxes.Expect(QStringLiteral("Invalid Goal"), QStringLiteral("Please enter a numeric value"));
+  Click("cmdCalculate");
+}
+
+TEST_F(ToolsWindow, OpensWithoutScrollBarsAndStaysOnTheScreen) {
+  for (const double weight : {170.0, 175.25, 1234.75}) {
+    session.Data().Execute(QStringLiteral("DELETE weight_loss.* FROM weight_loss;"));
+    session.Data().Execute(QStringLiteral("DELETE measurements.* FROM measurements;"));
+    FillProfile();
+    Weigh(QDate(2026, 2, 3), weight);
+    for (const ToolsPanel panel : {ToolsPanel::GoalPlanner, ToolsPanel::CaloricNeeds, ToolsPanel::BodyFat}) {
+      Open(panel);
+      const auto *scroll = window->findChild<QScrollArea *>();
+      EXPECT_FALSE(scroll->verticalScrollBar()->isVisible() || scroll->horizontalScrollBar()->isVisible()) << weight;
+      EXPECT_TRUE(scroll->widget()->height() >= scroll->widget()->heightForWidth(scroll->widget()->width())) << weight;
+    }
+  }
+  window->move(600, 500);
+  Find<QComboBox>(*window, QStringLiteral("cboTools")).setCurrentIndex(0);
+  EXPECT_TRUE(window->screen()->availableGeometry().contains(window->frameGeometry()))
+      << "no title bar above the screen and no button below it";
+}
+
+TEST_F(ToolsWindow, ItsResultsAreReadAsTheyStandAndCanBeReachedByTab) {
+  FillProfile();
+  session.Data().Execute(QStringLiteral("UPDATE people SET BirthDate=#6/1/1990# WHERE PersonID=1;"));
+  Open(ToolsPanel::CaloricNeeds);
+  Click("optBMRActivity(1)");
+  Click("cmdBMRCalculate");
+  for (QLabel *label : window->findChildren<QLabel *>()) {
+    const QString spoken = QAccessible::queryAccessibleInterface(label)->text(QAccessible::Name);
+    EXPECT_EQ(spoken.toStdString(), label->text().remove(QLatin1Char('&')).toStdString())
+        << label->objectName().toStdString();
+  }
+  for (const char *name : {"txtGoalConstraint", "pnlBMRValue", "pnlBMRSummary", "pnlBodyFatSummary"}) {
+    EXPECT_TRUE(Find<QLabel>(*window, QString::fromLatin1(name)).focusPolicy() & Qt::TabFocus) << name;
+  }
+  EXPECT_TRUE(Find<QWidget>(*window, QStringLiteral("optBMRActivity(1)"))
+                  .accessibleDescription()
+                  .startsWith(TextOf("pnlBMRActivity(1)") + QStringLiteral(", Biking")));
+}
+
+TEST_F(ToolsWindow, WithoutAMeasurementAnotherOneIsAsked) {
+  Weigh(QDate(2026, 1, 5), 180);
+  Open(ToolsPanel::BodyFat);
+  EXPECT_TRUE(Find<QRadioButton>(*window, QStringLiteral("optBodyFatOtherWaist")).isChecked());
+  EXPECT_TRUE(Find<QWidget>(*window, QStringLiteral("txtBodyFatWaist")).hasFocus());
 }
 
 TEST_F(ToolsWindow, ClosingKeepsTheMethodAndNotTheGoal) {
