@@ -10,9 +10,6 @@
 
 namespace trimlog {
 
-/// The nutrition targets of a person who has chosen none.
-constexpr int defaultTargetSet = 30;
-
 inline const QString sampleProfile1 = QStringLiteral("-2");  ///< a month with a full journal
 inline const QString sampleProfile2 = QStringLiteral("-1");  ///< seven months of weights alone
 

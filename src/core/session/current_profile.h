@@ -8,7 +8,7 @@
 
 namespace trimlog {
 
-/// The target set of a profile that names none: an example for all.
+/// The nutrition targets of a person who has chosen none.
 inline constexpr int defaultTargetSet = 30;
 
 /// The person whose data the windows show, and what is kept in memory of that person.
