@@ -17,34 +17,34 @@ QString UpToNul(const QString &text) { return text.section(QChar(0), 0, 0); }
 /// file that it flushes to the disk and renames, so that a crash leaves the old values or the new ones.
 class IniStore final : public SettingsStore {
  public:
-  explicit IniStore(const QString &path) : ini_(path, QSettings::IniFormat) { MakePrivate(path); }
+  explicit IniStore(const QString &path) : ini_(Open(path)) { MakePrivate(path); }
 
   QString GetSettingString(const QString &key, const QString &valueName, const QString &fallback) const override {
-    const QVariant value = ini_.value(PathOf(key, valueName));
+    const QVariant value = ini_->value(PathOf(key, valueName));
     // A list is a line that somebody edited by hand; it is no text of ours.
     return value.typeId() == QMetaType::QString ? UpToNul(value.toString()) : fallback;
   }
   bool SaveSettingString(const QString &key, const QString &valueName, const QString &value) override {
-    ini_.setValue(PathOf(key, valueName), value);
+    ini_->setValue(PathOf(key, valueName), value);
     changed_ = true;
     return Written();
   }
   bool DeleteValue(const QString &key, const QString &valueName) override {
-    if (!ini_.contains(PathOf(key, valueName))) return false;
-    ini_.remove(PathOf(key, valueName));
+    if (!ini_->contains(PathOf(key, valueName))) return false;
+    ini_->remove(PathOf(key, valueName));
     changed_ = true;
     return Written();
   }
   bool DeleteKey(const QString &key) override {
     bool any = false;
-    for (const QString &group : ini_.childGroups()) {
+    for (const QString &group : ini_->childGroups()) {
       if (group != Escaped(key) && !group.startsWith(Escaped(key + u'\\'))) continue;
-      ini_.remove(group);
+      ini_->remove(group);
       any = changed_ = true;
     }
     return any && Written();
   }
-  bool CreateKey(const QString &) override { return ini_.isWritable(); }  // a group is there once it holds a value
+  bool CreateKey(const QString &) override { return ini_->isWritable(); }  // a group is there once it holds a value
 
   void BeginBatch() override { ++batches_; }
   bool EndBatch() override {
@@ -60,18 +60,23 @@ class IniStore final : public SettingsStore {
   static QString PathOf(const QString &key, const QString &valueName) {
     return Escaped(key) + u'/' + Escaped(valueName);
   }
+  static std::unique_ptr<QSettings> Open(const QString &path) {
+    return std::make_unique<QSettings>(path, QSettings::IniFormat);
+  }
   bool Written() {
     if (batches_ > 0) return true;
+    // QSettings never forgets a failure; a second one on the file shares what waits to be written, and does.
+    if (ini_->status() != QSettings::NoError) ini_ = Open(ini_->fileName());
     if (changed_) {  // a batch that found nothing to write costs no waiting for the disk
-      ini_.sync();
-      FlushFolder(QFileInfo(ini_.fileName()).absolutePath());
+      ini_->sync();
+      FlushFolder(QFileInfo(ini_->fileName()).absolutePath());
     }
-    changed_ = ini_.status() != QSettings::NoError;
-    if (changed_ && writeFailed) writeFailed(ini_.fileName());
+    changed_ = ini_->status() != QSettings::NoError;
+    if (changed_ && writeFailed) writeFailed(ini_->fileName());
     return !changed_;
   }
 
-  QSettings ini_;
+  std::unique_ptr<QSettings> ini_;
   int batches_ = 0;
   bool changed_ = false;  ///< something is not on the disk yet
 };
