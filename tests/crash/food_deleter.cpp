@@ -13,7 +13,7 @@ int main(int, char **arguments) {
   const auto data = Database::Open(QString::fromLocal8Bit(arguments[1]));
   GridModel model((QLocale()));
   model.SetColumns({{.name = QStringLiteral("MealDesc"), .field = QStringLiteral("MealDesc")}});
-  model.Open(*data, FoodListSource({.list = food_kind::myFoods}));
+  model.Open(*data, FoodListSource(SetupFoodLists(), {.list = food_kind::myFoods}));
   std::vector<qint64> marked;
   for (int row = 0; row < model.RecordCount(); ++row) marked.push_back(*model.KeyOfRow(row));
   std::puts("begins");

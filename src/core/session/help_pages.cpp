@@ -62,6 +62,7 @@ int Mentions(const QString &text, const QRegularExpression &word) {
 /// What the words weigh in a section; 0 for each that is missing.
 std::vector<int> Weights(const HelpSection &section, const std::vector<QRegularExpression> &words) {
   std::vector<int> weights;
+  weights.reserve(words.size());
   for (const QRegularExpression &word : words) {
     weights.push_back(inTitle * (Mentions(section.title, word) > 0) +
                       inHeading * (Mentions(section.heading, word) > 0) + Mentions(section.text, word));
@@ -152,6 +153,7 @@ std::vector<HelpSection> SearchHelp(const std::vector<HelpSection> &sections, co
   std::stable_sort(pages.begin(), pages.end(),
                    [](const Page &one, const Page &other) { return one.weight > other.weight; });
   std::vector<HelpSection> found;
+  found.reserve(pages.size());
   for (const Page &page : pages) found.push_back(*page.best);
   return found;
 }
