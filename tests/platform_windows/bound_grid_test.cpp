@@ -273,6 +273,7 @@ TEST_F(GridTest, DeletingAsksOnceAndKeepsThePlace) {
   EXPECT_EQ(grid.CurrentKey(), 6) << "the row behind the first deleted one";
   GoTo(40, "FoodDesc");
   Press(Qt::Key_Space, Qt::ShiftModifier);
+  EXPECT_TRUE(grid.RowsMarked());
   Press(Qt::Key_Delete);
   EXPECT_EQ(grid.CurrentKey(), 39) << "at the end of the list, the last row";
 }

@@ -84,6 +84,7 @@ class GridTest : public ::testing::Test {
          .field = QStringLiteral("IsModified"),
          .type = GridType::Check,
          .editable = true},
+        {.name = QStringLiteral("Dummy"), .width = 2},
     };
   }
 

@@ -121,6 +121,7 @@ TEST_F(GridPointingTest, RowsChangedElsewhereAreReadAfresh) {
 }
 
 TEST_F(GridPointingTest, CaptionsSortAndAnEmptyOneDoesNothing) {
+  grid.resize(1200, 400);
   int sorted = 0;
   QObject::connect(&grid, &BoundGrid::Sorted, [&] { ++sorted; });
   QHeaderView *captions = grid.horizontalHeader();
@@ -132,7 +133,7 @@ TEST_F(GridPointingTest, CaptionsSortAndAnEmptyOneDoesNothing) {
   press(2);
   EXPECT_EQ(grid.Model().Source().order, (QList<GridOrder>{{QStringLiteral("Calories"), true}}));
   EXPECT_EQ(sorted, 2);
-  press(0);
+  press(7);
   EXPECT_EQ(captions->sortIndicatorSection(), 2);
   EXPECT_EQ(captions->sortIndicatorOrder(), Qt::DescendingOrder);
   EXPECT_EQ(sorted, 2);

@@ -38,7 +38,10 @@ TypedCell Read(const GridColumn &column, const QString &text, const QLocale &loc
   const bool empty = text.trimmed().isEmpty();
   switch (column.type) {
     case GridType::Text:
+    case GridType::Memo:
       return ReadText(column, text);
+    case GridType::Lookup:  // its rows are in the file: the model finds the text there
+      return {{}, Say("Please choose one of the entries of the list.")};
     case GridType::Number:
     case GridType::WholeNumber:
       return empty ? TypedCell{} : ReadNumber(column, text, locale);
@@ -63,6 +66,11 @@ TypedCell CheckValue(const GridColumn &column, const Value &value) {
   return {value, column.validate ? column.validate(value) : QString()};
 }
 
+TypedCell Mended(const GridColumn &column, const QString &text, const TypedCell &typed, const Value &stood) {
+  const bool needsIt = column.mend && (!typed.sentence.isEmpty() || text.trimmed().isEmpty());
+  return needsIt ? TypedCell{column.mend(stood), {}} : typed;
+}
+
 TypedCell ReadTyped(const GridColumn &column, const QString &text, const QLocale &locale) {
   const TypedCell typed = Read(column, text, locale);
   return typed.sentence.isEmpty() ? CheckValue(column, typed.value) : typed;
@@ -74,7 +82,7 @@ bool IsNumberType(GridType type) {
 
 Qt::Alignment AlignmentOf(const GridColumn &column) {
   const Qt::Alignment side = IsNumberType(column.type) ? Qt::AlignRight : Qt::AlignLeft;
-  return column.alignment.value_or(side) | Qt::AlignVCenter;
+  return column.alignment.value_or(side) | (column.type == GridType::Memo ? Qt::AlignTop : Qt::AlignVCenter);
 }
 
 QString ShowCell(const GridColumn &column, const Value &value, const QLocale &locale) {

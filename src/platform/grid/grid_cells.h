@@ -18,6 +18,9 @@ TypedCell ReadTyped(const GridColumn &column, const QString &text, const QLocale
 /// The same for a value chosen, not typed: a list entry, a tick.
 TypedCell CheckValue(const GridColumn &column, const Value &value);
 
+/// What was read, or what the column puts in its place when it was empty or refused and `stood` in the cell before.
+TypedCell Mended(const GridColumn &column, const QString &text, const TypedCell &typed, const Value &stood);
+
 /// A stored value as a person reads it.
 QString ShowCell(const GridColumn &column, const Value &value, const QLocale &locale);
 /// A stored value as it stands in the cell's editor: in the locale, not rounded by the display pattern.

@@ -27,6 +27,8 @@ struct GridHooks {
   /// The row (a new one too) is written, not yet committed: writes what belongs to it, and announces.
   std::function<void(const GridRowEdit &row, qint64 key)> withUpdate;
   std::function<void(qint64 key)> afterUpdate;  ///< committed: for what concerns the window only
+  /// A cell was changed and its text accepted: may change further fields of the row, and ask. Before any transaction.
+  std::function<void(GridRowEdit &row, const QString &column)> afterCell;
   /// Asks the question; false leaves everything as it is.
   std::function<bool(const std::vector<qint64> &keys)> beforeDelete;
   std::function<void(const std::vector<qint64> &keys)> withDelete;   ///< deleted, not yet committed

@@ -1,23 +1,12 @@
 #include "platform/grid/grid_model.h"
 
-#include <QSet>
 #include <algorithm>
 #include <utility>
 
-#include "platform/grid/grid_blocks.h"
 #include "platform/grid/grid_cells.h"
-#include "platform/store/key_reader.h"
-#include "platform/store/recordset.h"
+#include "platform/grid/grid_lookup.h"
 
 namespace trimlog {
-
-namespace {
-
-std::vector<qint64> KeysOf(Database &database, const GridStatement &statement) {
-  return ReadKeys(database, statement.sql, statement.params);
-}
-
-}  // namespace
 
 GridModel::GridModel(const QLocale &locale, QObject *parent) : QAbstractTableModel(parent), locale_(locale) {}
 GridModel::~GridModel() = default;
@@ -80,179 +69,78 @@ void GridModel::SetAllowNew(bool allow) {
   endResetModel();
 }
 
-// Fetched rows hold the columns' fields by position: with other fields they are read again.
 void GridModel::CollectFields() {
-  fields_.clear();
+  QStringList fields;
   for (const GridColumn &column : columns_) {
-    if (!column.field.isEmpty() && !fields_.contains(column.field)) fields_.append(column.field);
+    for (const QString &field : {column.field, column.textField}) {
+      if (!field.isEmpty() && !fields.contains(field)) fields.append(field);
+    }
   }
-  cache_.Clear();
+  rows_.SetFields(fields);
 }
 
-void GridModel::Open(Database &database, const GridSource &source) {
-  Database *const oldDatabase = std::exchange(database_, &database);
-  try {
-    SetSource(source);
-  } catch (const Error &) {
-    database_ = oldDatabase;
-    throw;
-  }
-}
-
-void GridModel::SetSource(const GridSource &source, bool whole) {
-  const GridSource old = std::exchange(source_, source);
-  try {
-    Reread(whole);
-  } catch (const Error &) {
-    source_ = old;
-    throw;
-  }
-}
-
-void GridModel::Refresh(bool keepOrder) { Reread(keepOrder, keepOrder); }
-
-void GridModel::Reread(bool whole, bool keepOrder) {
-  if (!database_) return;
-  GridKeys fresh;
-  const auto read = [database = database_, source = source_](int top) {
-    return KeysOf(*database, KeysStatement(source, top));
-  };
-  if (whole) {
-    fresh.LoadWhole(read);
-  } else {
-    fresh.Load(read, [this] {
-      const GridStatement count = CountStatement(source_);
-      return database_->OpenRecordset(count.sql, count.params, RecordsetKind::Forward).Field(0).toInt();
-    });
-  }
-  if (keepOrder) fresh.OrderLike(keys_);
+void GridModel::Show(GridRows::Reading reading) {
   beginResetModel();
-  keys_ = std::move(fresh);
-  cache_.Clear();
-  if (edit_ && !edit_->IsNew() && keys_.RowOf(edit_->Key()) < 0) edit_.reset();
+  rows_.Take(std::move(reading));
+  changedLookups_.clear();
+  if (edit_ && !edit_->IsNew() && RowOfKey(edit_->Key()) < 0) edit_.reset();
   endResetModel();
 }
 
+void GridModel::Open(Database &database, const GridSource &source) {
+  Show(rows_.Read(database, source, GridRows::Extent::FirstPage));
+}
+
+void GridModel::SetSource(const GridSource &source, bool whole) {
+  if (!IsOpen()) return;
+  Show(rows_.Read(File(), source, whole ? GridRows::Extent::Whole : GridRows::Extent::FirstPage));
+}
+
+void GridModel::Refresh(bool keepOrder) {
+  if (!IsOpen()) return;
+  Show(rows_.Read(File(), Source(), keepOrder ? GridRows::Extent::WholeInOldOrder : GridRows::Extent::FirstPage));
+}
+
 void GridModel::RefreshRow(qint64 key) {
-  cache_.Forget(key);
-  AnnounceRow(keys_.RowOf(key));
+  rows_.Forget(key);
+  AnnounceRow(RowOfKey(key));
 }
 
 bool GridModel::RefreshRows(const std::vector<qint64> &keys) {
   constexpr size_t cheaperReadWhole = 1000;
-  if (!database_) return true;
-  if (keys.size() > cheaperReadWhole) return false;
-  QSet<qint64> belonging;
-  InBlocks(keys, RowCache::block, [&](const std::vector<qint64> &some) {
-    for (const qint64 key : KeysOf(*database_, BelongingStatement(source_, some))) belonging.insert(key);
-  });
-  for (const qint64 key : keys) {
-    if (belonging.contains(key) != (keys_.RowOf(key) >= 0)) return false;
-  }
+  if (!IsOpen()) return true;
+  if (keys.size() > cheaperReadWhole || !rows_.StandAsShown(keys)) return false;
   for (const qint64 key : keys) RefreshRow(key);
   return true;
 }
 
 void GridModel::LoadAllKeys() {
-  const int counted = keys_.Count();
-  keys_.ReadAll();
-  if (keys_.Count() != counted) Reread();
+  const int counted = rows_.Count();
+  rows_.Keys().ReadAll();
+  if (rows_.Count() != counted) Refresh();
 }
 
-bool GridModel::AllKeysLoaded() const { return keys_.Complete(); }
+bool GridModel::AllKeysLoaded() const { return rows_.Keys().Complete(); }
 
-void GridModel::Need(int first, int last) {
-  if (!database_) return;
-  cache_.Need(keys_.Range(first, last), [this](const auto &keys) { return FetchRows(keys); });
-}
+void GridModel::Need(int first, int last) { rows_.Need(first, last); }
 
-std::vector<GridRow> GridModel::FetchRows(const std::vector<qint64> &keys) const {
-  std::vector<GridRow> rows;
-  const QStringList fields = fields_.isEmpty() ? QStringList{source_.key} : fields_;
-  const GridStatement statement = RowsStatement(source_, fields, keys);
-  Recordset found = database_->OpenRecordset(statement.sql, statement.params, RecordsetKind::Forward);
-  for (; !found.Eof(); found.MoveNext()) {
-    GridRow row{found.Field(0).toLongLong(), {}};
-    row.values.reserve(static_cast<size_t>(fields.size()));
-    for (int field = 1; field <= fields.size(); ++field) row.values.push_back(found.Field(field));
-    rows.push_back(std::move(row));
-  }
-  return rows;
-}
-
-const GridRow *GridModel::FetchedRow(int row) const {
-  const qint64 key = keys_.At(row);
-  if (!cache_.Contains(key)) {
-    const int start = row - row % RowCache::block;
-    cache_.Need(keys_.Range(start, start + RowCache::block - 1), [this](const auto &keys) { return FetchRows(keys); });
-  }
-  return cache_.Find(key);
-}
-
-Value GridModel::StoredField(int row, const QString &field) const {
-  if (row < 0 || row >= RecordCount()) return {};
-  const qsizetype position = fields_.indexOf(field);
-  if (position < 0) {
-    const QList<QVariantMap> whole = WholeRows({keys_.At(row)});
-    return whole.isEmpty() ? Value() : whole.first().value(field);
-  }
-  const GridRow *const found = FetchedRow(row);
-  return found && position < static_cast<qsizetype>(found->values.size()) ? found->values[position] : Value();
-}
-
-int GridModel::RecordCount() const { return keys_.Count(); }
-
-std::optional<qint64> GridModel::KeyOfRow(int row) const {
-  if (row < 0 || row >= RecordCount()) return std::nullopt;
-  return keys_.At(row);
-}
-
-int GridModel::RowOfKey(qint64 key) const { return keys_.RowOf(key); }
-
-std::vector<int> GridModel::RowsOfKeys(std::vector<qint64> keys) const {
-  std::vector<int> rows;
-  if (keys.empty()) return rows;
-  std::sort(keys.begin(), keys.end());
-  const std::vector<qint64> &all = keys_.All();
-  for (size_t row = 0; row < all.size(); ++row) {
-    if (std::binary_search(keys.begin(), keys.end(), all[row])) rows.push_back(static_cast<int>(row));
-  }
-  return rows;
-}
+std::optional<qint64> GridModel::KeyOfRow(int row) const { return rows_.KeyOf(row); }
 
 Value GridModel::FieldOf(int row, const QString &field) const {
   if (edit_ && row == ChangingRow()) return edit_->Get(field);
-  return StoredField(row, field);
+  return rows_.Field(row, field);
 }
 
 int GridModel::FindFirst(const QString &criterion, const Params &params) const {
-  const std::vector<qint64> found = KeysOf(*database_, FindStatement(source_, criterion, params));
-  return found.empty() ? -1 : keys_.RowOf(found.front());
+  return rows_.FindFirst(criterion, params);
 }
 
 int GridModel::FindPrefix(const QString &field, const QString &text) const {
-  const QString column = QualifiedField(source_, field);
+  const QString column = QualifiedField(Source(), field);
   return FindFirst(QStringLiteral("LCase(Left(%1, %2)) = ?").arg(column).arg(text.size()), {text.toLower()});
 }
 
-QList<QVariantMap> GridModel::WholeRows(const std::vector<qint64> &keys) const {
-  QHash<qint64, QVariantMap> found;
-  InBlocks(keys, RowCache::block, [&](const std::vector<qint64> &some) {
-    const GridStatement statement = RowsStatement(source_, {}, some);
-    Recordset rows = database_->OpenRecordset(statement.sql, statement.params, RecordsetKind::Forward);
-    const QStringList names = rows.FieldNames();
-    for (; !rows.Eof(); rows.MoveNext()) {
-      QVariantMap values;
-      for (int column = 0; column < names.size(); ++column) values.insert(names[column], rows.Field(column));
-      found.insert(rows.Field(source_.key).toLongLong(), values);
-    }
-  });
-  QList<QVariantMap> inOrder;
-  for (const qint64 key : keys) {
-    if (found.contains(key)) inOrder.append(found.value(key));
-  }
-  return inOrder;
-}
+QList<QVariantMap> GridModel::WholeRows(const std::vector<qint64> &keys) const { return rows_.Whole(keys); }
 
 int GridModel::rowCount(const QModelIndex &parent) const {
   return parent.isValid() ? 0 : RecordCount() + (allowNew_ ? 1 : 0);
@@ -266,8 +154,19 @@ QVariant GridModel::CellText(const QModelIndex &index, const GridColumn &column,
   if (edit_ && index.row() == ChangingRow()) {
     if (const QString *const typed = edit_->RefusedText(column.field)) return *typed;
   }
+  if (column.type == GridType::Lookup) return LookupShown(index.row(), column);
   const Value value = FieldOf(index.row(), column.field);
   return forEditing ? TypedForm(column, value, locale_) : ShowCell(column, value, locale_);
+}
+
+// The text that is joined in belongs to the stored key; that of a key chosen since is looked up once.
+QString GridModel::LookupShown(int row, const GridColumn &column) const {
+  const Value key = FieldOf(row, column.field);
+  const bool chosen = edit_ && row == ChangingRow() && edit_->IsChanged(column.field);
+  if (!chosen && !column.textField.isEmpty()) return FieldOf(row, column.textField).toString();
+  QString &text = changedLookups_[column.name + QLatin1Char('/') + key.toString()];
+  if (text.isEmpty()) text = LookupText(File(), *column.lookup, key);
+  return text;
 }
 
 QString GridModel::SentenceOf(const QModelIndex &index, const GridColumn &column) const {
@@ -278,7 +177,7 @@ QString GridModel::SentenceOf(const QModelIndex &index, const GridColumn &column
 
 QVariant GridModel::data(const QModelIndex &index, int role) const try {
   const GridColumn *const column = ColumnAt(index);
-  if (!column || column->field.isEmpty() || !database_) return {};
+  if (!column || column->field.isEmpty() || !IsOpen()) return {};
   switch (role) {
     case Qt::DisplayRole:
       return column->type == GridType::Check ? QVariant() : CellText(index, *column, false);
@@ -344,7 +243,7 @@ Qt::ItemFlags GridModel::flags(const QModelIndex &index) const {
   const GridColumn *const column = ColumnAt(index);
   if (!column) return Qt::NoItemFlags;
   Qt::ItemFlags flags = Qt::ItemIsEnabled | Qt::ItemIsSelectable;
-  if (!column->editable || column->field.isEmpty() || !database_) return flags;
+  if (!column->editable || column->field.isEmpty() || !IsOpen()) return flags;
   const int row = index.row();
   const auto field = [this, row](const QString &name) { return FieldOf(row, name); };
   try {

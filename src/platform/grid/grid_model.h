@@ -5,12 +5,11 @@
 #include <memory>
 #include <optional>
 
+#include "platform/grid/grid_cells.h"
 #include "platform/grid/grid_clipboard.h"
 #include "platform/grid/grid_columns.h"
 #include "platform/grid/grid_hooks.h"
-#include "platform/grid/grid_keys.h"
-#include "platform/grid/grid_source.h"
-#include "platform/grid/row_cache.h"
+#include "platform/grid/grid_rows.h"
 
 namespace trimlog {
 
@@ -49,8 +48,9 @@ class GridModel : public QAbstractTableModel {
   void Open(Database &database, const GridSource &source);
   /// Another source in the same file; `whole` reads all keys at once, for who needs the place of one of them anyway.
   void SetSource(const GridSource &source, bool whole = false);
-  const GridSource &Source() const { return source_; }
-  bool IsOpen() const { return database_ != nullptr; }
+  const GridSource &Source() const { return rows_.Source(); }
+  bool IsOpen() const { return rows_.IsOpen(); }
+  Database &File() const { return rows_.File(); }
   /// Reads everything afresh; the row being changed stays as typed. `keepOrder` leaves the rows where they stand, with
   /// what is new behind them.
   void Refresh(bool keepOrder = false);
@@ -63,10 +63,10 @@ class GridModel : public QAbstractTableModel {
   void Need(int first, int last);
 
   // Rows by key.
-  int RecordCount() const;                                      ///< without the row for new records
-  std::optional<qint64> KeyOfRow(int row) const;                ///< nothing for the row for new records
-  int RowOfKey(qint64 key) const;                               ///< -1 when it is not shown
-  std::vector<int> RowsOfKeys(std::vector<qint64> keys) const;  ///< ascending
+  int RecordCount() const { return rows_.Count(); }                   ///< without the row for new records
+  std::optional<qint64> KeyOfRow(int row) const;                      ///< nothing for the row for new records
+  int RowOfKey(qint64 key) const { return rows_.Keys().RowOf(key); }  ///< -1 when it is not shown
+  std::vector<int> RowsOfKeys(const std::vector<qint64> &keys) const { return rows_.RowsOf(keys); }  ///< ascending
   /// A field's value, unsaved change included; invalid when row or field is not there.
   Value FieldOf(int row, const QString &field) const;
   /// The first row that meets a criterion in the words of the source ("UCase(Left(MealDesc,1)) = ?"); -1 for none.
@@ -85,6 +85,7 @@ class GridModel : public QAbstractTableModel {
   void UndoField(const QModelIndex &index);
   void UndoRow();
   bool IsFieldChanged(const QModelIndex &index) const;
+  QString RefusalOfRow() const;  ///< why the row cannot be saved as it is; "" when nothing speaks against it
   void SetRowSentence(const QString &sentence);  ///< shows why saving failed at the row
   /// Deletes rows in one transaction; asks no hook. Throws and leaves all rows when it fails.
   void DeleteRows(const std::vector<qint64> &keys);
@@ -103,11 +104,11 @@ class GridModel : public QAbstractTableModel {
 
  private:
   const GridColumn *ColumnAt(const QModelIndex &index) const;
-  Value StoredField(int row, const QString &field) const;
-  const GridRow *FetchedRow(int row) const;  ///< good until the next row is fetched
-  std::vector<GridRow> FetchRows(const std::vector<qint64> &keys) const;
   void CollectFields();
-  void Reread(bool whole = false, bool keepOrder = false);
+  void Show(GridRows::Reading reading);
+  TypedCell ReadCell(const QModelIndex &index, const GridColumn &column, const QVariant &value, int role) const;
+  TypedCell ReadLookup(const GridColumn &column, const QString &text) const;
+  QString LookupShown(int row, const GridColumn &column) const;
   GridRowEdit &BeginChange(int row);
   void DropEditWhenEmpty();
   qint64 WriteRow();
@@ -118,12 +119,9 @@ class GridModel : public QAbstractTableModel {
   QString RowStateInWords(int row) const;
 
   QLocale locale_;
-  Database *database_ = nullptr;
-  GridSource source_;
   GridColumns columns_;
-  QStringList fields_;  ///< the distinct fields of the columns, in the order of a fetched row
-  mutable GridKeys keys_;
-  mutable RowCache cache_;
+  mutable GridRows rows_;                           ///< fetched when they are asked for
+  mutable QHash<QString, QString> changedLookups_;  ///< texts of chosen keys, by column and key
   std::unique_ptr<GridRowEdit> edit_;
   bool allowNew_ = false;
 };

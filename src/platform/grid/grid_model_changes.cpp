@@ -3,21 +3,22 @@
 
 #include "platform/grid/grid_blocks.h"
 #include "platform/grid/grid_cells.h"
+#include "platform/grid/grid_lookup.h"
 #include "platform/grid/grid_model.h"
 
 namespace trimlog {
 
 int GridModel::ChangingRow() const {
   if (!edit_) return -1;
-  return edit_->IsNew() ? RecordCount() : keys_.RowOf(edit_->Key());
+  return edit_->IsNew() ? RecordCount() : RowOfKey(edit_->Key());
 }
 
 GridRowEdit &GridModel::BeginChange(int row) {
   if (!edit_) {
     const bool isNew = row >= RecordCount();
-    const qint64 key = isNew ? 0 : keys_.At(row);
+    const qint64 key = isNew ? 0 : rows_.Keys().At(row);
     edit_ = std::make_unique<GridRowEdit>(key, isNew, [this, key, isNew](const QString &field) {
-      return isNew ? Value() : StoredField(keys_.RowOf(key), field);
+      return isNew ? Value() : rows_.Field(RowOfKey(key), field);
     });
   }
   return *edit_;
@@ -30,9 +31,7 @@ bool GridModel::setData(const QModelIndex &index, const QVariant &value, int rol
   if (!(flags(index) & (Qt::ItemIsEditable | Qt::ItemIsUserCheckable))) return false;
   if (edit_ && ChangingRow() != index.row()) return false;
 
-  const TypedCell typed = tick                ? CheckValue(*column, value.toInt() == Qt::Checked)
-                          : role == ValueRole ? CheckValue(*column, value)
-                                              : ReadTyped(*column, value.toString(), locale_);
+  const TypedCell typed = ReadCell(index, *column, value, role);
   const bool untouched = role == Qt::EditRole && data(index, Qt::EditRole).toString() == value.toString();
   if (untouched) return typed.sentence.isEmpty();  // an editor opened and left changes nothing, nor starts a new row
   GridRowEdit &row = BeginChange(index.row());
@@ -42,10 +41,25 @@ bool GridModel::setData(const QModelIndex &index, const QVariant &value, int rol
   } else {
     row.Refuse(column->field, value.toString(), typed.sentence);
   }
+  if (typed.sentence.isEmpty() && hooks.afterCell && row.IsChanged(column->field)) hooks.afterCell(row, column->name);
   DropEditWhenEmpty();
   AnnounceRow(index.row());
   Q_EMIT CellEdited(index.row(), column->name);
   return typed.sentence.isEmpty();
+}
+
+TypedCell GridModel::ReadCell(const QModelIndex &index, const GridColumn &column, const QVariant &value,
+                              int role) const {
+  if (role == Qt::CheckStateRole) return CheckValue(column, value.toInt() == Qt::Checked);
+  if (role == ValueRole) return CheckValue(column, value);
+  const QString text = value.toString();
+  const TypedCell typed = column.type == GridType::Lookup ? ReadLookup(column, text) : ReadTyped(column, text, locale_);
+  return Mended(column, text, typed, FieldOf(index.row(), column.field));
+}
+
+TypedCell GridModel::ReadLookup(const GridColumn &column, const QString &text) const {
+  const std::optional<qint64> key = LookupKey(File(), *column.lookup, text);
+  return key ? CheckValue(column, *key) : ReadTyped(column, text, locale_);
 }
 
 void GridModel::DropEditWhenEmpty() {
@@ -80,6 +94,14 @@ void GridModel::UndoRow() {
   AnnounceRow(row);
 }
 
+QString GridModel::RefusalOfRow() const {
+  if (!edit_) return {};
+  for (const GridColumn &column : columns_) {
+    if (const QString sentence = edit_->Sentence(column.field); !sentence.isEmpty()) return sentence;
+  }
+  return edit_->rowSentence;
+}
+
 void GridModel::SetRowSentence(const QString &sentence) {
   if (!edit_) return;
   edit_->rowSentence = sentence;
@@ -90,11 +112,11 @@ void GridModel::SetRowSentence(const QString &sentence) {
 bool GridModel::SaveRow() {
   if (!edit_) return true;
   if (edit_->HasRefusals()) return false;
-  keys_.ReadAll();
+  rows_.Keys().ReadAll();
   qint64 key = 0;
   {
-    Transaction transaction(*database_);
-    database_->AfterCommit([this, &key] { TakeOverSaved(key); });
+    Transaction transaction(File());
+    File().AfterCommit([this, &key] { TakeOverSaved(key); });
     if (edit_->IsNew() && hooks.beforeInsert) hooks.beforeInsert(*edit_);
     const QString sentence = hooks.beforeUpdate ? hooks.beforeUpdate(*edit_) : QString();
     if (!sentence.isEmpty()) {
@@ -111,21 +133,21 @@ bool GridModel::SaveRow() {
 }
 
 qint64 GridModel::WriteRow() {
-  const GridStatement statement = edit_->IsNew() ? InsertStatement(source_, edit_->Changes())
-                                                 : UpdateStatement(source_, edit_->Key(), edit_->Changes());
-  const qint64 written = database_->Execute(statement.sql, statement.params);
+  const GridStatement statement = edit_->IsNew() ? InsertStatement(Source(), edit_->Changes())
+                                                 : UpdateStatement(Source(), edit_->Key(), edit_->Changes());
+  const qint64 written = File().Execute(statement.sql, statement.params);
   if (written == 0) throw Error(error_number::noCurrentRecord, tr("This row has been deleted meanwhile."));
-  return edit_->IsNew() ? edit_->Get(source_.key).toLongLong() : edit_->Key();
+  return edit_->IsNew() ? edit_->Get(Source().key).toLongLong() : edit_->Key();
 }
 
 void GridModel::TakeOverSaved(qint64 key) {
   const int row = ChangingRow();
   const bool isNew = edit_->IsNew();
   edit_.reset();
-  cache_.Forget(key);
+  rows_.Forget(key);
   if (isNew) {
     beginInsertRows({}, row + 1, row + 1);
-    keys_.Append(key);
+    rows_.Keys().Append(key);
     endInsertRows();
   }
   AnnounceRow(row);
@@ -133,14 +155,14 @@ void GridModel::TakeOverSaved(qint64 key) {
 
 void GridModel::DeleteRows(const std::vector<qint64> &keys) {
   if (keys.empty()) return;
-  Transaction transaction(*database_);
-  database_->AfterCommit([this, &keys] {
+  Transaction transaction(File());
+  File().AfterCommit([this, &keys] {
     if (edit_ && std::find(keys.begin(), keys.end(), edit_->Key()) != keys.end()) edit_.reset();
-    Reread();
+    Refresh();
   });
   InBlocks(keys, RowCache::block, [this](const std::vector<qint64> &some) {
-    const GridStatement statement = DeleteStatement(source_, some);
-    database_->Execute(statement.sql, statement.params);
+    const GridStatement statement = DeleteStatement(Source(), some);
+    File().Execute(statement.sql, statement.params);
   });
   if (hooks.withDelete) hooks.withDelete(keys);
   transaction.Commit();

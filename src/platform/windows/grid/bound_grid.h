@@ -4,16 +4,24 @@
 #include <QTimer>
 
 #include "platform/grid/grid_model.h"
-#include "platform/machine/settings_store.h"
+#include "platform/windows/grid/grid_commands.h"
+#include "platform/windows/grid/grid_keyboard.h"
+#include "platform/windows/grid/grid_mouse.h"
+#include "platform/windows/grid/grid_selection.h"
+#include "platform/windows/grid/grid_widths.h"
+#include "platform/windows/grid/row_leaving.h"
 
 namespace trimlog {
+
+class FrozenColumn;
 
 /// The data grid of every window: shows the rows of a GridSource, changes them in place, marks, sorts, copies and
 /// deletes whole rows.
 ///
-/// Leaving a row saves it; a refused row cannot be left: the cell stays framed, with its sentence in the tooltip, until
-/// it is corrected or Esc restores it (first the field, then the row). Tab and Enter go to the next cell that can be
-/// changed. Letters typed where nothing can be changed go to the next row of the sorted column that begins with them.
+/// Leaving a row saves it; a refused row cannot be left: the cell stays framed, with its sentence on a line below the
+/// row, until it is corrected or Esc restores it (first the field, then the row). Tab and Enter go to the next cell
+/// that can be changed. Letters typed where nothing can be changed go to the next row of the sorted column that begins
+/// with them. The first column with a text stays in sight when the others scroll.
 ///
 ///   auto *grid = new BoundGrid("grdPeople", tr("Profiles"), session.locale, this);
 ///   grid->SetColumns({...});
@@ -22,6 +30,9 @@ namespace trimlog {
 class BoundGrid : public QTableView {
   Q_OBJECT
  public:
+  /// Asks the person for a date, beginning with the one shown; nothing when none was chosen.
+  using DatePicker = std::function<std::optional<QDate>(QWidget &owner, const QDate &shown)>;
+
   /// `label` is what a screen reader says.
   BoundGrid(const QString &objectName, const QString &label, const QLocale &locale, QWidget *parent = nullptr);
   ~BoundGrid() override;
@@ -29,18 +40,24 @@ class BoundGrid : public QTableView {
   GridModel &Model() { return *model_; }
   const GridModel &Model() const { return *model_; }
   GridHooks &Hooks() { return model_->hooks; }
+  GridSelection &Selection() { return *selection_; }
 
   QString recordSource;   ///< names the kind of rows for copy and paste, e.g. "datMealsList"
   bool canDelete = true;  ///< Del and "Delete Row(s)"
   bool canSort = true;    ///< clicks on the captions, and the two Sort commands
 
+  // Columns.
   void SetColumns(GridColumns columns);
   void RebindColumn(const QString &name, const QString &field, const QString &caption, const QString &pattern = {});
   void ShowColumn(const QString &name, bool visible);
-  /// From now on another column is wider by this one's width while this one is hidden. At most one pair.
-  void GiveRoom(const QString &from, const QString &to);
-  /// Column widths come from and go to this place of the store (value name: the column's).
-  void KeepWidths(SettingsStore &store, const QString &key);
+  void GiveRoom(const QString &from, const QString &to) { widths_->GiveRoom(from, to); }
+  void SetSpareColumn(const QString &name) { widths_->SetSpare(name); }
+  void KeepWidths(SettingsStore &store, const QString &key) { widths_->Keep(store, key); }
+  void SetRowLines(int lines);  ///< the rows are so many lines of text high
+  void SetDatePicker(DatePicker picker) { pickDate_ = std::move(picker); }
+  void SetPlaceholderText(const QString &text);  ///< what an empty list says to do
+  int FirstColumn() const;                       ///< the first that shows something: where a person would begin
+  int LastColumn() const;
 
   /// Shows a source. Saves the row being changed first; false when that was refused (nothing happens then) or reading
   /// failed.
@@ -55,41 +72,57 @@ class BoundGrid : public QTableView {
   bool RefreshRows(const std::vector<qint64> &keys);
   /// Sorts by a column, then the key. False when nothing was sorted.
   bool SortBy(const QString &columnName, bool descending);
+  void SortByClick(int column);
+  void KeepingPlace(const std::function<void()> &work);
+  /// Runs work that may fail, the failure handled as the guard hook says.
+  bool RunGuarded(GridAction action, const std::function<void()> &work);
+  void PrefetchVisible();
 
   // The current row and the marked ones.
-  std::optional<qint64> CurrentKey() const;
+  std::optional<qint64> CurrentKey() const { return selection_->CurrentKey(); }
   QString CurrentColumn() const;  ///< its name; "" without a current cell
   Value CurrentField(const QString &field) const;
   /// Makes a row current and marks it alone; `atTop` scrolls it to the top of the grid. False when it is not shown.
   bool GoToKey(qint64 key, bool atTop = false);
-  std::vector<qint64> MarkedKeys() const;  ///< in the order shown
+  std::vector<qint64> MarkedKeys() const { return selection_->MarkedKeys(); }  ///< in the order shown
   void MarkRows(const std::vector<qint64> &keys);
-  void ClearMarks();
+  void ClearMarks() { selection_->clearSelection(); }
+  bool RowsMarked() const { return selection_->RowsMarked(); }
+  void ChooseCurrentRow();  ///< marks it as a row
   void selectAll() override;
-  /// True when rows are marked as such (by hand, or more than one), not only because a cell in them is current.
-  bool RowsMarked() const;
+  void TellCurrentRow();
 
+  // Changing.
   /// Saves what is being typed, as leaving the row would. False when it was refused or failed: the person must see it.
-  bool CommitRow();
-  /// Deletes the marked rows (the current one when none is marked) in one transaction, after the before-delete hook
-  /// agreed.
-  bool DeleteSelected();
+  bool CommitRow() { return leaving_.Commit(); }
+  QModelIndex LeaveRowFor(const QModelIndex &target) { return leaving_.LeaveFor(target); }
   bool IsTyping() const;  ///< a cell's editor is open and holds something else than the cell
-  void UndoField();
-  void UndoRow();
-  /// Empties the current cell where it can be typed in; false where it cannot.
-  bool ClearCell();
-  /// What an empty list says to do; "" for nothing.
-  void SetPlaceholderText(const QString &text);
+  QWidget *OpenEditor() const;
+  void CloseOpenEditor(bool keep);
+  /// Takes over what an editor holds; `andClose` ends the editing.
+  void KeepEditor(QWidget *editor, bool andClose = false);
+  void EditCell(const QModelIndex &cell) { edit(cell, QAbstractItemView::AllEditTriggers, nullptr); }
+  bool HasListBelow(const QWidget *editor) const;  ///< which takes the arrow keys
+  /// What the current cell has to choose from: its list, the rows of its lookup, the calendar. False when nothing.
+  bool OpenCellChoice();
+  bool ActivateRow();
+  void PressCell(const QModelIndex &cell, const QMouseEvent &press);
+  void OpenMenuAt(const QPoint &place) { Q_EMIT MenuWanted(place); }
+  void OpenMenuByKey();
 
-  // The Edit commands, on the text of the active cell.
-  void Cut();
-  void Copy();
-  void Paste();
-  // Whole rows.
-  bool CopyRows(GridClipboard &clipboard);  ///< for other grids of the program
-  void CopyRowsExternal();                  ///< as cells for other programs
-  bool PasteRows(const GridClipboard &clipboard);
+  // The commands of the menus.
+  bool DeleteSelected() { return commands_.DeleteSelected(); }
+  void UndoField() { commands_.UndoField(); }
+  void UndoRow() { commands_.UndoRow(); }
+  bool ClearCell() { return commands_.ClearCell(); }
+  void Cut() { commands_.Cut(); }
+  void Copy() { commands_.Copy(); }
+  void Paste() { commands_.Paste(); }
+  bool CopyRows(GridClipboard &clipboard) { return commands_.CopyRows(clipboard); }
+  void CopyRowsExternal() { commands_.CopyRowsExternal(); }
+  bool PasteRows(const GridClipboard &clipboard) { return commands_.PasteRows(clipboard); }
+
+  void scrollTo(const QModelIndex &index, ScrollHint hint = EnsureVisible) override;
 
  Q_SIGNALS:
   void CurrentRowChanged();                  ///< another row, or none
@@ -99,6 +132,7 @@ class BoundGrid : public QTableView {
   void Sorted();  ///< the rows stand in another order now: a caption, the menu or SortBy
 
  protected:
+  bool edit(const QModelIndex &index, EditTrigger trigger, QEvent *event) override;
   void keyPressEvent(QKeyEvent *event) override;
   void mousePressEvent(QMouseEvent *event) override;
   void mouseMoveEvent(QMouseEvent *event) override;
@@ -110,75 +144,46 @@ class BoundGrid : public QTableView {
   void showEvent(QShowEvent *event) override;
   void hideEvent(QHideEvent *event) override;
   void changeEvent(QEvent *event) override;
+  void paintEvent(QPaintEvent *event) override;
+  void scrollContentsBy(int dx, int dy) override;
   void closeEditor(QWidget *editor, QAbstractItemDelegate::EndEditHint hint) override;
   QModelIndex moveCursor(CursorAction action, Qt::KeyboardModifiers modifiers) override;
-  void setSelection(const QRect &rect, QItemSelectionModel::SelectionFlags command) override;
   QItemSelectionModel::SelectionFlags selectionCommand(const QModelIndex &index, const QEvent *event) const override;
+  void setSelection(const QRect &rect, QItemSelectionModel::SelectionFlags command) override;
   void currentChanged(const QModelIndex &current, const QModelIndex &previous) override;
-  void scrollContentsBy(int dx, int dy) override;
-  void paintEvent(QPaintEvent *event) override;
+  void keyboardSearch(const QString &search) override { keyboard_.LookFor(search); }
 
  private:
-  friend class GridSelection;
-  struct Place;
-
-  bool RunGuarded(GridAction action, const std::function<void()> &work);
-  Place TakePlace() const;
-  void KeepingPlace(const std::function<void()> &work);
-  void RestorePlace(const Place &place);
-  int FirstColumn() const;
-  int LastColumn() const;
-  void GoToFirstRow();
-  void TellCurrentRow();
-  void SelectRows(const std::vector<qint64> &keys);
+  void SetUpView();
+  void SetUpHeads();
+  void OnCellEdited(const QString &column);
   bool HoldsOrder() const;
-  QModelIndex PressedCell(const QPoint &place) const;
-  void ChooseRow(int row);
-  bool OpenCellList();
-  void OpenMenuByKey();
-  void DrawPlaceholder();
-  std::vector<int> MarkedRowNumbers() const;
-  std::vector<qint64> RowsToCopy() const;
-  void PrefetchVisible();
-
-  QModelIndex LeaveRowFor(const QModelIndex &target);
-  void ShowRefusal();
-  QWidget *OpenEditor() const;
-  void CloseOpenEditor(bool keep);
-  QModelIndex NextEditable(bool forward) const;
-  bool HandleEditingKey(QKeyEvent *event);
-  bool ActivateRow();
-  bool IsTypingAhead() const;
-  void keyboardSearch(const QString &search) override;
-  void DeleteKeepingPlace(const std::vector<qint64> &keys);
-
-  void ApplyFont();
-  void ApplyWidths();
-  void SaveWidths();
-  int WidthOf(const GridColumn &column) const;
-  int RoomGivenTo(const GridColumn &column) const;
+  void GoToFirstRow();
+  bool ShowRows(const std::function<void()> &open);
   bool SortsBy(const GridColumn &column) const;
-  void SortByClick(int section);
   void ShowSortIndicator();
+  void ApplyFont();
+  void FollowScrolling();
+  void DrawPlaceholder();
+  bool PickDate(const QModelIndex &cell);
+  bool IsDateToPick(const QModelIndex &cell) const;
 
   GridModel *model_;
-  SettingsStore *store_ = nullptr;
-  QString widthsKey_;
-  QString roomFrom_;
-  QString roomTo_;
-  QTimer saveWidthsLater_;
+  RowLeaving leaving_;
+  GridSelection *selection_;
+  GridWidths *widths_ = nullptr;
+  GridMouse mouse_{*this};
+  GridKeyboard keyboard_{*this};
+  GridCommands commands_{*this};
+  FrozenColumn *frozen_ = nullptr;
+  DatePicker pickDate_;
   QTimer readKeysLater_;
-  QString typedAhead_;
-  qint64 typedAheadAt_ = 0;
-  bool applyingWidths_ = false;
-  bool committing_ = false;
-  std::optional<qint64> lastKey_;
-  std::optional<qint64> pressedKey_;  ///< of the row that the mouse last went down on
-  bool pressSettled_ = false;         ///< that press was acted on here: what follows it must not go by the old place
-  std::optional<qint64> anchorKey_;   ///< where marking with Shift begins
-  bool extending_ = false;
-  bool rowChosen_ = false;  ///< the current row was marked as a row, by hand
   QString placeholderText_;
+  std::optional<qint64> lastKey_;
+  int rowLines_ = 1;
 };
+
+/// True for a cell that a person may type in or tick.
+bool CanChange(const QModelIndex &cell);
 
 }  // namespace trimlog

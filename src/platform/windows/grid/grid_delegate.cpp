@@ -1,27 +1,19 @@
 #include "platform/windows/grid/grid_delegate.h"
 
 #include <QApplication>
-#include <QComboBox>
 #include <QHelpEvent>
 #include <QKeyEvent>
+#include <QLineEdit>
 #include <QPainter>
+#include <QPlainTextEdit>
 #include <QToolTip>
 
-#include "platform/grid/grid_cells.h"
-#include "platform/windows/fields/date_field.h"
-#include "platform/windows/fields/number_field.h"
-#include "platform/windows/fields/text_field.h"
 #include "platform/windows/grid/bound_grid.h"
+#include "platform/windows/grid/cell_editors.h"
 
 namespace trimlog {
 
 namespace {
-
-QComboBox *MakeList(const GridColumn &column, QWidget *parent) {
-  auto *list = new QComboBox(parent);
-  for (const GridChoice &choice : column.choices) list->addItem(choice.label, choice.value);
-  return list;
-}
 
 void DrawFrame(QPainter *painter, const QRect &cell, const QColor &color, int width) {
   painter->save();
@@ -34,7 +26,7 @@ void DrawFrame(QPainter *painter, const QRect &cell, const QColor &color, int wi
 
 // A small corner says: changed and not yet saved.
 void DrawChangedCorner(QPainter *painter, const QRect &cell, const QColor &color) {
-  const int side = std::max(6, cell.height() / 3);
+  const int side = std::max(6, std::min(cell.height(), 24) / 3);
   painter->save();
   painter->setRenderHint(QPainter::Antialiasing);
   painter->setPen(Qt::NoPen);
@@ -43,8 +35,12 @@ void DrawChangedCorner(QPainter *painter, const QRect &cell, const QColor &color
   painter->restore();
 }
 
-// A name may look like markup; it is shown as it is written.
-QString PlainToolTip(const QString &text) { return QStringLiteral("<div>%1</div>").arg(text.toHtmlEscaped()); }
+bool IsEnter(const QKeyEvent &key) { return key.key() == Qt::Key_Return || key.key() == Qt::Key_Enter; }
+
+// In several lines Enter makes a new one; with Ctrl it leaves them.
+bool EndsEditing(const QWidget *editor, const QKeyEvent &key) {
+  return IsEnter(key) && (!qobject_cast<const QPlainTextEdit *>(editor) || key.modifiers() & Qt::ControlModifier);
+}
 
 }  // namespace
 
@@ -55,59 +51,21 @@ QColor RefusalColor(const QPalette &palette) {
 GridDelegate::GridDelegate(BoundGrid *grid) : QStyledItemDelegate(grid), grid_(grid) {}
 
 QWidget *GridDelegate::createEditor(QWidget *parent, const QStyleOptionViewItem &, const QModelIndex &index) const {
-  const GridColumn &column = grid_->Model().Columns()[index.column()];
-  const QString name = column.name + QStringLiteral("Edit");
-  const QString label = QString(column.caption).replace(QLatin1Char('\n'), QLatin1Char(' '));
-  const QLocale &locale = grid_->Model().Locale();
-  if (column.type == GridType::Choice) {
-    QComboBox *const list = MakeList(column, parent);
-    list->setObjectName(column.dropDown.isEmpty() ? name : column.dropDown);
-    list->setAccessibleName(label);
-    list->setContextMenuPolicy(Qt::NoContextMenu);
-    auto *self = const_cast<GridDelegate *>(this);
-    connect(list, &QComboBox::activated, self, [self, list] { Q_EMIT self->commitData(list); });
-    return list;
-  }
-  QLineEdit *field = nullptr;
-  if (IsNumberType(column.type)) {
-    field = new NumberField(name, label, locale, parent);
-  } else if (column.type == GridType::Date) {
-    field = new DateField(name, label, locale, parent);
-  } else {
-    field = new TextField(name, label, 0, parent);  // a text that is too long is refused, not cut
-  }
-  field->setContextMenuPolicy(Qt::NoContextMenu);  // the grid's menu
-  field->setFrame(false);
-  field->setAlignment(AlignmentOf(column));
-  return field;
+  return MakeCellEditor(*grid_, grid_->Model().Columns()[index.column()], parent);
 }
 
-void GridDelegate::setEditorData(QWidget *editor, const QModelIndex &index) const {
-  if (auto *list = qobject_cast<QComboBox *>(editor)) {
-    list->setCurrentIndex(list->findText(index.data(Qt::EditRole).toString()));
-  } else if (auto *field = qobject_cast<QLineEdit *>(editor)) {
-    field->setText(index.data(Qt::EditRole).toString());
-    const QString sentence = index.data(GridModel::SentenceRole).toString();
-    field->setToolTip(sentence);
-    if (!sentence.isEmpty()) {
-      field->setStyleSheet(QStringLiteral("border: 2px solid %1").arg(RefusalColor(grid_->palette()).name()));
-    }
-  }
-}
+void GridDelegate::setEditorData(QWidget *editor, const QModelIndex &index) const { FillCellEditor(*editor, index); }
 
 void GridDelegate::setModelData(QWidget *editor, QAbstractItemModel *model, const QModelIndex &index) const {
-  if (auto *list = qobject_cast<QComboBox *>(editor)) {
-    const bool chosen = list->currentIndex() >= 0 && list->currentText() != index.data(Qt::EditRole).toString();
-    if (chosen) model->setData(index, list->currentData(), GridModel::ValueRole);
-  } else if (auto *field = qobject_cast<QLineEdit *>(editor)) {
-    model->setData(index, field->text(), Qt::EditRole);
-  }
+  StoreCellEditor(*editor, *model, index);
 }
 
 void GridDelegate::updateEditorGeometry(QWidget *editor, const QStyleOptionViewItem &option,
-                                        const QModelIndex &) const {
+                                        const QModelIndex &index) const {
   QRect place = option.rect;
-  if (qobject_cast<QComboBox *>(editor)) place.setWidth(std::max(place.width(), editor->sizeHint().width()));
+  const GridType type = grid_->Model().Columns()[index.column()].type;
+  if (type == GridType::Choice) place.setWidth(std::max(place.width(), editor->sizeHint().width()));
+  if (type == GridType::Memo) place.setHeight(std::max(place.height(), 3 * option.fontMetrics.lineSpacing()));
   editor->setGeometry(place);
 }
 
@@ -116,8 +74,7 @@ void GridDelegate::paint(QPainter *painter, const QStyleOptionViewItem &option, 
   initStyleOption(&cell, index);
   const bool current = index == grid_->currentIndex();
   const bool refused = !index.data(GridModel::SentenceRole).toString().isEmpty();
-  const bool plain = (current && !grid_->RowsMarked()) ||
-                     refused;  // stands out of a marked row, whose colour the view has already laid down
+  const bool plain = (current && !grid_->RowsMarked()) || refused;  // stands out of a marked row
   const bool marked = cell.state.testFlag(QStyle::State_Selected) && !plain;
   cell.state &= ~QStyle::State_HasFocus;
   if (plain) {
@@ -136,12 +93,14 @@ void GridDelegate::paint(QPainter *painter, const QStyleOptionViewItem &option, 
 // Besides the sentences of refused cells, texts that the column cuts off are shown in full.
 bool GridDelegate::helpEvent(QHelpEvent *event, QAbstractItemView *view, const QStyleOptionViewItem &option,
                              const QModelIndex &index) {
-  if (!index.data(GridModel::SentenceRole).toString().isEmpty()) {
-    return QStyledItemDelegate::helpEvent(event, view, option, index);
+  QString text = index.data(GridModel::SentenceRole).toString();
+  if (text.isEmpty()) {
+    text = index.data().toString();
+    const QSize needed = option.fontMetrics.size(0, text);
+    const QRect room = view->visualRect(index);
+    if (needed.width() <= room.width() - 6 && needed.height() <= room.height()) text.clear();
   }
-  const QString text = index.data().toString();
-  const bool cut = option.fontMetrics.horizontalAdvance(text) > view->visualRect(index).width() - 6;
-  QToolTip::showText(event->globalPos(), cut ? PlainToolTip(text) : QString(), view);
+  QToolTip::showText(event->globalPos(), text, view);
   return true;
 }
 
@@ -149,13 +108,15 @@ bool GridDelegate::eventFilter(QObject *watched, QEvent *event) {
   auto *const editor = qobject_cast<QWidget *>(watched);
   if (!editor || event->type() != QEvent::KeyPress) return QStyledItemDelegate::eventFilter(watched, event);
   const auto *const key = static_cast<QKeyEvent *>(event);
-  const bool enter = key->key() == Qt::Key_Return || key->key() == Qt::Key_Enter;
-  const bool leavesByArrow = (key->key() == Qt::Key_Up || key->key() == Qt::Key_Down) &&
-                             !(key->modifiers() & ~Qt::KeypadModifier) && qobject_cast<QLineEdit *>(editor);
-  if (key->matches(QKeySequence::Paste) && qobject_cast<QLineEdit *>(editor)) {
+  if (key->matches(QKeySequence::Paste) && !TypedInEditor(*editor).isNull()) {
     grid_->Paste();
     return true;
   }
+  const bool enter = EndsEditing(editor, *key);
+  const bool arrow = key->key() == Qt::Key_Up || key->key() == Qt::Key_Down;
+  const bool leavesByArrow = arrow && !(key->modifiers() & ~Qt::KeypadModifier) && qobject_cast<QLineEdit *>(editor) &&
+                             !grid_->HasListBelow(editor);
+  if (IsEnter(*key) && !enter) return false;  // a new line, not the end
   if (!enter && !leavesByArrow) return QStyledItemDelegate::eventFilter(watched, event);
   Q_EMIT commitData(editor);
   Q_EMIT closeEditor(editor, enter ? QAbstractItemDelegate::EditNextItem : QAbstractItemDelegate::NoHint);

@@ -1,0 +1,277 @@
+// What comes to a BoundGrid from outside: keys and mouse, scrolling, painting; and its cells' editors.
+#include <QApplication>
+#include <QContextMenuEvent>
+#include <QHeaderView>
+#include <QMetaMethod>
+#include <QPainter>
+#include <QScopedValueRollback>
+#include <QScrollBar>
+#include <algorithm>
+
+#include "platform/windows/grid/bound_grid.h"
+#include "platform/windows/grid/cell_editors.h"
+#include "platform/windows/grid/frozen_column.h"
+#include "platform/windows/grid/lookup_field.h"
+
+namespace trimlog {
+
+// ---- Editors of cells
+
+QWidget *BoundGrid::OpenEditor() const {
+  return state() == QAbstractItemView::EditingState ? indexWidget(currentIndex()) : nullptr;
+}
+
+bool BoundGrid::IsTyping() const {
+  const QWidget *const editor = OpenEditor();
+  if (!editor) return false;
+  const QString typed = TypedInEditor(*editor);
+  return !typed.isNull() && typed != currentIndex().data(Qt::EditRole).toString();
+}
+
+void BoundGrid::CloseOpenEditor(bool keep) {
+  QWidget *const editor = OpenEditor();
+  if (!editor) return;
+  if (keep) commitData(editor);
+  QTableView::closeEditor(editor, keep ? QAbstractItemDelegate::NoHint : QAbstractItemDelegate::RevertModelCache);
+}
+
+void BoundGrid::KeepEditor(QWidget *editor, bool andClose) {
+  commitData(editor);
+  if (andClose) closeEditor(editor, QAbstractItemDelegate::NoHint);
+}
+
+bool BoundGrid::HasListBelow(const QWidget *editor) const { return qobject_cast<const LookupField *>(editor); }
+
+void BoundGrid::OnCellEdited(const QString &column) {
+  const int edited = model_->ColumnByName(column);
+  const bool refused = !model_->RefusalOfRow().isEmpty();
+  if (edited >= 0 && model_->Columns()[edited].savesAtOnce && !refused) leaving_.Save();
+}
+
+bool BoundGrid::edit(const QModelIndex &index, EditTrigger trigger, QEvent *event) {
+  const auto *key = event && event->type() == QEvent::KeyPress ? static_cast<QKeyEvent *>(event) : nullptr;
+  const bool begins = trigger == AnyKeyPressed ? key && !key->text().isEmpty() && key->text().front().isPrint()
+                                               : trigger == EditKeyPressed || trigger == AllEditTriggers;
+  const bool covered = frozen_ && frozen_->isVisible() && index.column() == frozen_->Column();
+  if (covered && begins && CanChange(index)) horizontalScrollBar()->setValue(0);
+  return QTableView::edit(index, trigger, event);
+}
+
+void BoundGrid::ChooseCurrentRow() {
+  if (!currentIndex().isValid()) return;
+  selection_->GoTo(currentIndex());
+  selection_->chosenByHand = true;
+  viewport()->update();
+}
+
+void BoundGrid::closeEditor(QWidget *editor, QAbstractItemDelegate::EndEditHint hint) {
+  QTableView::closeEditor(editor, hint);
+  const QWidget *const focus = QApplication::focusWidget();
+  if (focus && focus != this && !isAncestorOf(focus) && focus->window() == window()) CommitRow();
+}
+
+void BoundGrid::focusOutEvent(QFocusEvent *event) {
+  QTableView::focusOutEvent(event);
+  const QWidget *const focus = QApplication::focusWidget();
+  if (focus && !isAncestorOf(focus) && focus->window() == window()) CommitRow();
+}
+
+bool BoundGrid::IsDateToPick(const QModelIndex &cell) const {
+  return pickDate_ && cell.flags().testFlag(Qt::ItemIsEditable) &&
+         model_->Columns()[cell.column()].type == GridType::Date;
+}
+
+bool BoundGrid::PickDate(const QModelIndex &cell) {
+  if (!IsDateToPick(cell)) return false;
+  CloseOpenEditor(true);
+  const QPersistentModelIndex kept = cell;
+  const std::optional<QDate> date = pickDate_(*this, cell.data(GridModel::ValueRole).toDate());
+  if (date && kept.isValid()) model_->setData(kept, *date, GridModel::ValueRole);
+  setFocus();
+  return true;
+}
+
+bool BoundGrid::OpenCellChoice() {
+  const QModelIndex cell = currentIndex();
+  if (!cell.flags().testFlag(Qt::ItemIsEditable)) return false;
+  const GridType type = model_->Columns()[cell.column()].type;
+  if (type == GridType::Date) return PickDate(cell);
+  if (type != GridType::Choice && type != GridType::Lookup) return false;
+  EditCell(cell);
+  if (auto *list = qobject_cast<QComboBox *>(OpenEditor())) list->showPopup();
+  if (auto *field = qobject_cast<LookupField *>(OpenEditor())) field->ShowList();
+  return true;
+}
+
+// ---- Keys
+
+void BoundGrid::keyPressEvent(QKeyEvent *event) {
+  const QScopedValueRollback<bool> extending(selection_->extending, event->modifiers().testFlag(Qt::ShiftModifier));
+  if (!keyboard_.Press(*event)) QTableView::keyPressEvent(event);
+}
+
+QModelIndex BoundGrid::moveCursor(CursorAction action, Qt::KeyboardModifiers modifiers) {
+  QModelIndex target;
+  if (action == MoveNext || action == MovePrevious) {
+    target = keyboard_.NextEditable(action == MoveNext);
+    if (!target.isValid()) target = currentIndex();
+  } else {
+    target = QTableView::moveCursor(action, modifiers);
+    if (action == MoveHome && target.isValid()) target = target.siblingAtColumn(FirstColumn());
+    if (action == MoveEnd && target.isValid()) target = target.siblingAtColumn(LastColumn());
+  }
+  const QModelIndex left = LeaveRowFor(target);
+  return left.isValid() ? left : currentIndex();
+}
+
+QItemSelectionModel::SelectionFlags BoundGrid::selectionCommand(const QModelIndex &index, const QEvent *event) const {
+  if (event && event->type() == QEvent::KeyPress) {
+    const auto *key = static_cast<const QKeyEvent *>(event);
+    // Ctrl+Home and Ctrl+End go to a row, with Shift they mark up to it; the view would leave the marks as they are.
+    const bool jump = key->key() == Qt::Key_Home || key->key() == Qt::Key_End;
+    const Qt::KeyboardModifiers held = key->modifiers() & ~Qt::KeypadModifier;
+    if (jump && held == Qt::ControlModifier) return QItemSelectionModel::ClearAndSelect | QItemSelectionModel::Rows;
+    if (jump && held == (Qt::ControlModifier | Qt::ShiftModifier)) {
+      return QItemSelectionModel::SelectCurrent | QItemSelectionModel::Rows;
+    }
+  }
+  return QTableView::selectionCommand(index, event);
+}
+
+void BoundGrid::setSelection(const QRect &rect, QItemSelectionModel::SelectionFlags command) {
+  if (command.testFlag(QItemSelectionModel::Current) && selection_->ExtendMarks()) return;
+  QTableView::setSelection(rect, command);
+}
+
+bool BoundGrid::ActivateRow() {
+  const std::optional<qint64> key = CurrentKey();
+  if (!key || !isSignalConnected(QMetaMethod::fromSignal(&BoundGrid::RowActivated))) return false;
+  Q_EMIT RowActivated(*key);
+  return true;
+}
+
+// ---- Mouse
+
+void BoundGrid::mousePressEvent(QMouseEvent *event) {
+  if (mouse_.Press(*event)) return event->accept();
+  const bool marks = (event->modifiers() & (Qt::ShiftModifier | Qt::ControlModifier)) != Qt::NoModifier;
+  const QScopedValueRollback<bool> extending(selection_->extending, event->modifiers().testFlag(Qt::ShiftModifier));
+  QTableView::mousePressEvent(event);
+  selection_->chosenByHand = marks;
+}
+
+void BoundGrid::mouseMoveEvent(QMouseEvent *event) {
+  if (!mouse_.PressIsSettled()) QTableView::mouseMoveEvent(event);
+}
+
+void BoundGrid::mouseReleaseEvent(QMouseEvent *event) {
+  if (!mouse_.PressIsSettled()) QTableView::mouseReleaseEvent(event);
+}
+
+void BoundGrid::mouseDoubleClickEvent(QMouseEvent *event) {
+  const QModelIndex cell = mouse_.CellOfDoubleClick(*event);
+  const bool left = event->button() == Qt::LeftButton;
+  if (left && cell == currentIndex() && PickDate(cell)) return;
+  if (!mouse_.DoubleClick(*event)) QTableView::mouseDoubleClickEvent(event);
+  if (left && cell.isValid() && currentIndex() == cell && !CanChange(cell)) ActivateRow();
+}
+
+// A press on the copy of a cell that stays in sight while the columns scroll.
+void BoundGrid::PressCell(const QModelIndex &cell, const QMouseEvent &press) {
+  const QScopedValueRollback<bool> extending(selection_->extending, press.modifiers().testFlag(Qt::ShiftModifier));
+  const QModelIndex target = LeaveRowFor(cell);
+  if (!target.isValid()) return;
+  const QItemSelectionModel::SelectionFlags command = selectionCommand(target, &press);
+  const bool extend = command.testFlag(QItemSelectionModel::Current);
+  selection_->setCurrentIndex(target, extend ? QItemSelectionModel::NoUpdate : command);
+  if (extend) selection_->ExtendMarks();
+  setFocus(Qt::MouseFocusReason);
+}
+
+void BoundGrid::contextMenuEvent(QContextMenuEvent *event) {
+  event->accept();
+  if (event->reason() == QContextMenuEvent::Keyboard) return OpenMenuByKey();
+  if (mouse_.GoToMenuCell(*event)) Q_EMIT MenuWanted(event->globalPos());
+}
+
+void BoundGrid::OpenMenuByKey() {
+  scrollTo(currentIndex());
+  Q_EMIT MenuWanted(viewport()->mapToGlobal(visualRect(currentIndex()).bottomLeft()));
+}
+
+// ---- Layout and painting
+
+// A cell below the column that stays in sight counts as hidden; one in that column is in sight already.
+void BoundGrid::scrollTo(const QModelIndex &index, ScrollHint hint) {
+  const int across = horizontalScrollBar()->value();
+  QTableView::scrollTo(index, hint);
+  if (!frozen_) return;
+  if (index.column() == frozen_->Column()) return horizontalScrollBar()->setValue(across);
+  const int covered = frozen_->CoveredWidth() - columnViewportPosition(index.column());
+  if (covered > 0) horizontalScrollBar()->setValue(horizontalScrollBar()->value() - covered);
+}
+
+void BoundGrid::FollowScrolling() {
+  const int column = FirstColumn();
+  const bool text = column < model_->columnCount() && model_->Columns()[column].type == GridType::Text;
+  if (horizontalScrollBar()->value() > 0 && text && (!frozen_ || frozen_->Column() != column)) {
+    delete frozen_;
+    frozen_ = new FrozenColumn(*this, column);
+  }
+  if (frozen_) frozen_->Follow();
+}
+
+void BoundGrid::scrollContentsBy(int dx, int dy) {
+  QTableView::scrollContentsBy(dx, dy);
+  if (dy != 0) PrefetchVisible();
+  FollowScrolling();
+  leaving_.PlaceSentence();
+}
+
+void BoundGrid::resizeEvent(QResizeEvent *event) {
+  QTableView::resizeEvent(event);
+  PrefetchVisible();
+  if (widths_) widths_->FillSpare();
+  FollowScrolling();
+  leaving_.PlaceSentence();
+}
+
+void BoundGrid::showEvent(QShowEvent *event) {
+  QTableView::showEvent(event);
+  PrefetchVisible();
+}
+
+void BoundGrid::hideEvent(QHideEvent *event) {
+  widths_->SaveNow();
+  QTableView::hideEvent(event);
+}
+
+void BoundGrid::changeEvent(QEvent *event) {
+  QTableView::changeEvent(event);
+  if (!widths_ || (event->type() != QEvent::FontChange && event->type() != QEvent::StyleChange)) return;
+  ApplyFont();
+  widths_->Apply();
+}
+
+// The keys behind the first page are read once that page stands on the screen.
+void BoundGrid::paintEvent(QPaintEvent *event) {
+  QTableView::paintEvent(event);
+  if (model_->IsOpen() && !model_->AllKeysLoaded()) readKeysLater_.start();
+  if (model_->rowCount() == 0 && !placeholderText_.isEmpty()) DrawPlaceholder();
+}
+
+void BoundGrid::SetPlaceholderText(const QString &text) {
+  placeholderText_ = text;
+  setAccessibleDescription(text);
+  viewport()->update();
+}
+
+void BoundGrid::DrawPlaceholder() {
+  QPainter painter(viewport());
+  painter.setPen(palette().color(QPalette::PlaceholderText));
+  const int margin = fontMetrics().height();
+  painter.drawText(viewport()->rect().adjusted(margin, margin, -margin, -margin),
+                   Qt::AlignHCenter | Qt::AlignTop | Qt::TextWordWrap, placeholderText_);
+}
+
+}  // namespace trimlog
