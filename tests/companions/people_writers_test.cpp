@@ -58,14 +58,14 @@ QString Ann(TestSession &session) {
          u'|' + session.ValueOf(QStringLiteral("Notes"), QStringLiteral("notes"), QStringLiteral("PersonID=2"));
 }
 
-struct Writer {
+struct PeopleWriter {
   const char *name;
   std::function<void(TestSession &session)> act;
   const char *heard;
 };
 
 TEST(PeopleWriters, EachAnnouncesWhatItWroteAndTouchesNobodyElse) {
-  const Writer writers[] = {
+  const PeopleWriter writers[] = {
       {"add", [](TestSession &s) { AddPerson(*s, {.PersonName = QStringLiteral("Cid")}); }, "people 3"},
       {"update", [](TestSession &s) { UpdatePerson(*s, QStringLiteral("1"), {.PersonName = QStringLiteral("Bo")}); },
        "people 1"},
@@ -104,7 +104,7 @@ TEST(PeopleWriters, EachAnnouncesWhatItWroteAndTouchesNobodyElse) {
       {"options", [](TestSession &s) { StoreOptions(*s, s->settings); }, "settings"},
       {"sign of losses", [](TestSession &s) { StoreLossFactor(*s, -1); }, "settings"},
   };
-  for (const Writer &writer : writers) {
+  for (const PeopleWriter &writer : writers) {
     SCOPED_TRACE(writer.name);
     TestSession session;
     session.AddProfile(2, QStringLiteral("Ann"));
