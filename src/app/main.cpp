@@ -6,6 +6,7 @@
 #include "platform/windows/machine/font_warmth.h"
 #include "platform/windows/machine/qt_boxes.h"
 #include "platform/windows/machine/qt_machine.h"
+#include "platform/windows/printing/system_printing.h"
 #include "program.h"
 
 int main(int argc, char **argv) {
@@ -24,7 +25,9 @@ int main(int argc, char **argv) {
   SystemClock clock;
   QtMachine machine;
   QtBoxes boxes;
-  Session session({QApplication::applicationDirPath(), *store, clock, machine, boxes, QLocale()});
+  const std::unique_ptr<PageOutput> pages = SystemPageOutput();
+  SystemPrinting printing(boxes, *pages);
+  Session session({QApplication::applicationDirPath(), *store, clock, machine, boxes, printing, QLocale()});
   const std::unique_ptr<OperatingSystem> system = RunningSystem();
   Program program(session, *system);
   return program.Start() ? QApplication::exec() : 0;

@@ -14,7 +14,7 @@ namespace {
 
 class Services : public ::testing::Test {
  protected:
-  Services() : session({folder.path(), *store, clock, machine, boxes, QLocale::c()}) {}
+  Services() : session({folder.path(), *store, clock, machine, boxes, printing, QLocale::c()}) {}
   QStringList LogLines() const {
     QFile file(folder.filePath(QStringLiteral("errorlog.txt")));
     if (!file.open(QIODevice::ReadOnly)) return {};
@@ -26,6 +26,7 @@ class Services : public ::testing::Test {
   FixedClock clock{QDateTime(QDate(2026, 3, 1), QTime(9, 5, 7))};
   RecordingMachine machine;
   QueuedBoxes boxes;
+  RecordingPrinting printing;
   Session session;
 };
 

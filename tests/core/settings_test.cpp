@@ -140,7 +140,7 @@ TEST_F(SettingsTable, SavingWritesWhatTheOptionsWindowEditsAndNothingElse) {
 
 class Geometry : public ::testing::Test {
  protected:
-  Geometry() : session({folder.path(), *store, clock, machine, boxes, QLocale::c()}) {}
+  Geometry() : session({folder.path(), *store, clock, machine, boxes, printing, QLocale::c()}) {}
   void Put(const char *name, const char *text) {
     store->SaveSettingString(settingsRoot, QLatin1String(name), QLatin1String(text));
   }
@@ -154,6 +154,7 @@ class Geometry : public ::testing::Test {
   FixedClock clock{QDateTime(QDate(2026, 3, 1), QTime(12, 0))};
   RecordingMachine machine;
   QueuedBoxes boxes;
+  RecordingPrinting printing;
   Session session;
 };
 

@@ -72,9 +72,11 @@ class StartBench {
   FixedClock clock{QDateTime(QDate(2026, 3, 1), QTime(12, 0))};
   RecordingMachine machine;
   QueuedBoxes boxes;
+  RecordingPrinting printing;
   TestSystem system;
   std::unique_ptr<SettingsStore> store = MemorySettings();
-  Session session{{directory.path(), *store, clock, machine, boxes, QLocale(QLocale::English, QLocale::UnitedStates)}};
+  Session session{
+      {directory.path(), *store, clock, machine, boxes, printing, QLocale(QLocale::English, QLocale::UnitedStates)}};
   RoomHooks hooks;
   FrameDoors doors;
   Application application{session, hooks, doors, system};

@@ -5,7 +5,6 @@
 #include <QMap>
 #include <QSet>
 
-#include "core/windows/frame/print_window.h"
 #include "frame_fixture.h"
 #include "platform/windows/grid/bound_grid.h"
 
@@ -160,30 +159,19 @@ TEST_F(FrameCommandsTest, RowCommandsActOnTheGridInUse) {
             QString());
 }
 
-/// A print system of the test's own.
-class FakeOutput final : public PageOutput {
- public:
-  bool HasPrinter() const override { return true; }
-  void Print(PagedDocument &document) override {
-    if (broken) throw Error(error_number::other, QStringLiteral("out of paper"));
-    pages += document.LayOut({11000, 15000});
-  }
-  void Preview(PagedDocument &document, QWidget *) override { Print(document); }
-  bool broken = false;
-  int pages = 0;
-};
-
 TEST_F(FrameCommandsTest, PrintingDressesTheWindowAndUndressesItWhateverHappens) {
   Load();
   const QString question = QStringLiteral("Print the currently displayed window to your default printer?");
   const QString note = QStringLiteral("Note: After clicking OK, there will be a momentary delay");
-  FakeOutput output;
   session.boxes.Expect(QStringLiteral("Print Window?"), question, BoxButton::No);
-  PrintCurrentWindow(*session, *frame->CurrentForm(), &output);
-  EXPECT_TRUE(behaviour.calls.isEmpty());
+  Choose("mnuFilePrintWindow");
+  EXPECT_EQ(behaviour.calls, QStringList{QStringLiteral("frmData:save")});
 
+  session.printing.onPicture = [this](QWidget &form) {
+    behaviour.calls.append(QStringLiteral("picture of ") + form.objectName());
+  };
   for (const bool broken : {false, true}) {
-    output.broken = broken;
+    session.printing.broken = broken;
     behaviour.calls.clear();
     session.boxes.Expect(QStringLiteral("Print Window?"), question, BoxButton::Yes);
     session.boxes.Expect(QStringLiteral("Print Window?"), note);
@@ -192,10 +180,11 @@ TEST_F(FrameCommandsTest, PrintingDressesTheWindowAndUndressesItWhateverHappens)
           QStringLiteral("Printer Error"),
           QStringLiteral("An error occurred while printing to your default printer.  Unable to print at this time."));
     }
-    PrintCurrentWindow(*session, *frame->CurrentForm(), &output);
-    EXPECT_EQ(behaviour.calls.join(QLatin1Char(' ')), QStringLiteral("frmData:paper frmData:screen"));
+    Choose("mnuFilePrintWindow");
+    EXPECT_EQ(behaviour.calls.join(QLatin1Char(' ')),
+              QStringLiteral("frmData:save frmData:paper picture of frmData frmData:screen"));
   }
-  EXPECT_EQ(output.pages, 1);
+  EXPECT_EQ(session.printing.printed, QStringList{QStringLiteral("picture")});
 }
 
 }  // namespace

@@ -1,9 +1,17 @@
+#include <signal.h>
+#include <sys/resource.h>
+
+#include <QApplication>
+#include <QDir>
 #include <QPaintEngine>
 #include <QPainter>
+#include <QProgressDialog>
+#include <QTest>
+#include <QThread>
 
 #include "grid_fixture.h"
 #include "platform/windows/printing/grid_printer.h"
-#include "platform/windows/printing/window_printer.h"
+#include "platform/windows/printing/system_printing.h"
 #include "support/queued_boxes.h"
 
 namespace trimlog {
@@ -55,7 +63,7 @@ class TextRecorder final : public QPaintDevice {
 class RecordingOutput final : public PageOutput {
  public:
   bool HasPrinter() const override { return hasPrinter; }
-  void Print(PagedDocument &document) override {
+  void Print(PagedDocument &document, QWidget *) override {
     landscape = document.PrefersLandscape(page);
     if (landscape) page.transpose();
     pages = document.LayOut(page);
@@ -65,7 +73,7 @@ class RecordingOutput final : public PageOutput {
       document.DrawPage(painter, number);
     }
   }
-  void Preview(PagedDocument &document, QWidget *) override { Print(document); }
+  void Preview(PagedDocument &document, QWidget *owner) override { Print(document, owner); }
 
   QString TextOf(int number) const {
     QStringList texts;
@@ -100,7 +108,7 @@ TEST(ListPrinting, EveryRowStandsOnceUnderRepeatedCaptions) {
   QueuedBoxes boxes;
   PrintedList list = Words(500, 3, QStringLiteral("Bread"));
   list.closing = {{QStringLiteral("Daily Totals"), QStringLiteral("12"), QStringLiteral("34")}};
-  ASSERT_TRUE(PrintList(list, boxes, nullptr, &output));
+  ASSERT_TRUE(SystemPrinting(boxes, output).PrintList(list));
   EXPECT_GT(output.pages, 5);
   EXPECT_FALSE(output.landscape);
   QString all;
@@ -117,7 +125,7 @@ TEST(ListPrinting, EveryRowStandsOnceUnderRepeatedCaptions) {
 TEST(ListPrinting, APrintMadeSmallerBreaksNoWord) {
   RecordingOutput output;
   QueuedBoxes boxes;
-  ASSERT_TRUE(PrintList(Words(5, 14, QStringLiteral("Bread")), boxes, nullptr, &output));
+  ASSERT_TRUE(SystemPrinting(boxes, output).PrintList(Words(5, 14, QStringLiteral("Bread"))));
   for (int column = 0; column < 14; ++column) {
     EXPECT_TRUE(output.TextOf(0).contains(QStringLiteral("|Caption%1|").arg(column))) << output.TextOf(0).toStdString();
   }
@@ -138,7 +146,7 @@ TEST(ListPrinting, NothingIsCutOff) {
        }) {
     RecordingOutput output;
     QueuedBoxes boxes;
-    ASSERT_TRUE(PrintList(printed.list, boxes, nullptr, &output));
+    ASSERT_TRUE(SystemPrinting(boxes, output).PrintList(printed.list));
     EXPECT_EQ(output.landscape, printed.landscape) << printed.what;
     qsizetype letters = 0;
     for (const DrawnText &drawn : output.recorder.drawn) {
@@ -158,33 +166,111 @@ TEST_F(GridTest, AGridPrintsItsVisibleColumnsInTheOrderShown) {
   grid.SortBy(QStringLiteral("FoodDesc"), true);
   RecordingOutput output;
   QueuedBoxes boxes;
-  ASSERT_TRUE(PrintGrid(grid, QStringLiteral("Foods"), boxes, &output));
+  ASSERT_TRUE(SystemPrinting(boxes, output).PrintList(PrintedGrid(grid, QStringLiteral("Foods"))));
   const QString text = output.TextOf(0);
   EXPECT_TRUE(text.startsWith(QStringLiteral("Foods|Food Description|Calories|Fat|Group|Modified|(kcal)|(g)")))
       << text.toStdString();
   EXPECT_TRUE(text.contains(QStringLiteral("|Food 00040|995|5.00|Fruits|No|Food 00039|"))) << text.toStdString();
 }
 
-TEST(WindowPrinting, WithoutAPrinterThePageGoesToAPdfFile) {
+TEST(TextPrinting, GoesOnUnderItsTitleUntilNothingIsLeft) {
+  RecordingOutput output;
+  QueuedBoxes boxes;
+  PrintedText notes{QStringLiteral("Ann: Daily Notes For 3/1/2026"), {}};
+  for (int note = 0; note < 60; ++note) {
+    notes.paragraphs.append(QStringLiteral("Note %1.\r\nsecond line%2").arg(note).arg(QString(400, u'w')));
+  }
+  ASSERT_TRUE(SystemPrinting(boxes, output).PrintText(notes));
+  ASSERT_GT(output.pages, 3);
+  qsizetype letters = 0;
+  QString all;
+  for (int page = 0; page < output.pages; ++page) {
+    const QString text = output.TextOf(page);
+    const QString title = page == 0 ? notes.title : notes.title + QStringLiteral(" (Continued)");
+    EXPECT_TRUE(text.startsWith(title + QLatin1Char('|'))) << text.toStdString();
+    all += text.mid(title.size());
+  }
+  for (int note = 0; note < 60; ++note) EXPECT_EQ(all.count(QStringLiteral("|Note %1.|").arg(note)), 1) << note;
+  for (const DrawnText &drawn : output.recorder.drawn) {
+    EXPECT_LE(drawn.right, output.page.width() + 1);
+    EXPECT_LE(drawn.bottom, output.page.height());
+    letters += drawn.text.count(QLatin1Char('w'));
+  }
+  EXPECT_EQ(letters, 60 * 400);
+  ASSERT_TRUE(SystemPrinting(boxes, output).PrintText({QStringLiteral("Nothing"), {}}));
+  EXPECT_EQ(output.pages, 1);
+}
+
+/// What a machine without a printer offers instead.
+class PdfPrinting : public ::testing::Test {
+ protected:
+  PdfPrinting() { output.hasPrinter = false; }
+  void Choose(const QString &path) { boxes.ExpectInput(QStringLiteral("Print to a PDF File"), path); }
+  QByteArray Content(const QString &name) const {
+    QFile file(folder.filePath(name));
+    return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray();
+  }
   QTemporaryDir folder;
+  RecordingOutput output;
+  QueuedBoxes boxes;
+  SystemPrinting printing{boxes, output};
+};
+
+TEST_F(PdfPrinting, APicturesPageGoesToTheFileThatIsChosen) {
   QLineEdit form(QStringLiteral("A form"));
   form.setWindowTitle(QStringLiteral("Data: 1/2"));
   form.resize(900, 600);
-  RecordingOutput output;
-  output.hasPrinter = false;
-  QueuedBoxes boxes;
-  const QString title = QStringLiteral("Print to a PDF File");
-  boxes.ExpectInput(title, std::nullopt);
-  EXPECT_FALSE(PrintWindow(form, boxes, &output)) << "cancelled";
-  boxes.ExpectInput(title, folder.filePath(QStringLiteral("page")));
-  EXPECT_TRUE(PrintWindow(form, boxes, &output));
-  QFile pdf(folder.filePath(QStringLiteral("page.pdf")));
-  ASSERT_TRUE(pdf.open(QIODevice::ReadOnly));
-  const QByteArray content = pdf.readAll();
+  boxes.ExpectInput(QStringLiteral("Print to a PDF File"), std::nullopt);
+  EXPECT_FALSE(printing.PrintPicture(form)) << "cancelled";
+  Choose(folder.filePath(QStringLiteral("page")));
+  EXPECT_TRUE(printing.PrintPicture(form));
+  const QByteArray content = Content(QStringLiteral("page.pdf"));
   EXPECT_TRUE(content.startsWith("%PDF-"));
   EXPECT_EQ(content.count("/Type /Page\n"), 1);
-  boxes.ExpectInput(title, folder.filePath(QStringLiteral("missing/page.pdf")));
-  EXPECT_THROW(PrintWindow(form, boxes, &output), Error);
+  Choose(folder.filePath(QStringLiteral("missing/page.pdf")));
+  EXPECT_THROW(printing.PrintPicture(form), Error);
+}
+
+TEST_F(PdfPrinting, AFullDiskLeavesTheGoodFileAndSaysSo) {
+  Choose(folder.filePath(QStringLiteral("page.pdf")));
+  ASSERT_TRUE(printing.PrintText({QStringLiteral("Good"), {QStringLiteral("text")}}));
+  const QByteArray good = Content(QStringLiteral("page.pdf"));
+  rlimit former{};
+  getrlimit(RLIMIT_FSIZE, &former);
+  signal(SIGXFSZ, SIG_IGN);  // a write past the limit fails as on a full disk
+  for (const rlim_t room : {rlim_t{0}, rlim_t{4000}}) {
+    rlimit limit{room, former.rlim_max};
+    setrlimit(RLIMIT_FSIZE, &limit);
+    Choose(folder.filePath(QStringLiteral("page.pdf")));
+    EXPECT_THROW(printing.PrintList(Words(50, 3, QStringLiteral("Bread"))), Error) << room;
+    setrlimit(RLIMIT_FSIZE, &former);
+    EXPECT_EQ(Content(QStringLiteral("page.pdf")), good) << room;
+    EXPECT_EQ(QDir(folder.path()).entryList(QDir::Files | QDir::Hidden).size(), 1) << "nothing is left beside it";
+  }
+}
+
+TEST_F(PdfPrinting, ALongListShowsThatItWorksAndCanBeCancelledAtEveryStage) {
+  for (const PrintStage stage : {PrintStage::Measuring, PrintStage::LayingOut, PrintStage::Drawing}) {
+    PrintedList list = Words(4000, 3, QStringLiteral("Bread"));
+    bool shown = false;
+    list.cell = [&, cell = list.cell](int row, int column) {
+      auto *window = qobject_cast<QProgressDialog *>(QApplication::activeModalWidget());
+      shown = shown || window;
+      if (!window) QThread::usleep(200);
+      const bool stageReached = window && window->value() > 100 * static_cast<int>(stage) + 20;
+      if (stageReached) {
+        EXPECT_EQ(window->objectName(), QStringLiteral("frmPrintGrids"));
+        EXPECT_EQ(QGuiApplication::overrideCursor()->shape(), Qt::BusyCursor);
+        QTest::keyClick(window, Qt::Key_Escape);
+      }
+      return cell(row, column);
+    };
+    Choose(folder.filePath(QStringLiteral("long.pdf")));
+    EXPECT_FALSE(printing.PrintList(list)) << static_cast<int>(stage);
+    EXPECT_TRUE(shown);
+    EXPECT_FALSE(QFile::exists(folder.filePath(QStringLiteral("long.pdf"))));
+    EXPECT_EQ(QGuiApplication::overrideCursor(), nullptr);
+  }
 }
 
 }  // namespace

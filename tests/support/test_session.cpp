@@ -43,7 +43,7 @@ std::unique_ptr<SettingsStore> MemorySettings() { return std::make_unique<Memory
 
 TestSession::TestSession(const QLocale &locale) {
   EXPECT_TRUE(QFile::copy(ShippedDir() + QStringLiteral("/tlg.dat"), directory.filePath(QStringLiteral("tlg.dat"))));
-  session = std::make_unique<Session>(SessionPlaces{directory.path(), *store, clock, machine, boxes, locale});
+  session = std::make_unique<Session>(SessionPlaces{directory.path(), *store, clock, machine, boxes, printing, locale});
   boxes.changeOpen = [this] { return session->database && session->database->InTransaction(); };
   session->database = Database::Open(session->DataFilePath());
   LoadControlValues(session->settings, *store, true);

@@ -5,6 +5,7 @@
 
 #include "core/session/session.h"
 #include "support/queued_boxes.h"
+#include "support/recording_printing.h"
 
 namespace trimlog {
 
@@ -66,6 +67,7 @@ class TestSession {
   FixedClock clock{QDateTime(QDate(2026, 3, 1), QTime(12, 0))};
   RecordingMachine machine;
   QueuedBoxes boxes;
+  RecordingPrinting printing;
   std::unique_ptr<SettingsStore> store = MemorySettings();
   std::unique_ptr<Session> session;
 };

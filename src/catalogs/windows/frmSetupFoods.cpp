@@ -12,6 +12,7 @@
 #include "catalogs/windows/food_page.h"
 #include "catalogs/windows/food_search_page.h"
 #include "core/session/failure_guard.h"
+#include "core/session/print.h"
 #include "core/windows/controls/grid_menu.h"
 #include "core/windows/profiles/add_rec_page.h"
 #include "platform/windows/grid/bound_grid.h"
@@ -198,12 +199,9 @@ void frmSetupFoods::OnAllNutrients() {
 
 void frmSetupFoods::OnPrint() {
   if (!CurrentGrid()->CommitRow()) return;
-  const FailureExit failure{
-      QStringLiteral("frmSetupFoods"), QStringLiteral("cmdPrintMeals_Click"), QStringLiteral("Printer Error"),
-      QStringLiteral("An error occurred while printing to your default printer.  Unable to print at "
-                     "this time.")};
   const QString heading = OnSearchTab() ? searchPage_->PrintedTitle() : listPage_->PrintedTitle();
-  Guarded(session_, failure, [&] { PrintGrid(*CurrentGrid(), heading, session_.boxes); });
+  Print(session_, QStringLiteral("frmSetupFoods"), QStringLiteral("cmdPrintMeals_Click"),
+        [&](Printing &printing) { return printing.PrintList(PrintedGrid(*CurrentGrid(), heading)); });
 }
 
 void frmSetupFoods::OnChanged(const DataChange &change) {

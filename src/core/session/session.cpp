@@ -13,6 +13,7 @@ Session::Session(const SessionPlaces &places)
       clock(places.clock),
       machine(places.machine),
       boxes(places.boxes),
+      printing(places.printing),
       locale(places.locale) {
   store.writeFailed = [this](const QString &place) {
     LogError(*this, QStringLiteral("basRegistry"), QStringLiteral("SaveSettingString"),

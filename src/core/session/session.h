@@ -12,6 +12,7 @@
 #include "core/settings/settings.h"
 #include "platform/boxes.h"
 #include "platform/machine/machine.h"
+#include "platform/printing/printing.h"
 #include "platform/store/database.h"
 
 namespace trimlog {
@@ -23,6 +24,7 @@ struct SessionPlaces {
   Clock &clock;
   Machine &machine;
   Boxes &boxes;
+  Printing &printing;
   QLocale locale;  ///< number and date forms that the person reads and types
 };
 
@@ -40,6 +42,7 @@ class Session {
   Clock &clock;
   Machine &machine;
   Boxes &boxes;
+  Printing &printing;  ///< through Print (core/session/print.h)
   QLocale locale;
   DataChanges changes;
 

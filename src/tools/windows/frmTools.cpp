@@ -11,9 +11,9 @@
 
 #include "core/profiles/colour_scheme.h"
 #include "core/session/failure_guard.h"
+#include "core/session/print.h"
 #include "core/windows/controls/theme.h"
 #include "platform/windows/controls/named_controls.h"
-#include "platform/windows/printing/window_printer.h"
 #include "tools/tool_notices.h"
 #include "tools/windows/body_fat_page.h"
 #include "tools/windows/caloric_needs_page.h"
@@ -254,15 +254,13 @@ void frmTools::FollowChange(const DataChange &change) {
 
 void frmTools::PrintResults() {
   if (session_.boxes.Show(PrintResultsQuestion()) != BoxButton::Ok) return;
-  const FailureExit failure{
-      QStringLiteral("basPrinting"), QStringLiteral("PrintWindow"), QStringLiteral("Printer Error"),
-      QStringLiteral("An error occurred while printing to your default printer.  Unable to print at this time.")};
   // Dark colours do not belong on paper.
   const QPalette desktop = QApplication::palette();
   const QPalette paper = IsDark(desktop) ? QPalette(QColor(0xF0, 0xF0, 0xF0)) : desktop;
   setPalette(paper);
   RepaintPanels(this, paper);
-  Guarded(session_, failure, [this] { PrintWindow(*this, session_.boxes); });
+  Print(session_, QStringLiteral("basPrinting"), QStringLiteral("PrintWindow"),
+        [this](Printing &printing) { return printing.PrintPicture(*this); });
   setPalette({});
   RepaintPanels(this, desktop);
 }

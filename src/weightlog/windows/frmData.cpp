@@ -9,14 +9,13 @@
 #include <QToolButton>
 #include <QVBoxLayout>
 
-#include "core/session/failure_guard.h"
 #include "core/session/session.h"
 #include "core/settings/options.h"
 #include "core/windows/controls/art.h"
 #include "core/windows/controls/figure_field.h"
 #include "core/windows/controls/theme.h"
+#include "core/windows/frame/print_window.h"
 #include "platform/text/text_format.h"
-#include "platform/windows/printing/window_printer.h"
 #include "weightlog/calendar_speech.h"
 #include "weightlog/windows/fit_label.h"
 #include "weightlog/windows/frmReward.h"
@@ -359,12 +358,7 @@ void frmData::PrintContents() {
                              "Would you like to continue?"))) {
     return;
   }
-  PrepareForPrinting(true);
-  Guarded(session_,
-          {QStringLiteral("basPrinting"), QStringLiteral("PrintWindow"), tr("Printer Error"),
-           tr("An error occurred while printing to your default printer.  Unable to print at this time.")},
-          [this] { PrintWindow(*this, session_.boxes); });
-  PrepareForPrinting(false);
+  PrintForm(session_, *this);
 }
 
 void frmData::PrepareForPrinting(bool printing) {

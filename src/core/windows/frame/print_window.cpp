@@ -2,23 +2,19 @@
 
 #include <QScopeGuard>
 
-#include "core/session/failure_guard.h"
-#include "platform/windows/printing/window_printer.h"
+#include "core/session/print.h"
 
 namespace trimlog {
 
-void PrintForm(Session &session, ContentWindow &form, PageOutput *output) {
-  const FailureExit failure{
-      QStringLiteral("basPrinting"), QStringLiteral("PrintWindow"), QStringLiteral("Printer Error"),
-      QStringLiteral("An error occurred while printing to your default printer.  Unable to print at this time.")};
-  Guarded(session, failure, [&] {
+void PrintForm(Session &session, ContentWindow &form) {
+  Print(session, QStringLiteral("basPrinting"), QStringLiteral("PrintWindow"), [&form](Printing &printing) {
     form.PrepareForPrinting(true);
     const auto dressedAgain = qScopeGuard([&form] { form.PrepareForPrinting(false); });
-    PrintWindow(form, session.boxes, output);
+    return printing.PrintPicture(form);
   });
 }
 
-void PrintCurrentWindow(Session &session, ContentWindow &form, PageOutput *output) {
+void PrintCurrentWindow(Session &session, ContentWindow &form) {
   if (!session.boxes.Ask(QStringLiteral("Print Window?"),
                          QStringLiteral("Print the currently displayed window to your default printer?"))) {
     return;
@@ -27,7 +23,7 @@ void PrintCurrentWindow(Session &session, ContentWindow &form, PageOutput *outpu
       QStringLiteral("Print Window?"),
       QStringLiteral("Note: After clicking OK, there will be a momentary delay while your printer processes the data, "
                      "and then the page will be printed.  This is completely normal."));
-  PrintForm(session, form, output);
+  PrintForm(session, form);
 }
 
 }  // namespace trimlog

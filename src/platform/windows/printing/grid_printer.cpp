@@ -23,14 +23,4 @@ PrintedList PrintedGrid(BoundGrid &grid, const QString &heading) {
   return list;
 }
 
-bool PrintList(const PrintedList &list, Boxes &boxes, QWidget *owner, PageOutput *output) {
-  ListDocument document(list);
-  const std::unique_ptr<PageOutput> system = output ? nullptr : SystemPageOutput();
-  return PreviewPages(document, output ? *output : *system, boxes, owner);
-}
-
-bool PrintGrid(BoundGrid &grid, const QString &heading, Boxes &boxes, PageOutput *output) {
-  return PrintList(PrintedGrid(grid, heading), boxes, &grid, output);
-}
-
 }  // namespace trimlog

@@ -1,28 +1,18 @@
 #include "platform/windows/printing/list_document.h"
 
-#include <QFontMetricsF>
 #include <QPainter>
-#include <QTextLayout>
 #include <algorithm>
 #include <numeric>
+
+#include "platform/windows/printing/printed_lines.h"
 
 namespace trimlog {
 
 namespace {
 
-constexpr double headingSize = 240;  // 12 points
 constexpr double ordinarySize = 180;
 constexpr double smallestSize = 120;
 constexpr double gap = 140;  // between columns, and between caption line and rows
-
-QFont PrintFont(double size, bool bold) {
-  QFont font(QStringLiteral("Sans Serif"));
-  font.setStyleHint(QFont::SansSerif);
-  font.setHintingPreference(QFont::PreferNoHinting);
-  font.setPixelSize(static_cast<int>(size));
-  font.setBold(bold);
-  return font;
-}
 
 double WidestWord(const QString &text, const QFontMetricsF &metrics) {
   double widest = 0;
@@ -30,27 +20,6 @@ double WidestWord(const QString &text, const QFontMetricsF &metrics) {
     widest = std::max(widest, metrics.horizontalAdvance(word));
   }
   return widest;
-}
-
-QStringList Wrap(const QString &text, double width, const QFont &font, const QFontMetricsF &metrics) {
-  QStringList lines;
-  for (const QString &paragraph : text.split(QLatin1Char('\n'))) {
-    if (metrics.horizontalAdvance(paragraph) <= width) {
-      lines.append(paragraph);
-      continue;
-    }
-    QTextLayout layout(paragraph, font);
-    QTextOption option;
-    option.setWrapMode(QTextOption::WrapAtWordBoundaryOrAnywhere);
-    layout.setTextOption(option);
-    layout.beginLayout();
-    for (QTextLine line = layout.createLine(); line.isValid(); line = layout.createLine()) {
-      line.setLineWidth(width);
-      lines.append(paragraph.mid(line.textStart(), line.textLength()).trimmed());
-    }
-    layout.endLayout();
-  }
-  return lines;
 }
 
 int Height(const std::vector<QStringList> &lines) {
@@ -76,19 +45,22 @@ QString ListDocument::CellText(int row, int column) const {
 std::vector<double> ListDocument::WishedWidths() {
   if (!wished_.empty()) return wished_;
   const QFontMetricsF metrics(PrintFont(ordinarySize, true));
-  for (size_t column = 0; column < list_.columns.size(); ++column) {
-    const PrintedColumn &printed = list_.columns[column];
-    double width = WidestWord(printed.caption, metrics);
-    if (printed.toTheRight) {
-      for (int row = 0; row < RowCount(); ++row) {
-        width = std::max(width, metrics.horizontalAdvance(CellText(row, static_cast<int>(column))));
-      }
-    } else {
-      width = std::max(width, printed.width);
-    }
-    wished_.push_back(width + gap);
+  std::vector<double> wished;
+  for (const PrintedColumn &column : list_.columns) {
+    const double caption = WidestWord(column.caption, metrics);
+    wished.push_back(column.toTheRight ? caption : std::max(caption, column.width));
   }
-  return wished_;
+  // Row by row: each is read from the data file as a whole.
+  for (int row = 0; row < RowCount(); ++row) {
+    Reached(PrintStage::Measuring, row, RowCount());
+    for (size_t column = 0; column < wished.size(); ++column) {
+      if (!list_.columns[column].toTheRight) continue;
+      const QString text = CellText(row, static_cast<int>(column));
+      wished[column] = std::max(wished[column], metrics.horizontalAdvance(text));
+    }
+  }
+  for (double &width : wished) width += gap;
+  return wished_ = wished;
 }
 
 bool ListDocument::PrefersLandscape(const QSizeF &upright) {
@@ -126,7 +98,7 @@ ListDocument::Lines ListDocument::RowLines(int row) const {
   const QFontMetricsF metrics(font);
   Lines lines;
   for (size_t column = 0; column < widths_.size(); ++column) {
-    lines.push_back(Wrap(CellText(row, static_cast<int>(column)), TextWidth(column), font, metrics));
+    lines.push_back(WrappedLines(CellText(row, static_cast<int>(column)), TextWidth(column), font, metrics));
   }
   return lines;
 }
@@ -136,28 +108,32 @@ ListDocument::Lines ListDocument::CaptionLines() const {
   const QFontMetricsF metrics(font);
   Lines lines;
   for (size_t column = 0; column < widths_.size(); ++column) {
-    lines.push_back(Wrap(list_.columns[column].caption, TextWidth(column), font, metrics));
+    lines.push_back(WrappedLines(list_.columns[column].caption, TextWidth(column), font, metrics));
   }
   return lines;
 }
 
 double ListDocument::HeadHeight() const {
-  const QFont font = PrintFont(headingSize, true);
-  const auto lines = Wrap(list_.heading, page_.width(), font, QFontMetricsF(font)).size();
-  return static_cast<double>(lines) * headingSize * 1.3 + Height(CaptionLines()) * LineHeight() + 2 * gap;
+  const QFont font = PrintFont(headingPrintSize, true);
+  const auto lines = WrappedLines(list_.heading, page_.width(), font, QFontMetricsF(font)).size();
+  return static_cast<double>(lines) * headingPrintSize * 1.3 + Height(CaptionLines()) * LineHeight() + 2 * gap;
 }
 
 double ListDocument::BodyBottom() const { return page_.height() - ordinarySize * 2.5; }
 
 int ListDocument::LayOut(const QSizeF &page) {
+  if (page == page_ && !starts_.empty()) return static_cast<int>(starts_.size());  // a preview asks again and again
   page_ = page;
   FitColumns(page.width());
-  starts_ = {Start{}};
+  starts_.clear();  // as long as it is not laid out to the end, which may be cancelled
+  std::vector<Start> starts = {Start{}};
   while (true) {
-    const Start next = FillPage(starts_.back(), nullptr);
+    const Start next = FillPage(starts.back(), nullptr);
     if (next.row >= RowCount()) break;
-    starts_.push_back(next);
+    starts.push_back(next);
+    Reached(PrintStage::LayingOut, next.row, RowCount());
   }
+  starts_ = std::move(starts);
   return static_cast<int>(starts_.size());
 }
 
@@ -193,14 +169,14 @@ void ListDocument::DrawLine(QPainter &painter, const Lines &lines, int line, dou
 
 void ListDocument::DrawHead(QPainter &painter, int page) const {
   painter.setPen(Qt::black);
-  const QFont heading = PrintFont(headingSize, true);
+  const QFont heading = PrintFont(headingPrintSize, true);
   painter.setFont(heading);
   double top = 0;
-  for (const QString &line : Wrap(list_.heading, page_.width(), heading, QFontMetricsF(heading))) {
-    painter.drawText(QRectF(0, top, page_.width(), headingSize * 1.3),
+  for (const QString &line : WrappedLines(list_.heading, page_.width(), heading, QFontMetricsF(heading))) {
+    painter.drawText(QRectF(0, top, page_.width(), headingPrintSize * 1.3),
                      static_cast<int>(Qt::AlignHCenter | Qt::AlignVCenter) | Qt::TextSingleLine | Qt::TextDontClip,
                      line);
-    top += headingSize * 1.3;
+    top += headingPrintSize * 1.3;
   }
   const Lines captions = CaptionLines();
   for (int line = 0; line < Height(captions); ++line) {

@@ -1,29 +1,13 @@
 #pragma once
 
 #include <QFont>
-#include <QList>
 #include <QStringList>
-#include <functional>
 #include <vector>
 
+#include "platform/printing/printing.h"
 #include "platform/windows/printing/page_output.h"
 
 namespace trimlog {
-
-struct PrintedColumn {
-  QString caption;
-  double width = 1440;      ///< wished, in twips
-  bool toTheRight = false;  ///< numbers: the column is made wide enough for all of them
-};
-
-/// A list to print. Rows are asked for as they are laid out and drawn.
-struct PrintedList {
-  QString heading;  ///< at the head of every page
-  std::vector<PrintedColumn> columns;
-  int rows = 0;
-  std::function<QString(int row, int column)> cell;
-  std::vector<QStringList> closing;  ///< bold rows at the end, e.g. totals; one text a column
-};
 
 /// A list of any length on pages: heading, repeated column captions, "Page: n" at the foot. Nothing is cut off: texts
 /// wrap, columns that are too wide together are narrowed and the print made smaller, and a row longer than a page goes

@@ -1,16 +1,16 @@
 #include "platform/windows/printing/page_output.h"
 
-#include <QFileInfo>
+#include <QBuffer>
 #include <QPainter>
 #include <QPdfWriter>
 #include <QPrintPreviewDialog>
 #include <QPrinter>
 #include <QPrinterInfo>
-#include <QRegularExpression>
-#include <QSaveFile>
-#include <optional>
+#include <QTimer>
+#include <exception>
 
 #include "platform/error.h"
+#include "platform/machine/whole_file.h"
 #include "platform/twips.h"
 
 namespace trimlog {
@@ -27,7 +27,8 @@ class SystemOutput final : public PageOutput {
  public:
   bool HasPrinter() const override { return !QPrinterInfo::defaultPrinter().isNull(); }
 
-  void Print(PagedDocument &document) override {
+  void Print(PagedDocument &document, QWidget *owner) override {
+    const ShownProgress progress(document, owner);
     QPrinter printer(QPrinterInfo::defaultPrinter(), QPrinter::HighResolution);
     printer.setDocName(document.Title());
     DrawPages(document, printer);
@@ -39,19 +40,58 @@ class SystemOutput final : public PageOutput {
   void Preview(PagedDocument &document, QWidget *owner) override {
     QPrinter printer(QPrinterInfo::defaultPrinter(), QPrinter::HighResolution);
     printer.setDocName(document.Title());
-    printer.setPageOrientation(Orientation(document, printer));
+    {  // What takes long comes while there is no other window behind it.
+      const ShownProgress progress(document, owner);
+      printer.setPageOrientation(Orientation(document, printer));
+      document.LayOut(PageOf(printer));
+    }
     QPrintPreviewDialog preview(&printer, owner);
     preview.setWindowTitle(document.Title());
-    std::optional<Error> failure;
+    std::exception_ptr failure;
     QObject::connect(&preview, &QPrintPreviewDialog::paintRequested, &preview, [&](QPrinter *device) {
+      // Nothing may be thrown through the dialog.
       try {
-        DrawAsTurned(document, *device);
-      } catch (const Error &error) {
-        failure = error;
+        const ShownProgress progress(document, &preview);
+        PaintOn(*device, document);
+      } catch (...) {
+        failure = std::current_exception();
+        QTimer::singleShot(0, &preview, &QDialog::reject);
       }
     });
     preview.exec();
-    if (failure) throw Error(*failure);
+    if (failure) std::rethrow_exception(failure);
+  }
+
+  /// From the preview: on its own pages, on the printer, or into the PDF file that was chosen in its print dialog.
+  static void PaintOn(QPrinter &device, PagedDocument &document) {
+    if (device.outputFileName().isEmpty()) return DrawAsTurned(document, device);
+    WriteWholeFile(device.outputFileName(), PdfOf(document, device.pageLayout(), false));
+  }
+
+  static QSizeF PageOf(const QPagedPaintDevice &device) {
+    return device.pageLayout().paintRect(QPageLayout::Point).size() * 20;
+  }
+
+  /// The pages as a PDF file's content, turned as the document prefers where that is still to be decided.
+  static QByteArray PdfOf(PagedDocument &document, const QPageLayout &layout, bool mayTurn) {
+    constexpr int pdfResolution = 600;
+    QByteArray content;
+    QBuffer buffer(&content);
+    if (!buffer.open(QIODevice::WriteOnly)) throw Error(error_number::other, buffer.errorString());
+    {
+      QPdfWriter writer(&buffer);
+      writer.setTitle(document.Title());
+      writer.setResolution(pdfResolution);
+      writer.setPageLayout(layout);
+      if (mayTurn) {
+        DrawPages(document, writer);
+      } else {
+        DrawAsTurned(document, writer);
+      }
+    }
+    // The writer keeps large parts in files of its own until the end, and says nothing when there was no room.
+    if (!content.trimmed().endsWith("%%EOF")) throw Error(error_number::diskFull, QStringLiteral("The PDF is torn."));
+    return content;
   }
 
   static QPageLayout::Orientation Orientation(PagedDocument &document, const QPagedPaintDevice &device) {
@@ -62,7 +102,7 @@ class SystemOutput final : public PageOutput {
   }
 
   static void DrawAsTurned(PagedDocument &document, QPagedPaintDevice &device) {
-    const int pages = document.LayOut(device.pageLayout().paintRect(QPageLayout::Point).size() * 20);
+    const int pages = document.LayOut(PageOf(device));
     QPainter painter;
     if (!painter.begin(&device)) {
       throw Error(error_number::cannotOpen, QStringLiteral("The pages could not be started."));
@@ -74,27 +114,12 @@ class SystemOutput final : public PageOutput {
       if (page > 0 && !device.newPage()) {
         throw Error(error_number::other, QStringLiteral("A page could not be printed."));
       }
+      document.Reached(PrintStage::Drawing, page, pages);
       document.DrawPage(painter, page);
     }
     if (!painter.end()) throw Error(error_number::other, QStringLiteral("The last page could not be printed."));
   }
 };
-
-QString ProposedPdf(const PagedDocument &document) {
-  static const QRegularExpression notInNames(QStringLiteral("[^\\w\\- ]+"),
-                                             QRegularExpression::UseUnicodePropertiesOption);
-  const QString name = document.Title().replace(notInNames, QStringLiteral(" ")).simplified();
-  return (name.isEmpty() ? QStringLiteral("Trimlog") : name.left(80)) + QStringLiteral(".pdf");
-}
-
-bool OfferPdf(PagedDocument &document, Boxes &boxes) {
-  QString path = boxes.ChooseSaveFile(QStringLiteral("Print to a PDF File"), {QStringLiteral("PDF Files (*.pdf)")},
-                                      ProposedPdf(document));
-  if (path.isEmpty()) return false;
-  if (QFileInfo(path).suffix().isEmpty()) path += QStringLiteral(".pdf");
-  WritePdf(document, path);
-  return true;
-}
 
 }  // namespace
 
@@ -106,30 +131,10 @@ void DrawPages(PagedDocument &document, QPagedPaintDevice &device) {
 }
 
 void WritePdf(PagedDocument &document, const QString &path) {
-  QSaveFile file(path);
-  if (!file.open(QIODevice::WriteOnly)) throw Error(error_number::cannotOpen, file.errorString());
-  {
-    QPdfWriter writer(&file);
-    writer.setTitle(document.Title());
-    writer.setPageSize(UsualPageSize());
-    writer.setPageMargins(QMarginsF(marginMillimetres, marginMillimetres, marginMillimetres, marginMillimetres),
-                          QPageLayout::Millimeter);
-    writer.setResolution(600);
-    DrawPages(document, writer);
-  }
-  if (!file.commit()) throw Error(error_number::cannotOpen, file.errorString());
-}
-
-bool PrintPages(PagedDocument &document, PageOutput &output, Boxes &boxes) {
-  if (!output.HasPrinter()) return OfferPdf(document, boxes);
-  output.Print(document);
-  return true;
-}
-
-bool PreviewPages(PagedDocument &document, PageOutput &output, Boxes &boxes, QWidget *owner) {
-  if (!output.HasPrinter()) return OfferPdf(document, boxes);
-  output.Preview(document, owner);
-  return true;
+  QPageLayout layout(UsualPageSize(), QPageLayout::Portrait,
+                     QMarginsF(marginMillimetres, marginMillimetres, marginMillimetres, marginMillimetres),
+                     QPageLayout::Millimeter);
+  WriteWholeFile(path, SystemOutput::PdfOf(document, layout, true));
 }
 
 }  // namespace trimlog

@@ -1,4 +1,4 @@
-#include "platform/windows/printing/window_printer.h"
+#include "platform/windows/printing/window_document.h"
 
 #include <QPainter>
 #include <QWidget>
@@ -40,12 +40,6 @@ void WindowDocument::DrawPage(QPainter &painter, int) {
   if (drawn.width() > largest.width()) drawn = largest;
   const QPointF corner((page_.width() - drawn.width()) / 2, 0);
   painter.drawImage(QRectF(corner, drawn), image_);
-}
-
-bool PrintWindow(QWidget &form, Boxes &boxes, PageOutput *output) {
-  WindowDocument document(form);
-  const std::unique_ptr<PageOutput> system = output ? nullptr : SystemPageOutput();
-  return PrintPages(document, output ? *output : *system, boxes);
 }
 
 }  // namespace trimlog

@@ -22,8 +22,4 @@ class WindowDocument final : public PagedDocument {
   QSizeF page_;
 };
 
-/// Prints the image of a form on the default printer, or offers a PDF file where the machine has none. False when that
-/// was cancelled. Throws an Error on failure. `output` stands in for the system's printing in tests.
-bool PrintWindow(QWidget &form, Boxes &boxes, PageOutput *output = nullptr);
-
 }  // namespace trimlog

@@ -1,0 +1,36 @@
+#pragma once
+
+#include <vector>
+
+#include "platform/error.h"
+#include "platform/printing/printing.h"
+
+namespace trimlog {
+
+/// A printer that only remembers what was sent to it, in order.
+class RecordingPrinting final : public Printing {
+ public:
+  bool PrintList(const PrintedList &list) override {
+    lists.push_back(list);
+    return Take(QStringLiteral("list ") + list.heading);
+  }
+  bool PrintText(const PrintedText &text) override { return Take(QStringLiteral("text ") + text.title); }
+  bool PrintPicture(QWidget &form) override {
+    if (onPicture) onPicture(form);
+    return Take(QStringLiteral("picture"));
+  }
+
+  QStringList printed;
+  std::vector<PrintedList> lists;
+  std::function<void(QWidget &form)> onPicture;  ///< sees a window as it would stand on the page
+  bool broken = false;
+
+ private:
+  bool Take(const QString &what) {
+    if (broken) throw Error(error_number::other, QStringLiteral("out of paper"));
+    printed.append(what);
+    return true;
+  }
+};
+
+}  // namespace trimlog
