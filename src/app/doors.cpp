@@ -31,8 +31,10 @@ void Program::FillHooks() {
 }
 
 void Program::FillNavigator() {
-  navigator_.ShowForm = [this](const QString &name) { frame_->ShowForm(name); };
-  navigator_.CanShowForm = [this](const QString &name) { return frame_->CanShowForm(name); };
+  navigator_.ShowForm.leads = [this](const QString &name) { return frame_->HasForm(name); };
+  navigator_.ShowForm.show = [this](const QString &name, const FormOpening &opening) {
+    frame_->ShowForm(name, opening);
+  };
   navigator_.LoadData = [this](const QString &personID) { frame_->LoadData(personID); };
   navigator_.ExitProgram = [this] { frame_->close(); };
   navigator_.ResetMainWindow = [this] { frame_->ResetPlace(); };

@@ -17,9 +17,7 @@ Program::Program(Session &session, const OperatingSystem &system)
   FillHooks();
   FillNavigator();
   FillDoors();
-  QObject::connect(&instance_, &SingleInstance::RaiseRequested, &instance_, [this] {
-    if (frame_) RaiseWindow(frame_.get());
-  });
+  QObject::connect(&instance_, &SingleInstance::RaiseRequested, &instance_, [this] { ComeForward(); });
   QObject::connect(&endSignals_, &EndSignals::EndRequested, &instance_, [this] { EndForMachine(); });
 }
 
@@ -60,6 +58,12 @@ bool Program::Close() {
   ended_ = true;
   QCoreApplication::exit();
   return true;
+}
+
+void Program::ComeForward() {
+  // Not before the frame is filled: until then a password window or a box may stand there alone.
+  if (frame_ && frame_->isVisible()) RaiseWindow(frame_.get());
+  if (QWidget *modal = QApplication::activeModalWidget()) RaiseWindow(modal);
 }
 
 void Program::EndForMachine() {

@@ -26,6 +26,7 @@ class Program {
   ContentForms Forms();
   bool ShowFrame();
   bool Close();
+  void ComeForward();
   void EndForMachine();
 
   Session &session_;

@@ -37,11 +37,16 @@ class TestForm : public ContentWindow {
     return behaviour_.saves ? EditOutcome::Saved : EditOutcome::Refused;
   }
   void Activated() override { Note("activated"); }
-  void PrintContents() override { Note("print"); }
+  void GotoDate(const QDate &date) override { Note(qPrintable(date.toString(Qt::ISODate))); }
+  WindowCommands Commands() override {
+    WindowCommands commands;
+    if (objectName() != QStringLiteral("frmData")) return commands;
+    for (const char *name : {"mnuFilePrint", "mnuEditDeleteWeight", "mnuEditGotoPrevious", "mnuEditGotoNext"}) {
+      commands.insert(QString::fromLatin1(name), [this, name] { Note(name); });
+    }
+    return commands;
+  }
   void PrepareForPrinting(bool on) override { Note(on ? "paper" : "screen"); }
-  void GotoPreviousMonth() override { Note("previous"); }
-  void GotoNextMonth() override { Note("next"); }
-  void DeleteWeight() override { Note("delete"); }
 
  private:
   void Note(const char *what) { behaviour_.calls.append(objectName() + QLatin1Char(':') + QLatin1String(what)); }

@@ -4,7 +4,9 @@
 
 #include <QMap>
 #include <QSet>
+#include <QTest>
 
+#include "core/session/product.h"
 #include "frame_fixture.h"
 #include "platform/windows/grid/bound_grid.h"
 
@@ -36,7 +38,7 @@ TEST(FrameMenus, TheTreeStandsInItsOrder) {
        QStringLiteral(
            "&Undo Field | ~Undo &Row | - | Cu&t | &Copy | &Paste | De&lete Weight | - | C&opy Row(s)[&Normal "
            "Copy | &For External Use] | P&aste Row(s) | &Delete Row(s) | - | GoTo[Pre&vious Month | Ne&xt "
-           "Month] | Other Functions[&Reset Weight Loss Data] | ~Re&set Sample Profile")},
+           "Month | &Today] | Other Functions[&Reset Weight Loss Data] | ~Re&set Sample Profile")},
       {QStringLiteral("mnuView"), QStringLiteral("&Calendar... | &Journal... | &Planner... | &Charts... | &Links...")},
       {QStringLiteral("mnuTools"),
        QStringLiteral("&Goal Planner... | &Body Fat Assessment... | Caloric &Needs Estimator... | &Calculator...")},
@@ -80,41 +82,148 @@ TEST(FrameMenus, NoTwoEntriesShareAKeyOrAnAccessKeyOfTheBar) {
 
 using FrameCommandsTest = FrameTest;
 
-TEST_F(FrameCommandsTest, WhatLeadsNowhereIsDisabledAndNothingElse) {
+TEST_F(FrameCommandsTest, WhatCannotBeChosenSaysWhyAndNothingElseDoes) {
   Load();
-  for (const char *name : {"mnuFileBackup", "mnuFileConfigWizard", "mnuToolsGoalPlanner", "mnuSettingsOptions",
-                           "mnuSettingsFoods", "mnuViewPlan", "mnuViewLinks", "mnuHelpTutorial", "mnuFileImport"}) {
-    EXPECT_FALSE(Action(name)->isEnabled()) << name;
+  const char *const lists = "Click on a row of a list first.";
+  const char *const version = "This is not part of this version.";
+  for (const auto &[name, reason] : std::initializer_list<std::pair<const char *, const char *>>{
+           {"mnuFileBackup", version},
+           {"mnuFileConfigWizard", version},
+           {"mnuToolsGoalPlanner", version},
+           {"mnuViewPlan", version},
+           {"mnuFileOther", version},
+           {"mnuHelpTutorial", "The tutorials are not installed."},
+           {"mnuEditGotoToday", "The window that is shown has nothing of this kind."},
+           {"mnuEditDeleteRow", lists},
+           {"mnuEditCopyRow", lists},
+           {"mnuEditCut", "Click into a field or cell that can be changed first."},
+           {"mnuFilePrint", ""},
+           {"mnuViewGraphs", ""},
+           {"mnuEditOther", ""},
+           {"mnuEditGoto", ""},
+           {"mnuHelpAbout", ""},
+           {"mnuHelpSupport", ""}}) {
+    EXPECT_EQ(Action(name)->isEnabled(), !*reason) << name;
+    // An entry without a tip of its own gives its caption.
+    if (*reason) EXPECT_EQ(Action(name)->toolTip(), QLatin1String(reason)) << name;
+    if (*reason && !Action(name)->menu()) EXPECT_EQ(Action(name)->statusTip(), QLatin1String(reason)) << name;
   }
-  for (const char *name : {"mnuFilePrint", "mnuFileExit", "mnuViewData", "mnuViewGraphs", "mnuEditOtherReset",
-                           "mnuHelpAbout", "mnuHelpSupport"}) {
-    EXPECT_TRUE(Action(name)->isEnabled()) << name;
-  }
+  EXPECT_TRUE(Action("mnuFile")->menu()->toolTipsVisible());
   EXPECT_FALSE(Find<QWidget>("cmdTools")->isEnabled());
-  EXPECT_FALSE(Find<QWidget>("cmdPlanner")->isEnabled());
+  EXPECT_TRUE(Find<QWidget>("cmdTools")->toolTip().endsWith(QLatin1String(version)));
   EXPECT_TRUE(Find<QWidget>("cmdGraphs")->isEnabled());
+  EXPECT_FALSE(Find<QWidget>("cmdGraphs")->toolTip().contains(QLatin1String(version)));
+
+  Choose("mnuViewGraphs");  // what a window hands over goes with it
+  EXPECT_FALSE(Action("mnuEditGotoNext")->isEnabled());
+  EXPECT_FALSE(Action("mnuEditGoto")->isEnabled());
 }
 
-TEST_F(FrameCommandsTest, AFilledDoorEnablesItsEntries) {
-  QList<ToolsPanel> opened;
-  navigator.OpenTools = [&](ToolsPanel panel) { opened.append(panel); };
+/// All doors and hooks filled with what notes their use, or with what fails.
+class EveryCommand : public FrameTest {
+ protected:
+  EveryCommand() {
+    const auto note = [this](const QString &what) {
+      done.append(what);
+      if (broken) throw Error(error_number::other, QStringLiteral("broken"));
+    };
+    navigator.OpenTools = [note](ToolsPanel panel) { note(QStringLiteral("tools %1").arg(static_cast<int>(panel))); };
+    navigator.OpenSetup = [note](SetupTab tab) { note(QStringLiteral("setup %1").arg(static_cast<int>(tab))); };
+    navigator.OpenFoodSetup = [note](QWidget *) { note(QStringLiteral("foods")); };
+    navigator.OpenRecipes = [note](QWidget *) { note(QStringLiteral("recipes")); };
+    navigator.OpenTargets = [note](QWidget *) { note(QStringLiteral("targets")); };
+    navigator.OpenNutrientSelection = [note](QWidget *) { note(QStringLiteral("nutrients")); };
+    navigator.OpenExercises = [note](QWidget *) { note(QStringLiteral("exercises")); };
+    navigator.ShowHelp = [note](const QString &topic) { note(QStringLiteral("help ") + topic); };
+    navigator.StartWiz = [note](bool force) {
+      if (force) note(QStringLiteral("wizard"));
+      return false;
+    };
+    hooks.RunHandheldSync = [note](bool) { note(QStringLiteral("handheld")); };
+    hooks.StartTutorialSelector = [note] { note(QStringLiteral("tutorial")); };
+    Load();
+  }
+
+  bool broken = false;
+  QStringList done;
+};
+
+TEST_F(EveryCommand, OpensItsOwnAndAFailureIsShownAndLogged) {
+  const struct {
+    const char *menu;
+    const char *opens;
+    bool saves = true;  ///< what is being typed first
+  } rows[] = {
+      {"mnuToolsGoalPlanner", "tools 0"},
+      {"mnuToolsCaloricNeeds", "tools 1"},
+      {"mnuToolsBodyFat", "tools 2"},
+      {"mnuSettingsOptions", "setup 0"},
+      {"mnuSettingsFoods", "foods"},
+      {"mnuSettingsRecipes", "recipes"},
+      {"mnuSettingsTargets", "targets"},
+      {"mnuSettingsNutrients", "nutrients"},
+      {"mnuSettingExercises", "exercises"},
+      {"mnuFileConfigWizard", "wizard"},
+      {"mnuPPCSync", "handheld"},
+      {"mnuHelpHelp", "help ", false},
+      {"mnuHelpHowTo", "help howto", false},
+      {"mnuHelpTools", "help tools", false},
+      {"mnuHelpTutorial", "tutorial", false},
+  };
+  for (const auto &row : rows) {
+    broken = false;
+    done.clear();
+    Choose(row.menu);
+    EXPECT_EQ(done, QStringList{QLatin1String(row.opens)}) << row.menu;
+    behaviour.saves = false;  // a refused weight must not be left unsaved behind a window that computes with it
+    Choose(row.menu);
+    EXPECT_EQ(done.size(), row.saves ? 1 : 2) << row.menu;
+    behaviour.saves = true;
+    broken = true;
+    session.boxes.Expect({}, QStringLiteral("An error occurred while carrying out this command."));
+    Choose(row.menu);
+    QFile log(session.directory.filePath(QStringLiteral("errorlog.txt")));
+    ASSERT_TRUE(log.open(QIODevice::ReadOnly));
+    EXPECT_TRUE(log.readAll().contains(QByteArray("frmMDI, ") + row.menu + "_Click, broken")) << row.menu;
+  }
+}
+
+TEST_F(EveryCommand, ButtonsDoWhatTheirEntriesDo) {
+  Offer(QStringLiteral("frmPlanner"));
+  Offer(QStringLiteral("frmLinks"));
   Load();
-  EXPECT_TRUE(Find<QWidget>("cmdTools")->isEnabled());
-  Choose("mnuToolsBodyFat");
-  Choose("mnuToolsCaloricNeeds");
-  Choose("mnuToolsGoalPlanner");
-  EXPECT_EQ(opened, QList<ToolsPanel>({ToolsPanel::BodyFat, ToolsPanel::CaloricNeeds, ToolsPanel::GoalPlanner}));
-  behaviour.saves = false;  // a refused weight must not be left unsaved behind a window that computes with it
-  Choose("mnuToolsGoalPlanner");
-  EXPECT_EQ(opened.size(), 3);
+  done.clear();
+  for (const auto &[button, form] :
+       std::initializer_list<std::pair<const char *, const char *>>{{"cmdDiary", "frmDiary"},
+                                                                    {"cmdPlanner", "frmPlanner"},
+                                                                    {"cmdGraphs", "frmGraphs"},
+                                                                    {"cmdLinks", "frmLinks"},
+                                                                    {"cmdTools", "frmLinks"},
+                                                                    {"cmdData", "frmData"}}) {
+    QTest::mouseClick(Find<QWidget>(button), Qt::LeftButton);
+    EXPECT_EQ(frame->CurrentFormName(), QLatin1String(form)) << button;
+  }
+  EXPECT_EQ(done, QStringList{QStringLiteral("tools 0")});
+}
+
+TEST_F(FrameCommandsTest, PagesOfTheWebAndTheDoorWithADate) {
+  Load();
+  for (const char *name : {"mnuHelpUsersGuide", "mnuHelpSupport", "mnuHelpMobile"}) Choose(name);
+  EXPECT_EQ(session.machine.opened, QStringList({product::usersGuidePage, product::supportPage, product::mobilePage}));
+  frame->ShowForm(QStringLiteral("frmDiary"), {QDate(2026, 2, 3)});
+  EXPECT_TRUE(behaviour.calls.contains(QStringLiteral("frmDiary:2026-02-03")));
+  const FormDoor nowhere{[](const QString &) { return false; }, [](const QString &, const FormOpening &) { FAIL(); }};
+  nowhere(QStringLiteral("frmDiary"));
 }
 
 TEST_F(FrameCommandsTest, ReachTheContentWindow) {
   Load();
-  for (const char *name : {"mnuFilePrint", "mnuEditGotoPrevious", "mnuEditGotoNext", "mnuEditDeleteWeight"})
+  QString calls;
+  for (const char *name : {"mnuFilePrint", "mnuEditGotoPrevious", "mnuEditGotoNext", "mnuEditDeleteWeight"}) {
     Choose(name);
-  EXPECT_EQ(behaviour.calls.join(QLatin1Char(' ')),
-            QStringLiteral("frmData:print frmData:previous frmData:next frmData:delete"));
+    calls += QStringLiteral(" frmData:") + QLatin1String(name);
+  }
+  EXPECT_EQ(behaviour.calls.join(QLatin1Char(' ')), calls.mid(1));
 }
 
 TEST_F(FrameCommandsTest, EditActsOnTheFieldThatLastHadTheFocus) {

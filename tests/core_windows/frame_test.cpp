@@ -145,6 +145,42 @@ TEST_F(Frame, TheStatisticsAreReachedByKeyboardAndHeard) {
   EXPECT_EQ(Find<QProgressBar>("pnlProgress")->value(), 43) << "not more than is done";
 }
 
+TEST_F(Frame, GrowsWithTheDesktopsFont) {
+  const QFont former = QApplication::font();
+  QFont large = former;
+  large.setPointSizeF(former.pointSizeF() * 1.7);
+  QApplication::setFont(large);
+  Load();
+  EXPECT_GT(frame->width(), 635);
+  EXPECT_TRUE(frame->centralWidget()->size().expandedTo(frame->centralWidget()->minimumSizeHint()) ==
+              frame->centralWidget()->size());
+  for (const char *panel : {"frmMain", "frmMain1"}) {
+    const QWidget *shown = Find<QWidget>(panel);
+    EXPECT_EQ(shown->size(), shown->size().expandedTo(shown->minimumSizeHint())) << panel;
+  }
+  QApplication::setFont(former);
+}
+
+TEST_F(Frame, StandsInItsPlaceBeforeAnythingComesOverIt) {
+  session->settings.ShowSplash = true;
+  session->windows.framePlace = {3000, 1500, 9525, 7095};
+  QPoint splash;
+  navigator.StartWiz = [](bool) { return false; };
+  forms.insert(QStringLiteral("frmData"), [&](QWidget *parent) {
+    for (const QWidget *window : QApplication::topLevelWidgets()) {
+      if (window->objectName() == QStringLiteral("frmSplash") && window->isVisible()) {
+        splash = window->frameGeometry().center();
+      }
+    }
+    return new TestForm(QStringLiteral("frmData"), behaviour, parent);
+  });
+  Load();
+  EXPECT_EQ(frame->pos(), QPoint(200, 100));
+  EXPECT_LE((splash - frame->frameGeometry().center()).manhattanLength(), 4);
+  frame->ReadPlace();
+  EXPECT_EQ(session->windows.framePlace.Top, 1500);
+}
+
 TEST_F(Frame, WindowStateFollowsAndMinimisedIsNoState) {
   Load();
   frame->setWindowState(Qt::WindowMaximized);

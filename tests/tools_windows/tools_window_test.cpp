@@ -27,7 +27,8 @@ class ToolsWindow : public testing::Test {
  protected:
   ToolsWindow() {
     session->settings.MedicalDisclaimer = true;
-    navigator.ShowForm = [this](const QString &name) { opened.append(name); };
+    navigator.ShowForm.leads = [](const QString &) { return true; };
+    navigator.ShowForm.show = [this](const QString &name, const FormOpening &) { opened.append(name); };
     navigator.OpenSetup = [this](SetupTab tab) {
       opened.append(QStringLiteral("setup %1").arg(static_cast<int>(tab)));
     };

@@ -215,14 +215,14 @@ TEST(FrmData, DeletesAWeightAfterAsking) {
   const QString question =
       QStringLiteral("Delete weight recorded for %1?").arg(ShortDate(QDate(2026, 3, 1), c.session->locale));
   c.session.boxes.Expect(QStringLiteral("Delete Weight?"), question, BoxButton::No);
-  c.form->DeleteWeight();
+  c.form->Commands()[QStringLiteral("mnuEditDeleteWeight")]();
   EXPECT_EQ(c.Weight(QDate(2026, 3, 1)), "201");
   c.session.boxes.Expect(QStringLiteral("Delete Weight?"), question, BoxButton::Yes);
-  c.form->DeleteWeight();
+  c.form->Commands()[QStringLiteral("mnuEditDeleteWeight")]();
   EXPECT_EQ(c.Weight(QDate(2026, 3, 1)), "");
   EXPECT_EQ(c.Field(1)->text(), QString());
   EXPECT_EQ(c.Text("txtLoss(2)"), "0.0");
-  c.form->DeleteWeight();  // nothing there: nothing asked
+  c.form->Commands()[QStringLiteral("mnuEditDeleteWeight")]();  // nothing there: nothing asked
 }
 
 TEST(FrmData, KeepsTheTypedTextWhenTheFileCannotBeWritten) {

@@ -3,6 +3,8 @@
 #include <QString>
 #include <functional>
 
+#include "core/session/form_door.h"
+
 class QWidget;
 
 namespace trimlog {
@@ -13,9 +15,8 @@ enum class ToolsPanel { GoalPlanner, CaloricNeeds, BodyFat };
 /// The doors between rooms. Windows never include each other; they open one another through here, and app fills the
 /// doors in. A door that leads nowhere yet is empty, and what would open it is shown disabled.
 struct Navigator {
-  std::function<void(const QString &formName)> ShowForm;     ///< "frmData", ...: the one content window
-  std::function<bool(const QString &formName)> CanShowForm;  ///< false while that window is not built
-  std::function<void(const QString &personID)> LoadData;     ///< switches the whole session to a profile
+  FormDoor ShowForm;                                      ///< "frmData", ...: the one content window
+  std::function<void(const QString &personID)> LoadData;  ///< switches the whole session to a profile
   std::function<void(SetupTab tab)> OpenSetup;
   std::function<void(ToolsPanel panel)> OpenTools;
   std::function<bool(bool force)> StartWiz;  ///< the configuration wizard; true when it wrote a profile

@@ -9,6 +9,7 @@
 #ifdef Q_OS_UNIX
 #include <fcntl.h>
 #include <sys/file.h>
+#include <sys/socket.h>
 #include <unistd.h>
 
 #include <QFile>
@@ -21,6 +22,7 @@ namespace trimlog {
 namespace {
 
 constexpr int firstMayBeStarting = 3000;  ///< milliseconds until its listener must be there
+constexpr const char *answer = "raised";
 
 /// Who runs the program. Not from the environment: two sessions of one person are one user.
 QString UserMark() {
@@ -37,6 +39,22 @@ QString NameFor(const QString &programDirectory) {
   const QString place = (canonical.isEmpty() ? programDirectory : canonical) + u'\n' + UserMark();
   const QByteArray hash = QCryptographicHash::hash(place.toUtf8(), QCryptographicHash::Sha256).toHex().left(16);
   return QStringLiteral("trimlog-") + QString::fromLatin1(hash);
+}
+
+/// True when the process at the other end of a connection is this user's.
+bool IsOwnUser([[maybe_unused]] const QLocalSocket &socket) {
+#if defined(Q_OS_LINUX)
+  ucred peer{};
+  socklen_t size = sizeof peer;
+  const int descriptor = static_cast<int>(socket.socketDescriptor());
+  return getsockopt(descriptor, SOL_SOCKET, SO_PEERCRED, &peer, &size) == 0 && peer.uid == getuid();
+#elif defined(Q_OS_UNIX)
+  uid_t user{};
+  gid_t group{};
+  return getpeereid(static_cast<int>(socket.socketDescriptor()), &user, &group) == 0 && user == getuid();
+#else
+  return true;  // the pipe's own rights keep other users out
+#endif
 }
 
 }  // namespace
@@ -86,10 +104,21 @@ SingleInstance::Lock::State SingleInstance::Lock::Try() {
 
 SingleInstance::SingleInstance(const QString &programDirectory)
     : name_(NameFor(programDirectory)), lock_(std::make_unique<Lock>(programDirectory, name_)) {
-  connect(&server_, &QLocalServer::newConnection, this, [this] {
-    while (QLocalSocket *caller = server_.nextPendingConnection()) caller->deleteLater();
-    Q_EMIT RaiseRequested();
-  });
+  connect(&server_, &QLocalServer::newConnection, this, &SingleInstance::AnswerCallers);
+}
+
+void SingleInstance::AnswerCallers() {
+  bool wanted = false;
+  while (QLocalSocket *caller = server_.nextPendingConnection()) {
+    if (IsOwnUser(*caller)) {
+      caller->write(answer);
+      caller->flush();
+      wanted = true;
+    }
+    caller->disconnectFromServer();
+    caller->deleteLater();
+  }
+  if (wanted) Q_EMIT RaiseRequested();
 }
 
 SingleInstance::~SingleInstance() = default;
@@ -104,8 +133,12 @@ bool SingleInstance::ActivatePrevInstance() {
 }
 
 void SingleInstance::Listen() {
-  // An abstract name on Linux: it needs no file and is gone with its process. Elsewhere the option means nothing.
+  // An abstract name on Linux: it needs no file and is gone with its process.
+#ifdef Q_OS_LINUX
   server_.setSocketOptions(QLocalServer::AbstractNamespaceOption);
+#else
+  server_.setSocketOptions(QLocalServer::UserAccessOption);
+#endif
   if (server_.listen(name_)) return;
   // The socket of a copy that was killed: the lock says that nobody listens there.
   QLocalServer::removeServer(name_);
@@ -119,7 +152,11 @@ bool SingleInstance::AskToRaise() const {
     QLocalSocket socket;
     socket.setSocketOptions(QLocalSocket::AbstractNamespaceOption);
     socket.connectToServer(name_);
-    if (socket.waitForConnected(firstMayBeStarting)) return true;
+    if (socket.waitForConnected(firstMayBeStarting)) {
+      if (!IsOwnUser(socket)) return false;
+      // A copy that does not answer hangs: better to say that the data file is in use than to end without a word.
+      return socket.waitForReadyRead(firstMayBeStarting) && socket.readAll() == answer;
+    }
     constexpr unsigned long pause = 50;
     QThread::msleep(pause);
   } while (waited.elapsed() < firstMayBeStarting);

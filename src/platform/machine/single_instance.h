@@ -8,7 +8,8 @@
 namespace trimlog {
 
 /// One running copy for each program directory and user. The first copy holds a lock and listens; a later one asks it
-/// to come to the front and ends. The lock ends with its process, however that died.
+/// to come to the front and ends once that has answered. Both make sure that they speak with the same user, so that
+/// nobody else can make a start end without a word. The lock ends with its process, however that died.
 class SingleInstance : public QObject {
   Q_OBJECT
  public:
@@ -18,6 +19,8 @@ class SingleInstance : public QObject {
   /// True when another copy runs here: it has been asked to come forward, and this one must end. Otherwise this copy is
   /// the first from now on. Asking again as the first changes nothing.
   bool ActivatePrevInstance();
+  /// Where the first copy listens.
+  const QString &ListenerName() const { return name_; }
 
  Q_SIGNALS:
   /// A later copy asks this one to come forward.
@@ -27,6 +30,7 @@ class SingleInstance : public QObject {
   class Lock;
 
   void Listen();
+  void AnswerCallers();
   bool AskToRaise() const;
 
   QString name_;

@@ -184,9 +184,7 @@ frmTools::Opened frmTools::AskForMissingData() {
     std::function<void()> help;
     if (navigator_.ShowHelp) help = [this] { navigator_.ShowHelp(startingWeightTopic); };
     if (session_.boxes.Show(StartingWeightQuestion(help)) == BoxButton::Yes) {
-      LeaveFor([this] {
-        if (navigator_.ShowForm) navigator_.ShowForm(QStringLiteral("frmData"));
-      });
+      LeaveFor([this] { navigator_.ShowForm(QStringLiteral("frmData")); });
       return Opened::Left;
     }
     Lock();

@@ -99,6 +99,7 @@ QWidget *frmData::MakeHeader() {
   cmdDiary = MakeButton("cmdDiary", "journal", tr("&Quick Journal"), tr("Open the Quick Journal for this day"),
                         &frmData::OpenQuickJournal);
   cmdDiary->setEnabled(static_cast<bool>(navigator_.OpenQuickJournal));
+  if (!cmdDiary->isEnabled()) cmdDiary->setToolTip(leadsNowhere);
   cmdTips = MakeButton("cmdTips", "tips", tr("T&ips"), tr("Tips for the calendar"), &frmData::OpenTips);
   cmdTips->setEnabled(static_cast<bool>(navigator_.ShowHelp));
   txtMonth = new FitLabel(QStringLiteral("txtMonth"), Qt::AlignLeft | Qt::AlignVCenter, this);
@@ -193,6 +194,18 @@ void frmData::Activated() {
   const CalendarMonth &month = model_.Month();
   const int first = month.IndexOf(month.firstDate);
   entry_->Enter(month.CanEnter(month.currentIndex) ? month.currentIndex : first);
+}
+
+void frmData::GotoDate(const QDate &date) {
+  Navigate([this, &date] { model_.GotoCalendarDate(date); });
+}
+
+WindowCommands frmData::Commands() {
+  return {{QStringLiteral("mnuFilePrint"), [this] { PrintContents(); }},
+          {QStringLiteral("mnuEditDeleteWeight"), [this] { DeleteWeight(); }},
+          {QStringLiteral("mnuEditGotoPrevious"), [this] { GotoPreviousMonth(); }},
+          {QStringLiteral("mnuEditGotoNext"), [this] { GotoNextMonth(); }},
+          {QStringLiteral("mnuEditGotoToday"), [this] { GotoToday(); }}};
 }
 
 void frmData::Navigate(const std::function<void()> &move) {

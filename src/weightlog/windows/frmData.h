@@ -31,11 +31,9 @@ class frmData : public ContentWindow {
   EditOutcome SaveOpenEdit() override;
   void DropOpenEdit() override;
   void Activated() override;
-  void PrintContents() override;
+  void GotoDate(const QDate &date) override;
+  WindowCommands Commands() override;
   void PrepareForPrinting(bool printing) override;
-  void GotoPreviousMonth() override { GotoMonth(-1); }
-  void GotoNextMonth() override { GotoMonth(1); }
-  void DeleteWeight() override;
 
  protected:
   void changeEvent(QEvent *event) override;
@@ -49,7 +47,11 @@ class frmData : public ContentWindow {
   void FillNutrients();
   void Connect();
 
+  void GotoPreviousMonth() { GotoMonth(-1); }
+  void GotoNextMonth() { GotoMonth(1); }
   void GotoMonth(int months);
+  void DeleteWeight();
+  void PrintContents();
   void GotoToday();
   void OpenTips();
   void OpenQuickJournal();

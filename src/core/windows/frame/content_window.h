@@ -1,10 +1,15 @@
 #pragma once
 
+#include <QDate>
+#include <QHash>
 #include <QWidget>
+#include <functional>
 
 #include "core/frame/edit_outcome.h"
 
 namespace trimlog {
+
+using WindowCommands = QHash<QString, std::function<void()>>;
 
 /// One of the windows that the frame shows in its content area. The frame makes it afresh for each visit.
 class ContentWindow : public QWidget {
@@ -20,12 +25,12 @@ class ContentWindow : public QWidget {
   virtual void DropOpenEdit() {}
   /// The window was moved into place and is the current one: set the focus.
   virtual void Activated() {}
-  virtual void PrintContents() {}  ///< File, Print
+  /// Shows a day, where the window has days.
+  virtual void GotoDate(const QDate &) {}
+  /// What only this window can do: menu entries of the frame by name ("mnuFilePrint"), and their work.
+  virtual WindowCommands Commands() { return {}; }
   /// Turns colours and buttons that do not belong on paper off (true) and on again (false).
   virtual void PrepareForPrinting(bool) {}
-  virtual void GotoPreviousMonth() {}
-  virtual void GotoNextMonth() {}
-  virtual void DeleteWeight() {}
 };
 
 }  // namespace trimlog

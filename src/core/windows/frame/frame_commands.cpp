@@ -18,31 +18,52 @@ namespace {
 
 void ShowAbout(Session &session, frmMDI &frame) { frmSplash(session, frame.System(), true, &frame).exec(); }
 
+const QString notHere = QStringLiteral("The window that is shown has nothing of this kind.");
+const QString noList = QStringLiteral("Click on a row of a list first.");
+const QString noField = QStringLiteral("Click into a field or cell that can be changed first.");
+const QString noText = QStringLiteral("Click into a field or cell first.");
+const QString noCalculator = QStringLiteral("No calculator is installed on this computer.");
+const QString noTutorials = QStringLiteral("The tutorials are not installed.");
+
+using Reason = std::function<QString()>;
+
 /// A door that leads somewhere makes what opens it available.
 template <typename Door>
-std::function<bool()> Leads(const Door &door) {
-  return [&door] { return door != nullptr; };
+Reason Leads(const Door &door, const QString &otherwise = leadsNowhere) {
+  return [&door, otherwise] { return door ? QString() : otherwise; };
+}
+
+Reason Unless(const std::function<bool()> &possible, const QString &otherwise) {
+  return [possible, otherwise] { return possible() ? QString() : otherwise; };
 }
 
 }  // namespace
 
+FailureExit CommandFailure(const QString &menu) {
+  return {QStringLiteral("frmMDI"), menu + QStringLiteral("_Click"), QString(),
+          QStringLiteral("An error occurred while carrying out this command.")};
+}
+
 std::vector<FrameCommand> FrameCommands(frmMDI &frame, Session &session, const Navigator &navigator,
                                         const RoomHooks &hooks) {
   const auto form = [&frame](const char *menu, const char *button, const QString &name) {
-    return FrameCommand{menu, button, [&frame, name] { return frame.CanShowForm(name); },
+    return FrameCommand{menu, button, Unless([&frame, name] { return frame.HasForm(name); }, leadsNowhere),
                         [&frame, name] { frame.ShowForm(name); }};
   };
   const auto edit = [&frame](const char *menu, EditCommand command) {
-    return FrameCommand{menu, "", [&frame, command] { return CanRunEditCommand(command, frame.ActiveControl()); },
+    const auto possible = [&frame, command] { return CanRunEditCommand(command, frame.ActiveControl()); };
+    return FrameCommand{menu, "", Unless(possible, command == EditCommand::Copy ? noText : noField),
                         [&frame, command] { RunEditCommand(command, frame.ActiveControl()); }};
   };
-  const auto content = [&frame](const char *menu, void (ContentWindow::*command)()) {
-    return FrameCommand{menu, "", {}, [&frame, command] {
-                          if (frame.CurrentForm()) (frame.CurrentForm()->*command)();
+  const auto content = [&frame](const char *menu) {
+    const QString name = QString::fromLatin1(menu);
+    return FrameCommand{menu, "", Unless([&frame, name] { return frame.FormCommands().contains(name); }, notHere),
+                        [&frame, name] {
+                          if (const auto work = frame.FormCommands().value(name)) work();
                         }};
   };
   const auto rows = [&frame](const char *menu, const std::function<void(BoundGrid &)> &command) {
-    return FrameCommand{menu, "", [&frame] { return GridOf(frame.ActiveControl()) != nullptr; },
+    return FrameCommand{menu, "", Unless([&frame] { return GridOf(frame.ActiveControl()) != nullptr; }, noList),
                         [&frame, command] {
                           if (BoundGrid *grid = GridOf(frame.ActiveControl())) command(*grid);
                         }};
@@ -68,7 +89,7 @@ std::vector<FrameCommand> FrameCommands(frmMDI &frame, Session &session, const N
   };
 
   return {
-      content("mnuFilePrint", &ContentWindow::PrintContents),
+      content("mnuFilePrint"),
       {"mnuFilePrintWindow", "", {}, saved([&] {
          if (frame.CurrentForm()) PrintCurrentWindow(session, *frame.CurrentForm());
        })},
@@ -84,9 +105,10 @@ std::vector<FrameCommand> FrameCommands(frmMDI &frame, Session &session, const N
       rows("mnuEditCopyRowExternal", [](BoundGrid &grid) { grid.CopyRowsExternal(); }),
       rows("mnuEditPasteRow", [&session](BoundGrid &grid) { PasteGridRow(session, grid); }),
       rows("mnuEditDeleteRow", [](BoundGrid &grid) { grid.DeleteSelected(); }),
-      content("mnuEditDeleteWeight", &ContentWindow::DeleteWeight),
-      content("mnuEditGotoPrevious", &ContentWindow::GotoPreviousMonth),
-      content("mnuEditGotoNext", &ContentWindow::GotoNextMonth),
+      content("mnuEditDeleteWeight"),
+      content("mnuEditGotoPrevious"),
+      content("mnuEditGotoNext"),
+      content("mnuEditGotoToday"),
       {"mnuEditOtherReset", "", {}, saved([&] {
          if (!ResetWeightLossData(session)) return;
          const QString first = QStringLiteral("1");
@@ -107,7 +129,8 @@ std::vector<FrameCommand> FrameCommands(frmMDI &frame, Session &session, const N
       tool("mnuToolsGoalPlanner", "cmdTools", ToolsPanel::GoalPlanner),
       tool("mnuToolsBodyFat", "", ToolsPanel::BodyFat),
       tool("mnuToolsCaloricNeeds", "", ToolsPanel::CaloricNeeds),
-      {"mnuToolsCalculator", "", [] { return !FindCalculator().isEmpty(); }, [&] { StartCalculator(session); }},
+      {"mnuToolsCalculator", "", Unless([] { return !FindCalculator().isEmpty(); }, noCalculator),
+       [&] { StartCalculator(session); }},
 
       {"mnuSettingsOptions", "", Leads(navigator.OpenSetup),
        saved([&navigator] { navigator.OpenSetup(SetupTab::Profiles); })},
@@ -120,7 +143,8 @@ std::vector<FrameCommand> FrameCommands(frmMDI &frame, Session &session, const N
       {"mnuPPCSync", "", Leads(hooks.RunHandheldSync), saved([&hooks] { hooks.RunHandheldSync(false); })},
 
       help("mnuHelpHelp", QString()),
-      {"mnuHelpTutorial", "", Leads(hooks.StartTutorialSelector), [&hooks] { hooks.StartTutorialSelector(); }},
+      {"mnuHelpTutorial", "", Leads(hooks.StartTutorialSelector, noTutorials),
+       [&hooks] { hooks.StartTutorialSelector(); }},
       help("mnuHelpHowTo", QStringLiteral("howto")),
       help("mnuHelpTools", QStringLiteral("tools")),
       page("mnuHelpUsersGuide", product::usersGuidePage),

@@ -3,6 +3,7 @@
 #include <functional>
 #include <vector>
 
+#include "core/session/failure_guard.h"
 #include "core/session/navigator.h"
 #include "core/session/room_hooks.h"
 #include "core/session/session.h"
@@ -15,9 +16,14 @@ class frmMDI;
 struct FrameCommand {
   const char *menu = "";            ///< the entry's name
   const char *button = "";          ///< the navigation button with the same effect
-  std::function<bool()> available;  ///< empty: always; false shows entry and button disabled
+  std::function<QString()> whyNot;  ///< a sentence shows entry and button disabled, with it as their tip; empty: never
   std::function<void()> run;
+
+  QString WhyNot() const { return whyNot ? whyNot() : QString(); }
 };
+
+/// The failure exit of a menu entry: for what its window does not already tell by a box of its own.
+FailureExit CommandFailure(const QString &menu);
 
 /// Everything that the frame's menus and buttons do, in the order of the menus. An entry of the tree that is not in
 /// this table belongs to a room that is not built, and is shown disabled.

@@ -31,8 +31,8 @@ bool frmMDI::MDIForm_Load() {
     menus_->SetVisible(QStringLiteral("mnuFileProfileAdmin"), session_.edition.BizEd);
     menus_->SetVisible(QStringLiteral("mnuFileSep4"), session_.edition.BizEd);
     SetTitle();
+    ApplyPlace();  // before anything is shown that the frame owns: windows are placed by their owner
     ShowStartScreens();
-    ApplyPlace();
     SignIn();
     RefreshMain();
     ShowForm(QStringLiteral("frmData"));
@@ -51,8 +51,7 @@ bool frmMDI::MDIForm_Load() {
   RefreshCommands();
   for (const FrameCommand &command : commands_) {
     if (!*command.button) continue;
-    const bool available = !command.available || command.available();
-    navigation_->SetCommand(QString::fromLatin1(command.button), available ? command.run : nullptr);
+    navigation_->SetCommand(QString::fromLatin1(command.button), command.run, command.WhyNot());
   }
   ShowAsKept();
   return true;
@@ -68,6 +67,10 @@ void frmMDI::ShowStartScreens() {
   if (!session_.ReloadInProgress && session_.settings.ShowSplash) {
     splash_ = new frmSplash(session_, system_, false, this);
     splash_->setAttribute(Qt::WA_DeleteOnClose);
+    splash_->adjustSize();
+    const bool maximised = session_.windows.frameWindowState == maximisedState;
+    const QPoint middle = maximised ? screen()->availableGeometry().center() : frameGeometry().center();
+    splash_->move(middle - splash_->rect().center());
     splash_->show();
     QApplication::processEvents();
   }

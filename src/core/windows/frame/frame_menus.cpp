@@ -1,5 +1,6 @@
 #include "core/windows/frame/frame_menus.h"
 
+#include <algorithm>
 #include <vector>
 
 namespace trimlog {
@@ -67,6 +68,7 @@ const std::vector<MenuEntry> &MenuTree() {
       {submenu, "mnuEditGoto", "GoTo"},
       {item, "mnuEditGotoPrevious", "Pre&vious Month", "Ctrl+PgUp"},
       {item, "mnuEditGotoNext", "Ne&xt Month", "Ctrl+PgDown"},
+      {item, "mnuEditGotoToday", "&Today", "Ctrl+T"},
       submenuEnd,
       {submenu, "mnuEditOther", "Other Functions"},
       {item, "mnuEditOtherReset", "&Reset Weight Loss Data"},
@@ -137,7 +139,9 @@ FrameMenus::FrameMenus(QMenuBar *bar) : QObject(bar) {
         if (entry.kind == Kind::Menu) top = made;
         current = made;
         made->setObjectName(name);
+        made->setToolTipsVisible(true);
         action = made->menuAction();
+        if (entry.kind == Kind::Submenu) submenus_.append(action);
         break;
       }
       case Kind::Separator:
@@ -164,5 +168,23 @@ void FrameMenus::SetVisible(const QString &name, bool visible) {
 }
 
 QStringList FrameMenus::CommandNames() const { return commands_; }
+
+void FrameMenus::SetAvailable(const QString &name, const QString &whyNot) {
+  QAction *action = Action(name);
+  action->setEnabled(whyNot.isEmpty());
+  action->setToolTip(whyNot);
+  action->setStatusTip(whyNot);
+}
+
+void FrameMenus::CloseEmptySubmenus() {
+  for (QAction *submenu : submenus_) {
+    const QList<QAction *> entries = submenu->menu()->actions();
+    const bool any = std::any_of(entries.begin(), entries.end(), [](const QAction *entry) {
+      return entry->isVisible() && entry->isEnabled() && !entry->isSeparator();
+    });
+    submenu->setEnabled(any);
+    submenu->setToolTip(any || entries.isEmpty() ? QString() : entries.first()->toolTip());
+  }
+}
 
 }  // namespace trimlog

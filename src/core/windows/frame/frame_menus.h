@@ -20,6 +20,10 @@ class FrameMenus : public QObject {
   /// An entry by its name; nullptr for a name that is not in the tree. A submenu's or menu's name gives its own entry.
   QAction *Action(const QString &name) const;
   void SetVisible(const QString &name, bool visible);
+  /// Enables an entry, or disables it with the reason as its tip.
+  void SetAvailable(const QString &name, const QString &whyNot);
+  /// Disables submenus in which nothing can be chosen. After SetAvailable of all entries.
+  void CloseEmptySubmenus();
   /// Every entry that does something when chosen: neither menus nor separators.
   QStringList CommandNames() const;
   QMenu *Profiles() const { return profiles_; }
@@ -27,6 +31,7 @@ class FrameMenus : public QObject {
  private:
   QHash<QString, QAction *> actions_;
   QStringList commands_;
+  QList<QAction *> submenus_;
   QMenu *profiles_ = nullptr;
 };
 

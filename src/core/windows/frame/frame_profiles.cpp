@@ -38,8 +38,7 @@ void frmMDI::LoadProfilesMenu() {
     action->setCheckable(profile);
     action->setChecked(profile && entry.checked);
     connect(action, &QAction::triggered, this, [this, entry] {
-      const FailureExit failure{QStringLiteral("frmMDI"), QStringLiteral("mnuProfileNames_Click"), {}, {}};
-      Guarded(session_, failure, [this, &entry] {
+      Guarded(session_, CommandFailure(QStringLiteral("mnuProfileNames")), [this, &entry] {
         RunProfileCommand(entry);
         LoadProfilesMenu();  // a click toggles the mark, also when the switch was refused
       });

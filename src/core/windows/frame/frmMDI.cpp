@@ -3,6 +3,7 @@
 #include <QApplication>
 #include <QCloseEvent>
 #include <QGridLayout>
+#include <QLayout>
 #include <QScreen>
 
 #include "core/session/failure_guard.h"
@@ -42,7 +43,7 @@ frmMDI::frmMDI(const FrameParts &parts)
       QueryUnload_(parts.QueryUnload) {
   setObjectName(QStringLiteral("frmMDI"));
   setWindowIcon(ArtIcon(QStringLiteral("trimlog")));
-  setMinimumSize(PixelsFromTwips(defaultFrameWidth), PixelsFromTwips(defaultFrameHeight));
+  KeepContentsWhole();
   setContextMenuPolicy(Qt::NoContextMenu);
   menus_ = new FrameMenus(menuBar());
   BuildPanels();
@@ -79,8 +80,7 @@ void frmMDI::ConnectCommands() {
   commands_ = FrameCommands(*this, session_, navigator_, hooks_);
   for (FrameCommand &command : commands_) {
     const QString name = QString::fromLatin1(command.menu);
-    const FailureExit failure{QStringLiteral("frmMDI"), name + QStringLiteral("_Click"), {}, {}};
-    command.run = [this, failure, work = command.run] { Guarded(session_, failure, work); };
+    command.run = [this, failure = CommandFailure(name), work = command.run] { Guarded(session_, failure, work); };
     connect(menus_->Action(name), &QAction::triggered, this, command.run);
   }
   for (QMenu *menu : menuBar()->findChildren<QMenu *>())
@@ -88,11 +88,10 @@ void frmMDI::ConnectCommands() {
 }
 
 void frmMDI::RefreshCommands() {
-  QHash<QString, bool> available;
-  for (const FrameCommand &command : commands_) {
-    available.insert(QString::fromLatin1(command.menu), !command.available || command.available());
-  }
-  for (const QString &name : menus_->CommandNames()) menus_->Action(name)->setEnabled(available.value(name, false));
+  QHash<QString, QString> reasons;
+  for (const FrameCommand &command : commands_) reasons.insert(QString::fromLatin1(command.menu), command.WhyNot());
+  for (const QString &name : menus_->CommandNames()) menus_->SetAvailable(name, reasons.value(name, leadsNowhere));
+  menus_->CloseEmptySubmenus();
 }
 
 void frmMDI::SetMenusFor(const QString &name) {
@@ -108,13 +107,15 @@ void frmMDI::SetMenusFor(const QString &name) {
   }
 }
 
-void frmMDI::ShowForm(const QString &name) {
-  if (!CanShowForm(name)) return;
+void frmMDI::ShowForm(const QString &name, const FormOpening &opening) {
+  if (!HasForm(name)) return;
   if (currentForm_ && !currentForm_->ValidateFields()) return;
   const bool changes = name != currentFormName_;
   if (changes && !SaveOpenEdit()) return;
   SetMenusFor(name);
   if (changes) ReplaceForm(name);
+  if (opening.date.isValid()) currentForm_->GotoDate(opening.date);
+  if (loaded_) RefreshCommands();
   ShowQuickJournal(name == QStringLiteral("frmData"));
 }
 
@@ -163,6 +164,18 @@ void frmMDI::ReadPlace() {
   const QRect place = isMaximized() ? normalGeometry() : QRect(pos(), size());
   session_.windows.framePlace = {TwipsFromPixels(place.left()), TwipsFromPixels(place.top()),
                                  TwipsFromPixels(place.width()), TwipsFromPixels(place.height())};
+}
+
+// Never smaller than what stands in it, which grows with the desktop's font, nor than its first size.
+void frmMDI::KeepContentsWhole() {
+  const QSize first(PixelsFromTwips(defaultFrameWidth), PixelsFromTwips(defaultFrameHeight));
+  setMinimumSize(first.expandedTo(layout()->minimumSize().boundedTo(screen()->availableSize())));
+}
+
+bool frmMDI::event(QEvent *event) {
+  const bool handled = QMainWindow::event(event);
+  if (event->type() == QEvent::LayoutRequest) KeepContentsWhole();
+  return handled;
 }
 
 void frmMDI::ApplyPlace() {

@@ -47,10 +47,12 @@ class frmMDI : public QMainWindow {
   bool MDIForm_Load();
 
   /// Shows a content window in place of the current one, unless that one refuses to be left.
-  void ShowForm(const QString &name);
-  bool CanShowForm(const QString &name) const { return forms_.contains(name); }
+  void ShowForm(const QString &name, const FormOpening &opening = {});
+  bool HasForm(const QString &name) const { return forms_.contains(name); }
   ContentWindow *CurrentForm() const { return currentForm_; }
   const QString &CurrentFormName() const { return currentFormName_; }
+  /// What only the current content window can do.
+  WindowCommands FormCommands() const { return currentForm_ ? currentForm_->Commands() : WindowCommands(); }
   /// The control of the content window that has, or last had, the focus.
   QWidget *ActiveControl() const;
   /// Saves what is being typed; false when that did not work and it stays to be put right.
@@ -83,6 +85,7 @@ class frmMDI : public QMainWindow {
   FrameMenus &Menus() { return *menus_; }
 
  protected:
+  bool event(QEvent *event) override;
   void closeEvent(QCloseEvent *event) override;
   void changeEvent(QEvent *event) override;
 
@@ -97,6 +100,7 @@ class frmMDI : public QMainWindow {
   void ShowQuickJournal(bool visible);
 
   void ShowAsKept();
+  void KeepContentsWhole();
   void SetTitle();
   void ShowStartScreens();
   void SignIn();

@@ -32,6 +32,13 @@ constexpr Destination destinations[] = {
     {"cmdExit", "E&xit", "exit", "Close the program", true},
 };
 
+QString TipOf(const QString &buttonName) {
+  for (const Destination &destination : destinations) {
+    if (buttonName == QLatin1String(destination.name)) return QString::fromLatin1(destination.tip);
+  }
+  return {};
+}
+
 }  // namespace
 
 QSize NavigationButton::sizeHint() const {
@@ -102,11 +109,14 @@ frmMain::frmMain(Session &session, QWidget *parent) : QWidget(parent), session_(
 
 void frmMain::Refresh() { PaintPanel(this, session_.profile.BackColor); }
 
-void frmMain::SetCommand(const QString &buttonName, const std::function<void()> &command) {
+void frmMain::SetCommand(const QString &buttonName, const std::function<void()> &command, const QString &whyNot) {
   NavigationButton *button = Button(buttonName);
   disconnect(button, &QToolButton::clicked, this, nullptr);
-  button->setEnabled(command != nullptr);
-  if (command) connect(button, &QToolButton::clicked, this, command);
+  connect(button, &QToolButton::clicked, this, command);
+  button->setEnabled(whyNot.isEmpty());
+  button->setAccessibleDescription(whyNot);
+  const QString tip = TipOf(buttonName);
+  button->setToolTip(whyNot.isEmpty() ? tip : tip + QLatin1Char('\n') + whyNot);
 }
 
 void frmMain::ShowCurrent(const QString &buttonName) {

@@ -35,8 +35,8 @@ class frmMain : public QWidget {
  public:
   explicit frmMain(Session &session, QWidget *parent = nullptr);
   void Refresh();
-  /// What a button does: nothing (then it is disabled) or the command.
-  void SetCommand(const QString &buttonName, const std::function<void()> &command);
+  /// What a button does; a reason why it cannot disables it and stands in its tip.
+  void SetCommand(const QString &buttonName, const std::function<void()> &command, const QString &whyNot);
   /// Marks the button of the content window that is shown.
   void ShowCurrent(const QString &buttonName);
 
