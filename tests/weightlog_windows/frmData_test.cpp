@@ -378,7 +378,7 @@ TEST(FrmData, ARewardComesBeforeTheQuestionOfWhatWasChosenNext) {
     reward->close();
   });
   c.session.boxes.Expect(QStringLiteral("Print Window?"), {}, BoxButton::No);
-  c.form->PrintContents();
+  c.form->Commands()[QStringLiteral("mnuFilePrint")]();
   EXPECT_TRUE(seen);
 }
 
@@ -516,7 +516,7 @@ TEST(FrmData, IsPrintedWithoutColoursAndButtonsAndComesBackAsItWas) {
   const QString question = QStringLiteral(
       "This will print the current calendar month to your default printer.  Would you like to continue?");
   c.session.boxes.Expect(QStringLiteral("Print Window?"), question, BoxButton::No);
-  c.form->PrintContents();
+  c.form->Commands()[QStringLiteral("mnuFilePrint")]();
   EXPECT_EQ(c.Weight(QDate(2026, 3, 1)), "2005");  // what is printed is saved
   EXPECT_EQ(before.size(), c.form->grab().size());
 }
