@@ -148,7 +148,7 @@ TEST_F(Frame, TheStatisticsAreReachedByKeyboardAndHeard) {
 TEST_F(Frame, GrowsWithTheDesktopsFont) {
   const QFont former = QApplication::font();
   QFont large = former;
-  large.setPointSizeF(former.pointSizeF() * 1.7);
+  large.setPointSizeF(former.pointSizeF() * 1.4);
   QApplication::setFont(large);
   Load();
   EXPECT_GT(frame->width(), 635);
