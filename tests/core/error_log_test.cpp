@@ -62,7 +62,7 @@ TEST_F(Services, ASettingThatCannotBeWrittenLeavesALine) {
   ASSERT_TRUE(inTheWay.open(QIODevice::WriteOnly));
   const auto broken = OpenSettingsFile(folder.filePath(QStringLiteral("folder/Trimlog.ini")));
   {
-    const Session ofBroken({folder.path(), *broken, clock, machine, boxes, QLocale::c()});
+    const Session ofBroken({folder.path(), *broken, clock, machine, boxes, printing, QLocale::c()});
     EXPECT_FALSE(broken->SaveSettingString(settingsRoot, QStringLiteral("UomID"), QStringLiteral("2")));
   }
   ASSERT_EQ(LogLines().size(), 1);

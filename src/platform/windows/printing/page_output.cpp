@@ -10,7 +10,7 @@
 #include <exception>
 
 #include "platform/error.h"
-#include "platform/machine/whole_file.h"
+#include "platform/machine/safe_file.h"
 #include "platform/twips.h"
 
 namespace trimlog {
@@ -65,7 +65,7 @@ class SystemOutput final : public PageOutput {
   /// From the preview: on its own pages, on the printer, or into the PDF file that was chosen in its print dialog.
   static void PaintOn(QPrinter &device, PagedDocument &document) {
     if (device.outputFileName().isEmpty()) return DrawAsTurned(document, device);
-    WriteWholeFile(device.outputFileName(), PdfOf(document, device.pageLayout(), false));
+    WriteSafely(device.outputFileName(), PdfOf(document, device.pageLayout(), false));
   }
 
   static QSizeF PageOf(const QPagedPaintDevice &device) {
@@ -134,7 +134,7 @@ void WritePdf(PagedDocument &document, const QString &path) {
   QPageLayout layout(UsualPageSize(), QPageLayout::Portrait,
                      QMarginsF(marginMillimetres, marginMillimetres, marginMillimetres, marginMillimetres),
                      QPageLayout::Millimeter);
-  WriteWholeFile(path, SystemOutput::PdfOf(document, layout, true));
+  WriteSafely(path, SystemOutput::PdfOf(document, layout, true));
 }
 
 }  // namespace trimlog
