@@ -115,4 +115,39 @@ TEST(CrashTest, EveryReportedWeightIsThereAndNoHalfOneEver) {
   EXPECT_GT(interrupted, 0) << "no kill met a transaction, so nothing was tried";
 }
 
+// As a program does that synchronises files: the one in use is moved away, another one takes its place.
+TEST(CrashTest, AFileReplacedUnderTheWriterTakesNoWeightAndLosesNone) {
+  const QTemporaryDir directory;
+  const QString path = directory.filePath(QStringLiteral("tlg.dat"));
+  const QString away = directory.filePath(QStringLiteral("away.dat"));
+  const QString newcomer = directory.filePath(QStringLiteral("newcomer.dat"));
+  MakeFile(path);
+  MakeFile(newcomer);
+  Expected expected;
+  std::mt19937 random(20261123);
+  for (int round = 0; round < 12; ++round) {
+    QProcess writer;
+    writer.start(QStringLiteral(TRIMLOG_CRASH_WRITER), {path, QString::number(expected.Number() + 1)});
+    ASSERT_TRUE(writer.waitForReadyRead(20000)) << writer.readAllStandardError().toStdString();
+    QThread::usleep(random() % 25000);
+    ASSERT_TRUE(QFile::rename(path, away));
+    ASSERT_TRUE(QFile::copy(newcomer, path));
+    ASSERT_TRUE(writer.waitForFinished(20000)) << "it went on writing";
+    EXPECT_EQ(writer.exitCode(), 3);
+    EXPECT_EQ(writer.readAllStandardError(), QByteArray::number(error_number::fileMoved));
+    QFile untouched(path);
+    QFile former(newcomer);
+    ASSERT_TRUE(untouched.open(QIODevice::ReadOnly) && former.open(QIODevice::ReadOnly));
+    EXPECT_EQ(untouched.readAll(), former.readAll());
+    for (const QByteArray &line : writer.readAllStandardOutput().split('\n')) {
+      if (!line.isEmpty()) expected.Take(ParseAction(line));
+    }
+    ASSERT_TRUE(QFile::remove(path) && QFile::rename(away, path));
+    const auto data = Database::Open(path);
+    expected.Settle(*data);
+    expected.Compare(*data);
+    if (HasFatalFailure()) FAIL() << "in round " << round;
+  }
+}
+
 }  // namespace trimlog

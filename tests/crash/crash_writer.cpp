@@ -1,5 +1,6 @@
 // Writes weights into a data file as the calendar does, one transaction a weight, and reports each one on the standard
-// output once it is committed: "<number> <day> <weight>". Runs until it is killed.
+// output once it is committed: "<number> <day> <weight>". Runs until it is killed, or ends with the status 3 and the
+// error's number on the standard error when a weight is refused.
 //
 //   crash_writer FILE FIRST-NUMBER
 #include <unistd.h>
@@ -42,7 +43,7 @@ void WriteWeight(Database &data, int number, int day, double weight) {
 
 }  // namespace
 
-int main(int, char **arguments) {
+int main(int, char **arguments) try {
   const auto data = Database::Open(QString::fromLocal8Bit(arguments[1]));
   std::mt19937 random(std::random_device{}());
   for (int number = std::atoi(arguments[2]);; ++number) {
@@ -53,4 +54,7 @@ int main(int, char **arguments) {
     const int length = std::snprintf(line, sizeof line, "%d %d %.2f\n", number, day, weight);
     if (write(STDOUT_FILENO, line, static_cast<size_t>(length)) != length) return 0;
   }
+} catch (const Error &refusal) {
+  std::fprintf(stderr, "%d", refusal.Number());
+  return 3;
 }
