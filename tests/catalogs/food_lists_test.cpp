@@ -93,6 +93,11 @@ TEST_F(FoodLists, SortByNutrientAndThenByName) {
   for (int i = 0; i < choices.size(); ++i) EXPECT_EQ(choices[i].IsSeparator(), i == 1 || i == 12) << i;
 
   const GridColumns columns = FoodColumns(*session, "ddn");
+  QStringList names;
+  for (const GridColumn &column : columns) names.append(column.name);
+  EXPECT_EQ(names.join(' '),
+            "Qlt MealDesc Amount MealGroupID GIValue Nut1 Nut2 Nut3 Nut4 Nut5 Nut6 Nut7 Nut8 Nut9 Nut10 IsModified "
+            "Dummy RecordTypeID MealID");
   EXPECT_EQ(SortedByText(columns, "GIValue"), "GI Value");
   EXPECT_EQ(SortedByText(columns, "-Amount"), "Serving Size (descending)");
   EXPECT_TRUE(IsSortShown(columns, "-Fat"));
@@ -191,7 +196,8 @@ TEST(FoodDerived, KeepsFieldsInStep) {
   // 0.5 g x 9 = 4.5 -> 4; 4 / 100 = 4 %. 2.5 x 9 = 22.5 -> 22; 22 / 176 = 12.5 % -> 12.
   const std::vector<Case> cases = {{"0.5", 9, "100", "4", "4"}, {"2.5", 9, "176", "22", "12"},
                                    {"10", 4, "", "0", "0"},     {"10", 4, "abc", "0", "0"},
-                                   {"10", 4, "0", "0", "0"},    {"10", 4, "100", "40", "40"}};
+                                   {"10", 4, "0", "0", "0"},    {"1.5", 9, "200", "14", "7"},
+                                   {"4", 9, "95", "36", "38"},  {"10", 4, "100", "40", "40"}};
   for (const Case &c : cases) {
     const CaloriesFrom from = DerivedCalories(c.grams, c.factor, c.calories, us);
     EXPECT_EQ(from.calories, c.expected) << c.grams;
