@@ -13,6 +13,7 @@ BoundGrid *MakeFoodGrid(const FoodGridNames &names, Session &session, QWidget *p
   auto *grid = new BoundGrid(names.grid, names.label, session.locale, parent);
   grid->recordSource = QStringLiteral("datMealsList");
   grid->SetColumns(FoodColumns(session, names.dropDown));
+  grid->SetSpareColumn(QStringLiteral("MealDesc"));
   grid->KeepWidths(session.store, settingsRoot + QStringLiteral("\\Grids\\") + names.grid);
 
   GridHooks &hooks = grid->Hooks();
