@@ -15,6 +15,7 @@ BoundGrid *MakeFoodGrid(const FoodGridNames &names, Session &session, QWidget *p
   grid->SetColumns(FoodColumns(session, names.dropDown));
   grid->SetSpareColumn(QStringLiteral("MealDesc"));
   grid->KeepWidths(session.store, settingsRoot + QStringLiteral("\\Grids\\") + names.grid);
+  grid->SetSpareColumn(QStringLiteral("MealDesc"));
 
   GridHooks &hooks = grid->Hooks();
   hooks.guard = [&session, procedure = names.loadProcedure](GridAction action, const std::function<void()> &work) {
