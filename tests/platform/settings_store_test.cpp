@@ -119,6 +119,15 @@ TEST_F(SettingsFile, AnUnreadableFileIsAnEmptyStore) {
       << "a folder stands where the file belongs";
 }
 
+TEST_F(SettingsFile, IsItsOwnersAlone) {
+  const auto others = [this] { return QFile::permissions(Path()) & (QFile::ReadGroup | QFile::ReadOther); };
+  Open()->SaveSettingString(settingsRoot, name_, QStringLiteral("Ann"));
+  EXPECT_EQ(others(), QFile::Permissions());
+  QFile::setPermissions(Path(), QFile::ReadOwner | QFile::WriteOwner | QFile::ReadGroup | QFile::ReadOther);
+  Open();
+  EXPECT_EQ(others(), QFile::Permissions()) << "found wider";
+}
+
 TEST_F(SettingsFile, TwoProgramsKeepEachOthersValues) {
   const auto first = Open();
   const auto second = Open();

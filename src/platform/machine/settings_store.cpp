@@ -1,5 +1,6 @@
 #include "platform/machine/settings_store.h"
 
+#include <QDir>
 #include <QFileInfo>
 #include <QSettings>
 #include <QStandardPaths>
@@ -68,8 +69,11 @@ class IniStore final : public SettingsStore {
     // QSettings never forgets a failure; a second one on the file shares what waits to be written, and does.
     if (ini_->status() != QSettings::NoError) ini_ = Open(ini_->fileName());
     if (changed_) {  // a batch that found nothing to write costs no waiting for the disk
+      const QString folder = QFileInfo(ini_->fileName()).absolutePath();
+      QDir().mkpath(folder);
+      CreatePrivate(ini_->fileName());  // what takes its place keeps its rights
       ini_->sync();
-      FlushFolder(QFileInfo(ini_->fileName()).absolutePath());
+      FlushFolder(folder);
     }
     changed_ = ini_->status() != QSettings::NoError;
     if (changed_ && writeFailed) writeFailed(ini_->fileName());
