@@ -23,6 +23,7 @@ def ended_by_machine_road(trimlog):
         road.check(trimlog.setting("PersonID"), "1", "the shutdown's settings")
 
     trimlog.start().wait_for_window("Trimlog Pro 2")
+    trimlog.settled_picture("month.png")
     trimlog.keys("ctrl+comma")
     trimlog.wait_for_window("Program Options")
     end(trimlog, signal.SIGTERM)

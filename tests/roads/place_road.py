@@ -7,13 +7,19 @@ def places(trimlog):
     return [trimlog.setting(name) for name in ("Left", "Top", "Width", "Height")]
 
 
+def start(trimlog):
+    """Up to a window that takes keys: one that is still being filled may lose them."""
+    trimlog.start().wait_for_window("Trimlog Pro 2")
+    trimlog.settled_picture("month.png")
+
+
 def place_road(trimlog):
     trimlog.add_person(weights=[(road.first_of_last_month(), 183.4)])
-    trimlog.start().wait_for_window("Trimlog Pro 2")
+    start(trimlog)
     trimlog.quit()
     first = places(trimlog)
     for turn in range(3):
-        trimlog.start().wait_for_window("Trimlog Pro 2")
+        start(trimlog)
         trimlog.quit()
         road.check(places(trimlog), first, f"the window's place after start {turn + 2}")
 
@@ -28,6 +34,7 @@ def place_road(trimlog):
     trimlog.type("secret")
     trimlog.keys("Return")
     trimlog.wait_for_window("Trimlog Pro 2")
+    trimlog.settled_picture("month.png")
     trimlog.quit()
 
 
