@@ -5,7 +5,6 @@
 #include <QComboBox>
 #include <QLabel>
 #include <QLineEdit>
-#include <QPrinterInfo>
 #include <QPushButton>
 #include <QRadioButton>
 #include <QScreen>
@@ -534,7 +533,6 @@ TEST_F(ToolsWindow, MetricUnitsInEveryPanel) {
 }
 
 TEST_F(ToolsWindow, PrintsItsPictureAfterAsking) {
-  if (!QPrinterInfo::defaultPrinter().isNull()) GTEST_SKIP() << "would print on this machine's printer";
   FillProfile();
   Open();
   const QString title = QStringLiteral("Print Results?");
@@ -544,17 +542,12 @@ TEST_F(ToolsWindow, PrintsItsPictureAfterAsking) {
       "normal.");
   session.boxes.Expect(title, text, BoxButton::Cancel);
   Click("cmdPrint");
-  const QString path = session.directory.filePath(QStringLiteral("results.pdf"));
+  EXPECT_TRUE(session.printing.printed.isEmpty());
   session.boxes.Expect(title, text, BoxButton::Ok);
-  session.boxes.ExpectInput(QStringLiteral("Print to a PDF File"), path);
   Click("cmdPrint");
-  QFile pdf(path);
-  ASSERT_TRUE(pdf.open(QIODevice::ReadOnly));
-  EXPECT_TRUE(pdf.read(5) == "%PDF-");
-  EXPECT_GT(pdf.size(), 10000) << "a page with a picture";
+  EXPECT_EQ(session.printing.printed, QStringList{QStringLiteral("picture")});
+  session.printing.broken = true;
   session.boxes.Expect(title, text, BoxButton::Ok);
-  session.boxes.ExpectInput(QStringLiteral("Print to a PDF File"),
-                            session.directory.filePath(QStringLiteral("no/such/folder.pdf")));
   session.boxes.Expect(
       QStringLiteral("Printer Error"),
       QStringLiteral("An error occurred while printing to your default printer.  Unable to print at this time."));
