@@ -9,8 +9,8 @@
 #include "companions/wizard_finish.h"
 #include "companions/wizard_nutrients.h"
 #include "core/profiles/colour_scheme.h"
-#include "core/profiles/new_profile.h"
 #include "core/profiles/passwords.h"
+#include "core/profiles/person.h"
 #include "core/profiles/profiles.h"
 #include "core/profiles/sample_profiles.h"
 #include "core/session/failure_guard.h"
@@ -94,7 +94,7 @@ const std::vector<Writer> &Writers() {
        "activities person -2; meals person -2; notes person -2; measurements person -2; weight_loss person -2", nullptr,
        nullptr, "Error Reseting Data", "An error occurred while resetting the sample data.  ",
        "basMain, ResetSampleProfile"},
-      {"a profile", [](TestSession &s) { AddNewProfile(*s, {.PersonName = "Zoe"}); }, "people 3"},
+      {"a profile", [](TestSession &s) { AddPerson(*s, {.PersonName = "Zoe"}); }, "people 3"},
       {"the goal's way", [](TestSession &s) { SaveGoalMethod(*s, GoalMethod::ByRate, QDate(2026, 8, 1), "1.5"); },
        "people 1"},
       {"a new food", [](TestSession &s) { AddFood(*s, Food(0)); }, "meals_list 8792"},
