@@ -33,13 +33,13 @@ FoodRecord Food(int mealID) {
 
 WizardAnswers Answers() {
   WizardAnswers answers;
-  answers.PersonName = "Ann";
-  answers.height1 = 5;
-  answers.height2 = 6;
-  answers.birthDate = QDate(1990, 1, 1);
+  answers.person.PersonName = "Ann";
+  answers.person.HeightFeet = 5;
+  answers.person.HeightInches = 6;
+  answers.person.BirthDate = QDate(1990, 1, 1);
+  answers.person.Goal = 150;
   answers.startingWeight = 180;
   answers.startingDate = QDate(2026, 2, 28);
-  answers.goal = 150;
   return answers;
 }
 
@@ -110,10 +110,10 @@ const std::vector<Writer> &Writers() {
       {"the wizard",
        [](TestSession &s) {
          FillWizardNutrients(*s, Answers());
-         FinishWizard(*s, Answers(), false);
+         FinishWizard(*s, Answers(), WizardMode::FirstRun);
        },
        "nutrition_targets 2; selected_nutrients 1; people 3; weight_loss person 3 2026-02-28"},
-      {"the wizard for one more", [](TestSession &s) { FinishWizard(*s, Answers(), true); },
+      {"the wizard for one more", [](TestSession &s) { FinishWizard(*s, Answers(), WizardMode::AddingProfile); },
        "people 3; weight_loss person 3 2026-02-28"},
       {"the administrator",
        [](TestSession &s) {
