@@ -112,7 +112,7 @@ const std::vector<Writer> &Writers() {
          FillWizardNutrients(*s, Answers());
          FinishWizard(*s, Answers(), WizardMode::FirstRun);
        },
-       "nutrition_targets 2; selected_nutrients 1; people 3; weight_loss person 3 2026-02-28"},
+       "people 3; weight_loss person 3 2026-02-28; nutrition_targets 2; selected_nutrients 1"},
       {"the wizard for one more", [](TestSession &s) { FinishWizard(*s, Answers(), WizardMode::AddingProfile); },
        "people 3; weight_loss person 3 2026-02-28"},
       {"the administrator",

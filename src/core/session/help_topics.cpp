@@ -41,6 +41,7 @@ constexpr TopicOfClass topics[] = {
     {"frmCalendar", "keyboard#dates"},
     {"frmSplash", "index"},
     {"frmMeter", "index"},
+    {"frmPrintGrids", "index"},
     {"frmHelp", "index"},
 };
 

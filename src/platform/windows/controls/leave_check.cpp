@@ -25,7 +25,9 @@ bool LeaveCheck::InsistOnAny() {
 }
 
 bool LeaveCheck::eventFilter(QObject *watched, QEvent *event) {
-  if (IsFieldLeft(*event) && field_->isModified() && !insisting_ && check_(field_->text())) {
+  // A field that is going down loses the focus as a plain widget: nothing of it can be asked any more.
+  const auto *field = qobject_cast<QLineEdit *>(watched);
+  if (field && IsFieldLeft(*event) && field->isModified() && !insisting_ && check_(field->text())) {
     // A box cannot open while the focus is on its way.
     const auto ask = [this] {
       if (!field_->hasFocus()) Insist();
