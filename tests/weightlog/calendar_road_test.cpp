@@ -56,6 +56,27 @@ TEST(TypedWeight, KeepsEveryLossConsistentWithTheWeightBefore) {
   }
 }
 
+TEST(TypedWeight, TouchesNobodyElsesWeights) {
+  TypedCalendar calendar;
+  const auto as = [&calendar](const char *person) {
+    calendar.session->profile.CurrentPersonID = QLatin1String(person);
+  };
+  as("-1");
+  calendar.session.Data().Execute(QStringLiteral("DELETE weight_loss.* FROM weight_loss;"));
+  for (const char *day : {"2026-01-01", "2026-01-05", "2026-01-10"})
+    WeightLog(*calendar.session).Insert({Day(day), 90, 7});
+  const std::string others = calendar.Rows();
+  as("1");
+  calendar.Type("2026-01-01", "200");
+  calendar.Type("2026-01-10", "190");
+  calendar.Type("2026-01-05", "195");
+  calendar.Type("2026-01-05", "");
+  EXPECT_EQ(calendar.Rows(), "01-01 200/0, 01-10 190/10");
+  EXPECT_EQ(calendar.session->profile.statistics.LbsLost, QStringLiteral("10"));
+  as("-1");
+  EXPECT_EQ(calendar.Rows(), others);
+}
+
 TEST(TypedWeight, ShowsTheSameFiguresAtOnceAsAfterReadingThemAgain) {
   TypedCalendar calendar;
   calendar.Type("2026-01-02", "200");

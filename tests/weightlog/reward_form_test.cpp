@@ -75,6 +75,17 @@ TEST(RewardForm, StoresTheChosenTypeWithItsOwnAmount) {
   }
 }
 
+TEST(RewardForm, ASaveThatFailsSaysSoAndKeepsTheRule) {
+  TestSession session;
+  LoadRewardSettings(*session);
+  session.Data().Execute(QStringLiteral("ALTER TABLE rewards RENAME COLUMN RewardSound TO Hidden;"));
+  session.boxes.Expect(QStringLiteral("Error Saving Data"),
+                       QStringLiteral("An error occurred while saving your reward settings."));
+  RewardForm form;
+  EXPECT_FALSE(SaveRewardForm(*session, form));
+  EXPECT_EQ(session->profile.rewards.type, RewardType::Weekly);
+}
+
 TEST(RewardForm, RefusesAnAmountThatIsNone) {
   for (const char *amount : {"", "0", "-1", "two", "1e309"}) {
     TestSession session;

@@ -84,6 +84,8 @@ TEST_F(RewardsTabTest, OkStoresTheRuleAndCancelDoesNot) {
   EXPECT_EQ(Reward("RewardType"), "3");
 
   Open();
+  const std::string sound = Text("txtRewardSound");
+  EXPECT_FALSE(sound.empty());
   Choose("optRewardDaily");
   The<QLineEdit>("txtRewardDaily").clear();
   QTest::keyClicks(&The<QLineEdit>("txtRewardDaily"), QStringLiteral("1.25"));
@@ -92,6 +94,7 @@ TEST_F(RewardsTabTest, OkStoresTheRuleAndCancelDoesNot) {
   EXPECT_EQ(Reward("RewardType"), "2");
   EXPECT_EQ(Reward("RewardWeight"), "1.25");
   EXPECT_EQ(Reward("RewardMessage"), "Say ''hurray''");
+  EXPECT_EQ(Reward("RewardSound"), sound);
   EXPECT_EQ(session->profile.rewards.type, RewardType::Daily);
 }
 

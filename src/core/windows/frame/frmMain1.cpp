@@ -1,5 +1,6 @@
 #include "core/windows/frame/frmMain1.h"
 
+#include <QEvent>
 #include <QGridLayout>
 #include <QHBoxLayout>
 #include <QLabel>
@@ -104,13 +105,19 @@ QWidget *frmMain1::MakeSampleMark() {
 
 void frmMain1::Refresh() {
   PaintPanel(this, session_.profile.BackColor);
-  for (FigureField *figure : findChildren<FigureField *>()) {
-    figure->ShowColor(palette().color(QPalette::WindowText));
-  }
   pnlSample->setVisible(session_.profile.IsSample());
   ShowUnits();
   ShowPerson();
   ShowStatistics();
+}
+
+// Figures stand on the panel's own colour, which follows the desktop.
+void frmMain1::changeEvent(QEvent *event) {
+  QWidget::changeEvent(event);
+  if (event->type() != QEvent::PaletteChange) return;
+  for (FigureField *figure : findChildren<FigureField *>()) {
+    figure->ShowColor(palette().color(QPalette::WindowText));
+  }
 }
 
 void frmMain1::ShowPerson() {

@@ -20,6 +20,9 @@ class frmMain1 : public QWidget {
  Q_SIGNALS:
   void OwnProfileWanted();  ///< away from a sample
 
+ protected:
+  void changeEvent(QEvent *event) override;
+
  private:
   FigureField *AddFigure(const QString &name, const QString &label, const QString &tip);
   QWidget *MakeSampleMark();
