@@ -16,6 +16,7 @@
 #include "core/windows/controls/theme.h"
 #include "core/windows/frame/print_window.h"
 #include "platform/text/text_format.h"
+#include "platform/windows/controls/named_controls.h"
 #include "weightlog/calendar_speech.h"
 #include "weightlog/windows/fit_label.h"
 #include "weightlog/windows/frmReward.h"
@@ -126,10 +127,7 @@ QWidget *frmData::MakeFooter() {
   chkShowCalories->setObjectName(QStringLiteral("chkShowCalories"));
   cboNutrientID = new QComboBox(footer);
   cboNutrientID->setObjectName(QStringLiteral("cboNutrientID"));
-  // Heard, not seen: a combo box says its choice and takes its name from a label only.
-  auto *lblNutrientID = new QLabel(tr("Figure shown below each day"), footer);
-  lblNutrientID->setBuddy(cboNutrientID);
-  lblNutrientID->hide();
+  SpeakAs(cboNutrientID, tr("Figure shown below each day"));
   cboNutrientID->setToolTip(tr("What the calendar shows below each day"));
   cboNutrientID->setSizePolicy(QSizePolicy::Preferred, QSizePolicy::Fixed);
   cboNutrientID->setSizeAdjustPolicy(QComboBox::AdjustToMinimumContentsLengthWithIcon);

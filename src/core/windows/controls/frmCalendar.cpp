@@ -14,6 +14,7 @@
 
 #include "core/windows/controls/art.h"
 #include "platform/text/text_format.h"
+#include "platform/windows/controls/named_controls.h"
 #include "platform/windows/fields/date_field.h"
 
 namespace trimlog {
@@ -110,14 +111,14 @@ void frmCalendar::AddLists() {
   cmdPrevMonth->setToolTip(tr("Previous month (Page Up)"));
   cboMonth = new QComboBox(this);
   cboMonth->setObjectName(QStringLiteral("cboMonth"));
-  cboMonth->setAccessibleName(tr("Month"));
+  SpeakAs(cboMonth, tr("Month"));
   for (int month = 1; month <= 12; ++month) {
     cboMonth->addItem(FormatDate(QDate(2000, month, 1), QStringLiteral("mmmm"), session_.locale), month);
   }
   row->addWidget(cboMonth, 1);
   cboYear = new QComboBox(this);
   cboYear->setObjectName(QStringLiteral("cboYear"));
-  cboYear->setAccessibleName(tr("Year"));
+  SpeakAs(cboYear, tr("Year"));
   const int today = session_.Today().year();
   for (int year = today - yearsListed; year <= today + yearsListed; ++year) {
     cboYear->addItem(QString::number(year), year);
