@@ -1,0 +1,216 @@
+// What a screen reader finds in every window of the program, walked widget by widget.
+#include <gtest/gtest.h>
+
+#include <QAbstractItemView>
+#include <QAccessible>
+#include <QApplication>
+#include <QComboBox>
+#include <QLabel>
+
+#include "catalogs/windows/frmDailyValues.h"
+#include "catalogs/windows/frmSelectedNutrients.h"
+#include "catalogs/windows/frmSetupFoods.h"
+#include "companions/windows/frmWizard.h"
+#include "core/windows/controls/frmCalendar.h"
+#include "core/windows/frame/frmMDI.h"
+#include "core/windows/frame/frmMeter.h"
+#include "core/windows/frame/frmSplash.h"
+#include "core/windows/profiles/add_profile_page.h"
+#include "core/windows/profiles/frmAddRec.h"
+#include "core/windows/profiles/frmEditPassword.h"
+#include "core/windows/profiles/frmPassword.h"
+#include "core/windows/setup/frmSetup.h"
+#include "support/test_session.h"
+#include "tools/windows/frmMedicalDisclaimer.h"
+#include "tools/windows/frmTools.h"
+#include "weightlog/windows/frmData.h"
+#include "weightlog/windows/frmReward.h"
+#include "weightlog/windows/rewards_page.h"
+
+namespace trimlog {
+namespace {
+
+/// A session on the shipped data, and the doors that windows open.
+struct House {
+  House() {
+    FillNutrientDefinitions(session->nutrients, session.Data());
+    FillSelectedNutrientsArray(session->nutrients, session.Data());
+    session->settings.ShowSplash = false;
+    session->settings.MedicalDisclaimer = true;  // it is a window of its own here
+    session.Data().Execute(QStringLiteral(
+        "INSERT INTO weight_loss ( PersonID, ThisDate, ThisWeight, ThisLoss ) VALUES ( 1, #2/1/2026#, 200, 0 );"));
+    navigator.ShowHelp = [](const QString &) {};
+  }
+  TestSession session;
+  Navigator navigator;
+  RoomHooks hooks;
+  std::unique_ptr<OperatingSystem> system = RunningSystem();
+};
+
+struct Room {
+  const char *window;
+  std::function<std::unique_ptr<QWidget>(House &)> open;
+};
+
+std::unique_ptr<QWidget> OpenFrame(House &house) {
+  ContentForms forms;
+  forms.insert(QStringLiteral("frmData"),
+               [&house](QWidget *parent) { return new frmData(*house.session, house.navigator, parent); });
+  auto frame =
+      std::make_unique<frmMDI>(FrameParts{*house.session, house.navigator, house.hooks, *house.system, forms, {}});
+  frame->MDIForm_Load();
+  return frame;
+}
+
+const Room rooms[] = {
+    {"frmMDI", OpenFrame},
+    {"frmSetup",
+     [](House &house) -> std::unique_ptr<QWidget> {
+       return std::make_unique<frmSetup>(*house.session, house.navigator, QList<SetupPageMaker>{RewardsTab()}, nullptr);
+     }},
+    {"frmPassword",
+     [](House &house) -> std::unique_ptr<QWidget> {
+       return std::make_unique<frmPassword>(*house.session, QStringLiteral("1"), true, nullptr);
+     }},
+    {"frmEditPassword",
+     [](House &house) -> std::unique_ptr<QWidget> {
+       return std::make_unique<frmEditPassword>(*house.session, QStringLiteral("1"), QStringLiteral("Ann"), nullptr);
+     }},
+    {"frmCalendar",
+     [](House &house) -> std::unique_ptr<QWidget> {
+       return std::make_unique<frmCalendar>(*house.session, QDate(2026, 3, 1), nullptr);
+     }},
+    {"frmMeter",
+     [](House &) -> std::unique_ptr<QWidget> {
+       return std::make_unique<frmMeter>(QStringLiteral("Title"), QStringLiteral("Caption"), 5, nullptr);
+     }},
+    {"frmSplash",
+     [](House &house) -> std::unique_ptr<QWidget> {
+       return std::make_unique<frmSplash>(*house.session, *house.system, true, nullptr);
+     }},
+    {"frmReward",
+     [](House &house) -> std::unique_ptr<QWidget> {
+       return std::make_unique<frmReward>(*house.session,
+                                          RewardNotice{QStringLiteral("Daily Reward"),
+                                                       QStringLiteral("You have lost 2 pounds"),
+                                                       QStringLiteral("Well done"),
+                                                       {}},
+                                          nullptr);
+     }},
+    {"frmTools, goal planner",
+     [](House &house) -> std::unique_ptr<QWidget> {
+       return std::make_unique<frmTools>(*house.session, house.navigator, ToolsPanel::GoalPlanner);
+     }},
+    {"frmTools, caloric needs",
+     [](House &house) -> std::unique_ptr<QWidget> {
+       return std::make_unique<frmTools>(*house.session, house.navigator, ToolsPanel::CaloricNeeds);
+     }},
+    {"frmTools, body fat",
+     [](House &house) -> std::unique_ptr<QWidget> {
+       return std::make_unique<frmTools>(*house.session, house.navigator, ToolsPanel::BodyFat);
+     }},
+    {"frmMedicalDisclaimer",
+     [](House &house) -> std::unique_ptr<QWidget> { return std::make_unique<frmMedicalDisclaimer>(*house.session); }},
+    {"frmSetupFoods",
+     [](House &house) -> std::unique_ptr<QWidget> {
+       return std::make_unique<frmSetupFoods>(*house.session, house.navigator, nullptr);
+     }},
+    {"frmSelectedNutrients",
+     [](House &house) -> std::unique_ptr<QWidget> {
+       return std::make_unique<frmSelectedNutrients>(*house.session, house.navigator, nullptr);
+     }},
+    {"frmDailyValues",
+     [](House &house) -> std::unique_ptr<QWidget> {
+       return std::make_unique<frmDailyValues>(*house.session, nullptr);
+     }},
+    {"frmWizard",
+     [](House &house) -> std::unique_ptr<QWidget> {
+       auto wizard = std::make_unique<frmWizard>(*house.session, house.navigator, WizardMode::AddingProfile, nullptr);
+       wizard->Form_Load();
+       return wizard;
+     }},
+};
+
+/// Qt's own parts of a control: the control speaks for them.
+bool IsPartOfControl(const QWidget *widget) {
+  if (widget->objectName().startsWith(QStringLiteral("qt_"))) return true;
+  const QWidget *parent = widget->parentWidget();
+  for (const char *whole : {"QComboBox", "QAbstractSpinBox", "QHeaderView", "QCalendarWidget", "QMenuBar"}) {
+    if (parent && parent->inherits(whole)) return true;
+  }
+  return widget->inherits("QComboBoxPrivateContainer") || (parent && parent->inherits("QComboBoxPrivateContainer")) ||
+         widget->inherits("QHeaderView");
+}
+
+bool HasLabel(const QAccessibleInterface &control) {
+  for (const auto &[label, relation] : control.relations(QAccessible::Label)) {
+    if (relation.testFlag(QAccessible::Label) && !label->text(QAccessible::Name).isEmpty()) return true;
+  }
+  return false;
+}
+
+QStringList MuteTicks(const QAbstractItemView &view) {
+  QStringList faults;
+  const QAbstractItemModel *model = view.model();
+  if (!model) return faults;
+  for (int row = 0; row < std::min(3, model->rowCount()); ++row) {
+    for (int column = 0; column < model->columnCount(); ++column) {
+      const QModelIndex cell = model->index(row, column);
+      if (!cell.data(Qt::CheckStateRole).isValid()) continue;
+      if (cell.data(Qt::AccessibleTextRole).toString().isEmpty() && cell.data(Qt::DisplayRole).toString().isEmpty())
+        faults.append(QStringLiteral("mute tick in column %1").arg(column));
+    }
+  }
+  faults.removeDuplicates();
+  return faults;
+}
+
+/// What is wrong with one widget; empty for nothing.
+QStringList FaultsOf(QWidget *widget) {
+  if (const auto *label = qobject_cast<QLabel *>(widget)) {
+    const bool differs =
+        !label->text().isEmpty() && !label->accessibleName().isEmpty() && label->accessibleName() != label->text();
+    return differs ? QStringList(QStringLiteral("a label whose name is not its text")) : QStringList();
+  }
+  const QAccessibleInterface *spoken = QAccessible::queryAccessibleInterface(widget);
+  if (!spoken) return {};
+  if (qobject_cast<QComboBox *>(widget) && !HasLabel(*spoken)) return {QStringLiteral("a choice without a label")};
+  QStringList faults;
+  const bool isControl = (widget->focusPolicy() & Qt::TabFocus) && !widget->inherits("QScrollArea") &&
+                         !widget->inherits("QStackedWidget") && !widget->inherits("QTabWidget");
+  if (isControl && spoken->text(QAccessible::Name).isEmpty() && !HasLabel(*spoken))
+    faults.append(QStringLiteral("a control without a name"));
+  if (const auto *view = qobject_cast<QAbstractItemView *>(widget)) faults += MuteTicks(*view);
+  return faults;
+}
+
+class AccessibleTree : public testing::TestWithParam<Room> {
+ protected:
+  AccessibleTree() { QAccessible::setActive(true); }
+  ~AccessibleTree() override { QAccessible::setActive(false); }
+};
+
+TEST_P(AccessibleTree, NamesEveryControlAndHidesNoText) {
+  House house;
+  const std::unique_ptr<QWidget> window = GetParam().open(house);
+  window->show();
+  QApplication::processEvents();
+  EXPECT_FALSE(QAccessible::queryAccessibleInterface(window.get())->text(QAccessible::Name).isEmpty());
+  int seen = 0;
+  for (QWidget *widget : window->findChildren<QWidget *>()) {
+    if (IsPartOfControl(widget)) continue;
+    ++seen;
+    for (const QString &fault : FaultsOf(widget)) {
+      ADD_FAILURE() << widget->metaObject()->className() << " " << qPrintable(widget->objectName()) << ": "
+                    << qPrintable(fault);
+    }
+  }
+  EXPECT_GT(seen, 1);
+}
+
+INSTANTIATE_TEST_SUITE_P(OfTheProgram, AccessibleTree, testing::ValuesIn(rooms), [](const auto &room) {
+  return QString::fromLatin1(room.param.window).remove(QRegularExpression(QStringLiteral("[^A-Za-z]"))).toStdString();
+});
+
+}  // namespace
+}  // namespace trimlog
