@@ -1,6 +1,8 @@
 // What comes to a BoundGrid from outside: keys and mouse, scrolling, painting; and its cells' editors.
 #include <QApplication>
+#include <QComboBox>
 #include <QContextMenuEvent>
+#include <QDate>
 #include <QHeaderView>
 #include <QMetaMethod>
 #include <QPainter>
