@@ -49,7 +49,7 @@ def newcomer_road(trimlog):
     trimlog.keys("Return")
     calculate(trimlog, "g", "alt+a")
     calculate(trimlog, "n", "Return")
-    calculate(trimlog, "b", "Tab", "Tab", "Tab", "3", "4", "Return")
+    calculate(trimlog, "b", "3", "4", "Return")
     trimlog.keys("Next", *["Left"] * 31)
     month = trimlog.settled_picture("month.png")
     trimlog.quit()

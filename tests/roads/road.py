@@ -19,10 +19,11 @@ import time
 
 NOT_POSSIBLE_HERE = 77
 ROAD_SECONDS = 120
+PATIENCE = 30  # seconds for one thing to happen; only a failure takes that long
 TOOLS = ("Xvfb", "openbox", "xdotool", "import", "compare")
 
 
-def until(condition, seconds=15, pause=0.05):
+def until(condition, seconds=PATIENCE, pause=0.05):
     """Waits for the condition and gives its value, or None when the time is over."""
     end = time.monotonic() + seconds
     while time.monotonic() < end:
@@ -48,6 +49,18 @@ def end(process):
         process.wait()
 
 
+def at_rest(processes):
+    """True when no thread of these processes is running, waits for the processor or for the disk."""
+    for process in processes:
+        for stat in pathlib.Path(f"/proc/{process.pid}/task").glob("*/stat"):
+            try:
+                if stat.read_text().rpartition(") ")[2][0] in "RD":
+                    return False
+            except OSError:
+                pass  # a thread that has ended meanwhile
+    return True
+
+
 class Screen:
     """An X screen of its own with a window manager, so that windows get the focus as on a desktop."""
 
@@ -71,7 +84,7 @@ class Screen:
             finally:
                 os.close(write)
             self.processes.append(server)
-            ready = select.select([answer], [], [], 30)[0]
+            ready = select.select([answer], [], [], PATIENCE)[0]
             display = answer.readline().decode().strip() if ready else ""
         if not display:
             raise AssertionError("the X server did not start")
@@ -143,8 +156,17 @@ class Trimlog:
         """Starts one more copy."""
         return child([self.program_directory / "trimlog"], env=self.environment, cwd=self.folder, stderr=subprocess.PIPE)
 
-    def wait_for_window(self, title, seconds=20):
-        """Waits until a window whose title begins so is active."""
+    def wait_for_rest(self):
+        """Waits until what was pressed has been dealt with: nobody on the screen has anything to do, a few looks long.
+        That takes the time that it takes on a machine which has other work as well."""
+        looks = 0
+        end = time.monotonic() + PATIENCE
+        while looks < 3 and time.monotonic() < end:
+            looks = looks + 1 if at_rest([*self.screen.processes, self.process]) else 0
+            time.sleep(0.01)
+
+    def wait_for_window(self, title, seconds=PATIENCE):
+        """Waits until a window whose title begins so is active, and has drawn itself."""
 
         def active():
             if self.process.poll() is not None:
@@ -155,6 +177,7 @@ class Trimlog:
         name = until(active, seconds)
         if name is None:
             self._give_up(f"no window {title!r} became active; the active one is {self.active_window()!r}")
+        self.wait_for_rest()
         return name
 
     def active_window(self):
@@ -165,10 +188,12 @@ class Trimlog:
         for name in names:
             self._xdotool("key", "--clearmodifiers", name)
             self.keystrokes += 1
+            self.wait_for_rest()
 
     def type(self, text):
         self._xdotool("type", "--clearmodifiers", "--delay", "12", text)
         self.keystrokes += len(text)
+        self.wait_for_rest()
 
     def picture(self, name):
         """A picture of the window in front, in the road's folder or at a path."""
@@ -200,7 +225,7 @@ class Trimlog:
         if not until(lambda: different_pixels(former, self.picture("now.png")) > 100, pause=0.2):
             self._give_up(f"{what}: the window still looks like {former}")
 
-    def quit(self, seconds=15):
+    def quit(self, seconds=PATIENCE):
         """Closes the window in front as a person would, and waits for the end of the program."""
         self.keys("alt+F4")
         code = self.process.wait(timeout=seconds)
