@@ -1,0 +1,33 @@
+#include "journal/day/calorie_rules.h"
+
+#include "core/session/session.h"
+#include "platform/store/recordset.h"
+#include "platform/text/rounding.h"
+
+namespace trimlog {
+
+namespace {
+
+constexpr int pounds = 1;
+constexpr double referencePounds = 150;
+constexpr double referenceKilograms = 68;
+
+}  // namespace
+
+double MinutesFactor(double storedMinutes, double newMinutes) {
+  return storedMinutes == 0 ? 1 : newMinutes / storedMinutes;
+}
+
+double ReferenceBodyWeight(int UomID) { return UomID == pounds ? referencePounds : referenceKilograms; }
+
+double BodyWeightFactor(const Session &session, const QDate &date) {
+  const Recordset row = session.Data().OpenRecordset(
+      QStringLiteral("SELECT ThisWeight FROM weight_loss WHERE weight_loss.PersonID=? And weight_loss.ThisDate=?;"),
+      {session.profile.CurrentPersonID.toInt(), date});
+  if (row.Eof() || row.Text(QStringLiteral("ThisWeight")).isEmpty()) return 1;
+  return row.Number(QStringLiteral("ThisWeight")) / ReferenceBodyWeight(session.settings.UomID);
+}
+
+int CaloriesForBody(double listedCalories, double bodyWeightFactor) { return Whole(listedCalories * bodyWeightFactor); }
+
+}  // namespace trimlog

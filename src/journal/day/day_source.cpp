@@ -1,0 +1,42 @@
+#include "journal/day/day_source.h"
+
+namespace trimlog {
+
+namespace {
+
+GridSource RowsOf(const QString &table, const DayScope &scope) {
+  GridSource source;
+  source.table = table;
+  source.key = QStringLiteral("RecordID");
+  source.scope = {{QStringLiteral("PersonID"), scope.personID}};
+  source.order = {{QStringLiteral("ThisDate"), true}};
+  if (scope.view == JournalView::SingleDate) {
+    source.where = QStringLiteral("((%1.ThisDate) = ?)").arg(table);
+    source.params = {scope.date};
+  }
+  return source;
+}
+
+GridSource EntriesIn(const QString &table, const DayScope &scope, EntryKind entries) {
+  GridSource source = RowsOf(table, scope);
+  source.scope.append({QStringLiteral("IsPlanned"), entries == EntryKind::Planned});
+  return source;
+}
+
+}  // namespace
+
+GridSource MealsSource(const DayScope &scope, EntryKind entries) {
+  GridSource source = EntriesIn(QStringLiteral("meals"), scope, entries);
+  source.order.append({QStringLiteral("MealTypeID")});
+  return source;
+}
+
+GridSource ActivitiesSource(const DayScope &scope, EntryKind entries) {
+  return EntriesIn(QStringLiteral("activities"), scope, entries);
+}
+
+GridSource NotesSource(const DayScope &scope) { return RowsOf(QStringLiteral("notes"), scope); }
+
+GridSource MeasurementsSource(const DayScope &scope) { return RowsOf(QStringLiteral("measurements"), scope); }
+
+}  // namespace trimlog
