@@ -25,6 +25,13 @@ QString RowsOf(const QList<int> &kinds) {
   return QStringLiteral("((meals_list.RecordTypeID) IN (%1))").arg(numbers.join(QStringLiteral(", ")));
 }
 
+/// One comparison a kind: a list would be looked up for every food that a search passes.
+QString OtherRowsThan(const QList<int> &kinds) {
+  QStringList conditions;
+  for (const int kind : kinds) conditions.append(QStringLiteral("((meals_list.RecordTypeID) <> %1)").arg(kind));
+  return conditions.join(QStringLiteral(" AND "));
+}
+
 void AppendSorts(QList<FoodSortChoice> &choices, const Nutrients &nutrients, bool highest) {
   for (const SelectedNutrient &position : nutrients.SelectedNutrients) {
     if (position.NutrientID == 0) continue;
@@ -61,7 +68,7 @@ QList<FoodSortChoice> FoodSortChoices(const Nutrients &nutrients) {
 
 GridSource ListedFoods(const FoodListKind &kind) {
   GridSource source{.table = QStringLiteral("meals_list"), .key = QStringLiteral("MealID")};
-  source.where = QStringLiteral("NOT ") + RowsOf(kind.never);
+  source.where = OtherRowsThan(kind.never);
   source.order = kind.byName;
   source.orderAs = {{QStringLiteral("MealDesc"), QStringLiteral("SortKey(meals_list.MealDesc)")}};
   return source;
