@@ -1,5 +1,6 @@
 // The changing half of GridModel: the row being changed, saving it, deleting rows.
 #include <algorithm>
+#include <memory>
 
 #include "platform/grid/grid_blocks.h"
 #include "platform/grid/grid_cells.h"
@@ -113,22 +114,23 @@ bool GridModel::SaveRow() {
   if (!edit_) return true;
   if (edit_->HasRefusals()) return false;
   rows_.Keys().ReadAll();
-  qint64 key = 0;
+  // Shared with what waits for the commit, which an outer transaction may put off until this has returned.
+  const auto key = std::make_shared<qint64>(0);
   {
     Transaction transaction(File());
-    File().AfterCommit([this, &key] { TakeOverSaved(key); });
+    File().AfterCommit([this, key] { TakeOverSaved(*key); });
     if (edit_->IsNew() && hooks.beforeInsert) hooks.beforeInsert(*edit_);
     const QString sentence = hooks.beforeUpdate ? hooks.beforeUpdate(*edit_) : QString();
     if (!sentence.isEmpty()) {
       SetRowSentence(sentence);
       return false;
     }
-    key = WriteRow();
-    if (hooks.withUpdate) hooks.withUpdate(*edit_, key);
+    *key = WriteRow();
+    if (hooks.withUpdate) hooks.withUpdate(*edit_, *key);
     transaction.Commit();
   }
-  Q_EMIT RowSaved(key);
-  if (hooks.afterUpdate) hooks.afterUpdate(key);
+  Q_EMIT RowSaved(*key);
+  if (hooks.afterUpdate) hooks.afterUpdate(*key);
   return true;
 }
 
@@ -156,7 +158,7 @@ void GridModel::TakeOverSaved(qint64 key) {
 void GridModel::DeleteRows(const std::vector<qint64> &keys) {
   if (keys.empty()) return;
   Transaction transaction(File());
-  File().AfterCommit([this, &keys] {
+  File().AfterCommit([this, keys] {
     if (edit_ && std::find(keys.begin(), keys.end(), edit_->Key()) != keys.end()) edit_.reset();
     Refresh();
   });
