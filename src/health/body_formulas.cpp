@@ -10,7 +10,6 @@ namespace trimlog {
 
 namespace {
 
-constexpr int poundsSystem = 1;
 constexpr int male = 1;
 
 // Three conversions of a pound occur, each established with its own formula.

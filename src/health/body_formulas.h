@@ -13,6 +13,9 @@ class Session;
 // thin reader that takes the current profile's data from the file. Weights and sizes are in the unit system given by
 // UomID: 1 pounds, feet and inches; anything else kilograms, metres and centimetres.
 
+/// The UomID of pounds, feet and inches.
+inline constexpr int poundsSystem = 1;
+
 /// What the formulas ask of a profile, as it is stored.
 struct BodyProfile {
   int GenderID = 0;         ///< 1 male; every other value counts as female, 0 is "not told"

@@ -1,6 +1,7 @@
 #include "journal/day/calorie_rules.h"
 
 #include "core/session/session.h"
+#include "health/body_formulas.h"
 #include "platform/store/recordset.h"
 #include "platform/text/rounding.h"
 
@@ -8,7 +9,6 @@ namespace trimlog {
 
 namespace {
 
-constexpr int pounds = 1;
 constexpr double referencePounds = 150;
 constexpr double referenceKilograms = 68;
 
@@ -18,7 +18,7 @@ double MinutesFactor(double storedMinutes, double newMinutes) {
   return storedMinutes == 0 ? 1 : newMinutes / storedMinutes;
 }
 
-double ReferenceBodyWeight(int UomID) { return UomID == pounds ? referencePounds : referenceKilograms; }
+double ReferenceBodyWeight(int UomID) { return UomID == poundsSystem ? referencePounds : referenceKilograms; }
 
 double BodyWeightFactor(const Session &session, const QDate &date) {
   const Recordset row = session.Data().OpenRecordset(

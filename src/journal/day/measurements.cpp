@@ -10,8 +10,6 @@ namespace trimlog {
 
 namespace {
 
-constexpr int inches = 1;
-
 /// Without the dust that subtracting decimals in binary leaves: 11 - 10.755 is 0.245.
 double Lost(double before, double after) { return RoundHalfAway(before - after, 9); }
 
@@ -41,7 +39,7 @@ PerMeasurement<QString> MeasurementDifferences(const PreviousMeasurements &previ
   for (std::size_t i = 0; i < measurementFields.size(); ++i) {
     const std::optional<double> current = ParseNumber(typed[i], locale);
     if (!current) break;
-    const bool twoDecimals = UomID == inches || i == bodyFatField;
+    const bool twoDecimals = UomID == poundsSystem || i == bodyFatField;
     differences[i] = Format(Lost(previous.values[i], *current),
                             twoDecimals ? QStringLiteral("0.00") : QStringLiteral("0.0"), locale);
   }
