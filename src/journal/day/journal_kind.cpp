@@ -20,6 +20,8 @@ QString NothingToPrint(const QString &data) {
 
 JournalKind MakeDiary() {
   JournalKind kind;
+  kind.viewSetting = &Settings::LastDiaryView;
+  kind.viewSettingName = QStringLiteral("LastDiaryView");
   kind.hasNetCalories = true;
   kind.addMealCaption = QStringLiteral("Add a Food or Meal to Your Journal");
   kind.addMealHeader = AddHeader(QStringLiteral("Journal"));
@@ -35,6 +37,8 @@ JournalKind MakeDiary() {
 JournalKind MakePlanner() {
   JournalKind kind;
   kind.entries = EntryKind::Planned;
+  kind.viewSetting = &Settings::LastPlannerView;
+  kind.viewSettingName = QStringLiteral("LastPlannerView");
   kind.hasDayRecords = false;
   kind.hasPreviousValues = false;
   kind.addMealCaption = QStringLiteral("Add a Food or Meal to Your Planner");
@@ -50,11 +54,12 @@ JournalKind MakePlanner() {
 
 JournalKind MakeQuick() {
   JournalKind kind = MakeDiary();
-  kind.hasViews = false;
+  kind.viewSetting = nullptr;
   kind.hasTargets = false;
   kind.hasNetCalories = false;
   kind.hasPreviousValues = false;
   kind.hasFixedDate = true;
+  kind.isSmall = true;
   return kind;
 }
 

@@ -3,6 +3,7 @@
 #include <QDate>
 #include <QString>
 
+#include "core/settings/settings.h"
 #include "journal/day_totals.h"
 
 namespace trimlog {
@@ -14,12 +15,15 @@ enum class JournalView { AllDates = 1, SingleDate = 2 };
 /// they share ask this value; nothing asks for a window by its name.
 struct JournalKind {
   EntryKind entries = EntryKind::Eaten;  ///< which entries are shown, made and totalled
-  bool hasViews = true;                  ///< offers all dates beside the single one
-  bool hasTargets = true;                ///< holds the day against the target set
+  /// Which view was looked at last; none where there is only the single date.
+  int Settings::*viewSetting = nullptr;
+  QString viewSettingName;
+  bool hasTargets = true;  ///< holds the day against the target set
   bool hasNetCalories = false;
   bool hasDayRecords = true;      ///< notes, measurements and water: of days that were lived, never planned
   bool hasPreviousValues = true;  ///< the last measurements beside the day's
   bool hasFixedDate = false;      ///< stands on the calendar's day; its dialogs do not let the date be changed
+  bool isSmall = false;           ///< floats: its pages make do with little room
 
   QString addMealCaption;
   QString addMealHeader;
