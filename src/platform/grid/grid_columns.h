@@ -76,4 +76,9 @@ inline const QString &ShownField(const GridColumn &column) {
 
 using GridColumns = std::vector<GridColumn>;
 
+int ColumnIndex(const GridColumns &columns, const QString &name);  ///< -1 when there is none
+int FirstShown(const GridColumns &columns);                        ///< the first visible one with a field; 0 for none
+int LastShown(const GridColumns &columns);
+QStringList FieldsOf(const GridColumns &columns);  ///< all that the columns show, each once
+
 }  // namespace trimlog

@@ -20,4 +20,10 @@ std::optional<qint64> LookupKey(Database &database, const GridLookup &lookup, co
   return row.Field(0).toLongLong();
 }
 
+QString ChosenTexts::Of(Database &database, const GridColumn &column, const Value &key) {
+  QString &text = texts_[column.name + QLatin1Char('/') + key.toString()];
+  if (text.isEmpty()) text = LookupText(database, *column.lookup, key);
+  return text;
+}
+
 }  // namespace trimlog

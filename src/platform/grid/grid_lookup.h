@@ -1,5 +1,6 @@
 #pragma once
 
+#include <QHash>
 #include <QString>
 #include <optional>
 
@@ -19,5 +20,15 @@ struct GridLookup {
 QString LookupText(Database &database, const GridLookup &lookup, const Value &key);
 /// The row whose text is this one, whatever the case; nothing when there is none.
 std::optional<qint64> LookupKey(Database &database, const GridLookup &lookup, const QString &text);
+
+/// The texts of keys that were chosen in a grid and are not joined in yet: each is looked up once.
+class ChosenTexts {
+ public:
+  QString Of(Database &database, const GridColumn &column, const Value &key);
+  void Forget() { texts_.clear(); }
+
+ private:
+  QHash<QString, QString> texts_;  ///< by column and key
+};
 
 }  // namespace trimlog

@@ -14,15 +14,8 @@ GridModel::~GridModel() = default;
 void GridModel::SetColumns(GridColumns columns) {
   beginResetModel();
   columns_ = std::move(columns);
-  CollectFields();
+  rows_.SetFields(FieldsOf(columns_));
   endResetModel();
-}
-
-int GridModel::ColumnByName(const QString &name) const {
-  for (size_t column = 0; column < columns_.size(); ++column) {
-    if (columns_[column].name == name) return static_cast<int>(column);
-  }
-  return -1;
 }
 
 const GridColumn *GridModel::ColumnAt(const QModelIndex &index) const {
@@ -39,7 +32,7 @@ void GridModel::RebindColumn(const QString &name, const QString &field, const QS
   bound.field = field;
   bound.pattern = pattern;
   SetCaption(name, caption);
-  if (otherField) CollectFields();
+  if (otherField) rows_.SetFields(FieldsOf(columns_));
   if (RecordCount() > 0) Q_EMIT dataChanged(index(0, column), index(RecordCount() - 1, column));
 }
 
@@ -69,20 +62,10 @@ void GridModel::SetAllowNew(bool allow) {
   endResetModel();
 }
 
-void GridModel::CollectFields() {
-  QStringList fields;
-  for (const GridColumn &column : columns_) {
-    for (const QString &field : {column.field, column.textField}) {
-      if (!field.isEmpty() && !fields.contains(field)) fields.append(field);
-    }
-  }
-  rows_.SetFields(fields);
-}
-
 void GridModel::Show(GridRows::Reading reading) {
   beginResetModel();
   rows_.Take(std::move(reading));
-  changedLookups_.clear();
+  chosenTexts_.Forget();
   if (edit_ && !edit_->IsNew() && RowOfKey(edit_->Key()) < 0) edit_.reset();
   endResetModel();
 }
@@ -120,27 +103,15 @@ void GridModel::LoadAllKeys() {
   if (rows_.Count() != counted) Refresh();
 }
 
-bool GridModel::AllKeysLoaded() const { return rows_.Keys().Complete(); }
-
-void GridModel::Need(int first, int last) { rows_.Need(first, last); }
-
-std::optional<qint64> GridModel::KeyOfRow(int row) const { return rows_.KeyOf(row); }
-
 Value GridModel::FieldOf(int row, const QString &field) const {
   if (edit_ && row == ChangingRow()) return edit_->Get(field);
   return rows_.Field(row, field);
-}
-
-int GridModel::FindFirst(const QString &criterion, const Params &params) const {
-  return rows_.FindFirst(criterion, params);
 }
 
 int GridModel::FindPrefix(const QString &field, const QString &text) const {
   const QString column = QualifiedField(Source(), field);
   return FindFirst(QStringLiteral("LCase(Left(%1, %2)) = ?").arg(column).arg(text.size()), {text.toLower()});
 }
-
-QList<QVariantMap> GridModel::WholeRows(const std::vector<qint64> &keys) const { return rows_.Whole(keys); }
 
 int GridModel::rowCount(const QModelIndex &parent) const {
   return parent.isValid() ? 0 : RecordCount() + (allowNew_ ? 1 : 0);
@@ -159,20 +130,11 @@ QVariant GridModel::CellText(const QModelIndex &index, const GridColumn &column,
   return forEditing ? TypedForm(column, value, locale_) : ShowCell(column, value, locale_);
 }
 
-// The text that is joined in belongs to the stored key; that of a key chosen since is looked up once.
+// The text that is joined in belongs to the stored key, not to one chosen since.
 QString GridModel::LookupShown(int row, const GridColumn &column) const {
-  const Value key = FieldOf(row, column.field);
   const bool chosen = edit_ && row == ChangingRow() && edit_->IsChanged(column.field);
   if (!chosen && !column.textField.isEmpty()) return FieldOf(row, column.textField).toString();
-  QString &text = changedLookups_[column.name + QLatin1Char('/') + key.toString()];
-  if (text.isEmpty()) text = LookupText(File(), *column.lookup, key);
-  return text;
-}
-
-QString GridModel::SentenceOf(const QModelIndex &index, const GridColumn &column) const {
-  if (!edit_ || index.row() != ChangingRow()) return {};
-  const QString own = edit_->Sentence(column.field);
-  return own.isEmpty() && edit_->IsChanged(column.field) ? edit_->rowSentence : own;
+  return chosenTexts_.Of(File(), column, FieldOf(row, column.field));
 }
 
 QVariant GridModel::data(const QModelIndex &index, int role) const try {
@@ -192,7 +154,7 @@ QVariant GridModel::data(const QModelIndex &index, int role) const try {
     case Qt::ToolTipRole:
     case Qt::AccessibleDescriptionRole:
     case SentenceRole:
-      return SentenceOf(index, *column);
+      return edit_ && index.row() == ChangingRow() ? edit_->SentenceShown(column->field) : QString();
     case Qt::AccessibleTextRole:
       if (column->type != GridType::Check || index.row() >= RecordCount()) return {};
       return FieldOf(index.row(), column->field).toBool() ? tr("Checked") : tr("Not checked");
@@ -207,24 +169,12 @@ QVariant GridModel::data(const QModelIndex &index, int role) const try {
   return {};  // a row that cannot be read is shown empty; what the person does next meets the same failure and tells it
 }
 
-QString GridModel::RowStateInWords(int row) const {
-  if (!edit_ || row != ChangingRow()) return row == RecordCount() && allowNew_ ? tr("New row") : QString();
-  return edit_->HasRefusals() || !edit_->rowSentence.isEmpty() ? tr("Refused") : tr("Changed, not saved yet");
+QVariant GridModel::headerData(int section, Qt::Orientation orientation, int role) const {
+  if (orientation == Qt::Vertical) return RowHead(section, role);
+  return section < 0 || section >= columnCount() ? QVariant() : CaptionData(columns_[section], role);
 }
 
-QVariant GridModel::headerData(int section, Qt::Orientation orientation, int role) const {
-  if (orientation == Qt::Vertical) {
-    if (role == Qt::TextAlignmentRole) return Qt::AlignCenter;
-    if (role == Qt::ToolTipRole && edit_ && section == ChangingRow()) return edit_->rowSentence;
-    if (role == Qt::AccessibleTextRole) return RowStateInWords(section);
-    if (role != Qt::DisplayRole) return {};
-    if (edit_ && section == ChangingRow()) {
-      return edit_->HasRefusals() || !edit_->rowSentence.isEmpty() ? QStringLiteral("!") : QString(QChar(0x2022));
-    }
-    return section == RecordCount() && allowNew_ ? QStringLiteral("*") : QString();
-  }
-  if (section < 0 || section >= static_cast<int>(columns_.size())) return {};
-  const GridColumn &column = columns_[section];
+QVariant GridModel::CaptionData(const GridColumn &column, int role) {
   switch (role) {
     case Qt::DisplayRole:
       return column.caption;
@@ -234,6 +184,24 @@ QVariant GridModel::headerData(int section, Qt::Orientation orientation, int rol
       return column.name;
     case Qt::TextAlignmentRole:
       return QVariant::fromValue(AlignmentOf(column));
+    default:
+      return {};
+  }
+}
+
+QVariant GridModel::RowHead(int row, int role) const {
+  const bool changing = edit_ && row == ChangingRow();
+  switch (role) {
+    case Qt::DisplayRole:
+      if (changing) return edit_->IsRefused() ? QStringLiteral("!") : QString(QChar(0x2022));
+      return row == RecordCount() && allowNew_ ? QStringLiteral("*") : QString();
+    case Qt::AccessibleTextRole:
+      if (changing) return edit_->IsRefused() ? tr("Refused") : tr("Changed, not saved yet");
+      return row == RecordCount() && allowNew_ ? tr("New row") : QString();
+    case Qt::ToolTipRole:
+      return changing ? edit_->rowSentence : QVariant();
+    case Qt::TextAlignmentRole:
+      return Qt::AlignCenter;
     default:
       return {};
   }

@@ -9,6 +9,7 @@
 #include "platform/grid/grid_clipboard.h"
 #include "platform/grid/grid_columns.h"
 #include "platform/grid/grid_hooks.h"
+#include "platform/grid/grid_lookup.h"
 #include "platform/grid/grid_rows.h"
 
 namespace trimlog {
@@ -34,7 +35,7 @@ class GridModel : public QAbstractTableModel {
   // What is shown.
   void SetColumns(GridColumns columns);
   const GridColumns &Columns() const { return columns_; }
-  int ColumnByName(const QString &name) const;  ///< -1 when there is none
+  int ColumnByName(const QString &name) const { return ColumnIndex(columns_, name); }  ///< -1 when there is none
   /// Binds a column to another field at run time; rows already read are read again when seen.
   void RebindColumn(const QString &name, const QString &field, const QString &caption, const QString &pattern = {});
   void SetCaption(const QString &name, const QString &caption);
@@ -58,23 +59,24 @@ class GridModel : public QAbstractTableModel {
   /// Reads rows afresh, each at its place. False, with nothing done, when one of them came to the source or left it.
   bool RefreshRows(const std::vector<qint64> &keys);
   void LoadAllKeys();
-  bool AllKeysLoaded() const;
+  bool AllKeysLoaded() const { return rows_.Keys().Complete(); }
   /// Reads the rows of a visible range, so that painting finds them.
-  void Need(int first, int last);
+  void Need(int first, int last) { rows_.Need(first, last); }
 
   // Rows by key.
-  int RecordCount() const { return rows_.Count(); }                   ///< without the row for new records
-  std::optional<qint64> KeyOfRow(int row) const;                      ///< nothing for the row for new records
+  int RecordCount() const { return rows_.Count(); }  ///< without the row for new records
+  /// Nothing for the row for new records.
+  std::optional<qint64> KeyOfRow(int row) const { return rows_.KeyOf(row); }
   int RowOfKey(qint64 key) const { return rows_.Keys().RowOf(key); }  ///< -1 when it is not shown
   std::vector<int> RowsOfKeys(const std::vector<qint64> &keys) const { return rows_.RowsOf(keys); }  ///< ascending
   /// A field's value, unsaved change included; invalid when row or field is not there.
   Value FieldOf(int row, const QString &field) const;
   /// The first row that meets a criterion in the words of the source ("UCase(Left(MealDesc,1)) = ?"); -1 for none.
-  int FindFirst(const QString &criterion, const Params &params) const;
+  int FindFirst(const QString &criterion, const Params &params) const { return rows_.FindFirst(criterion, params); }
   /// The first row whose field begins with a text, case ignored; -1 for none.
   int FindPrefix(const QString &field, const QString &text) const;
   /// All columns of the table, by name, of rows in the order given.
-  QList<QVariantMap> WholeRows(const std::vector<qint64> &keys) const;
+  QList<QVariantMap> WholeRows(const std::vector<qint64> &keys) const { return rows_.Whole(keys); }
 
   // Changing.
   bool IsChanging() const { return edit_ != nullptr; }
@@ -104,24 +106,22 @@ class GridModel : public QAbstractTableModel {
 
  private:
   const GridColumn *ColumnAt(const QModelIndex &index) const;
-  void CollectFields();
   void Show(GridRows::Reading reading);
   TypedCell ReadCell(const QModelIndex &index, const GridColumn &column, const QVariant &value, int role) const;
   TypedCell ReadLookup(const GridColumn &column, const QString &text) const;
   QString LookupShown(int row, const GridColumn &column) const;
   GridRowEdit &BeginChange(int row);
   void DropEditWhenEmpty();
-  qint64 WriteRow();
   void TakeOverSaved(qint64 key);
   void AnnounceRow(int row);
   QVariant CellText(const QModelIndex &index, const GridColumn &column, bool forEditing) const;
-  QString SentenceOf(const QModelIndex &index, const GridColumn &column) const;
-  QString RowStateInWords(int row) const;
+  static QVariant CaptionData(const GridColumn &column, int role);
+  QVariant RowHead(int row, int role) const;
 
   QLocale locale_;
   GridColumns columns_;
-  mutable GridRows rows_;                           ///< fetched when they are asked for
-  mutable QHash<QString, QString> changedLookups_;  ///< texts of chosen keys, by column and key
+  mutable GridRows rows_;  ///< fetched when they are asked for
+  mutable ChosenTexts chosenTexts_;
   std::unique_ptr<GridRowEdit> edit_;
   bool allowNew_ = false;
 };

@@ -2,10 +2,10 @@
 #include <algorithm>
 #include <memory>
 
-#include "platform/grid/grid_blocks.h"
 #include "platform/grid/grid_cells.h"
 #include "platform/grid/grid_lookup.h"
 #include "platform/grid/grid_model.h"
+#include "platform/grid/grid_writing.h"
 
 namespace trimlog {
 
@@ -125,21 +125,13 @@ bool GridModel::SaveRow() {
       SetRowSentence(sentence);
       return false;
     }
-    *key = WriteRow();
+    *key = WriteRow(File(), Source(), *edit_);
     if (hooks.withUpdate) hooks.withUpdate(*edit_, *key);
     transaction.Commit();
   }
   Q_EMIT RowSaved(*key);
   if (hooks.afterUpdate) hooks.afterUpdate(*key);
   return true;
-}
-
-qint64 GridModel::WriteRow() {
-  const GridStatement statement = edit_->IsNew() ? InsertStatement(Source(), edit_->Changes())
-                                                 : UpdateStatement(Source(), edit_->Key(), edit_->Changes());
-  const qint64 written = File().Execute(statement.sql, statement.params);
-  if (written == 0) throw Error(error_number::noCurrentRecord, tr("This row has been deleted meanwhile."));
-  return edit_->IsNew() ? edit_->Get(Source().key).toLongLong() : edit_->Key();
 }
 
 void GridModel::TakeOverSaved(qint64 key) {
@@ -162,10 +154,7 @@ void GridModel::DeleteRows(const std::vector<qint64> &keys) {
     if (edit_ && std::find(keys.begin(), keys.end(), edit_->Key()) != keys.end()) edit_.reset();
     Refresh();
   });
-  InBlocks(keys, RowCache::block, [this](const std::vector<qint64> &some) {
-    const GridStatement statement = DeleteStatement(Source(), some);
-    File().Execute(statement.sql, statement.params);
-  });
+  trimlog::DeleteRows(File(), Source(), keys);
   if (hooks.withDelete) hooks.withDelete(keys);
   transaction.Commit();
 }

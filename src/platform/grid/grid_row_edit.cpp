@@ -39,6 +39,11 @@ QString GridRowEdit::Sentence(const QString &field) const {
   return refused == refused_.constEnd() ? QString() : refused->sentence;
 }
 
+QString GridRowEdit::SentenceShown(const QString &field) const {
+  const QString own = Sentence(field);
+  return own.isEmpty() && IsChanged(field) ? rowSentence : own;
+}
+
 void GridRowEdit::Undo(const QString &field) {
   refused_.remove(field);
   changed_.remove(field);

@@ -31,7 +31,11 @@ class GridRowEdit {
   void Refuse(const QString &field, const QString &typed, const QString &sentence);
   bool HasRefusals() const { return !refused_.isEmpty(); }
   const QString *RefusedText(const QString &field) const;
+  /// Why a field's text is refused.
   QString Sentence(const QString &field) const;
+  /// Why a cell cannot be saved as it stands: its own sentence, or the row's where the cell has a part in it.
+  QString SentenceShown(const QString &field) const;
+  bool IsRefused() const { return HasRefusals() || !rowSentence.isEmpty(); }
 
   /// Takes one field back to what the file holds.
   void Undo(const QString &field);

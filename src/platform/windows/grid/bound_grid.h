@@ -1,13 +1,16 @@
 #pragma once
 
 #include <QTableView>
-#include <QTimer>
 
 #include "platform/grid/grid_model.h"
+#include "platform/windows/grid/cell_choice.h"
+#include "platform/windows/grid/empty_note.h"
 #include "platform/windows/grid/grid_commands.h"
 #include "platform/windows/grid/grid_keyboard.h"
 #include "platform/windows/grid/grid_mouse.h"
+#include "platform/windows/grid/grid_reading.h"
 #include "platform/windows/grid/grid_selection.h"
+#include "platform/windows/grid/grid_sorting.h"
 #include "platform/windows/grid/grid_widths.h"
 #include "platform/windows/grid/row_leaving.h"
 
@@ -30,9 +33,6 @@ class FrozenColumn;
 class BoundGrid : public QTableView {
   Q_OBJECT
  public:
-  /// Asks the person for a date, beginning with the one shown; nothing when none was chosen.
-  using DatePicker = std::function<std::optional<QDate>(QWidget &owner, const QDate &shown)>;
-
   /// `label` is what a screen reader says.
   BoundGrid(const QString &objectName, const QString &label, const QLocale &locale, QWidget *parent = nullptr);
   ~BoundGrid() override;
@@ -41,6 +41,9 @@ class BoundGrid : public QTableView {
   const GridModel &Model() const { return *model_; }
   GridHooks &Hooks() { return model_->hooks; }
   GridSelection &Selection() { return *selection_; }
+  GridReading &Reading() { return reading_; }
+  GridSorting &Sorting() { return sorting_; }
+  CellChoice &Choice() { return choice_; }
 
   QString recordSource;   ///< names the kind of rows for copy and paste, e.g. "datMealsList"
   bool canDelete = true;  ///< Del and "Delete Row(s)"
@@ -54,29 +57,29 @@ class BoundGrid : public QTableView {
   void SetSpareColumn(const QString &name) { widths_->SetSpare(name); }
   void KeepWidths(SettingsStore &store, const QString &key) { widths_->Keep(store, key); }
   void SetRowLines(int lines);  ///< the rows are so many lines of text high
-  void SetDatePicker(DatePicker picker) { pickDate_ = std::move(picker); }
-  void SetPlaceholderText(const QString &text);  ///< what an empty list says to do
-  int FirstColumn() const;                       ///< the first that shows something: where a person would begin
-  int LastColumn() const;
+  void SetDatePicker(CellChoice::DatePicker picker) { choice_.SetDatePicker(std::move(picker)); }
+  void SetPlaceholderText(const QString &text) { emptyNote_.SetText(text); }  ///< what an empty list says to do
+  /// The first that shows something: where a person would begin.
+  int FirstColumn() const { return FirstShown(model_->Columns()); }
 
   /// Shows a source. Saves the row being changed first; false when that was refused (nothing happens then) or reading
   /// failed.
-  bool Open(Database &database, const GridSource &source);
+  bool Open(Database &database, const GridSource &source) {
+    return reading_.Show([&] { model_->Open(database, source); });
+  }
   /// `whole` reads all keys in one pass: for a search, whose rows cost as much to count as to find.
-  bool SetSource(const GridSource &source, bool whole = false);
+  bool SetSource(const GridSource &source, bool whole = false) {
+    return reading_.Show([&] { model_->SetSource(source, whole); });
+  }
   /// Reads everything afresh; current cell, marked rows and scroll place are kept by key. While a row is being left or
-  /// a mouse button is down the rows stay in their order: what the person points at must not move away.
-  bool Refresh();
+  /// a mouse button is down the rows stay in their order.
+  bool Refresh() { return reading_.Refresh(); }
   /// Reads afresh what was changed, added or deleted elsewhere; no keys mean any row. The row being typed stays as
   /// typed.
-  bool RefreshRows(const std::vector<qint64> &keys);
+  bool RefreshRows(const std::vector<qint64> &keys) { return reading_.RefreshRows(keys); }
   /// Sorts by a column, then the key. False when nothing was sorted.
-  bool SortBy(const QString &columnName, bool descending);
-  void SortByClick(int column);
-  void KeepingPlace(const std::function<void()> &work);
-  /// Runs work that may fail, the failure handled as the guard hook says.
-  bool RunGuarded(GridAction action, const std::function<void()> &work);
-  void PrefetchVisible();
+  bool SortBy(const QString &columnName, bool descending) { return sorting_.By(columnName, descending); }
+  void FollowScrolling();  ///< the column that stays in sight comes or goes
 
   // The current row and the marked ones.
   std::optional<qint64> CurrentKey() const { return selection_->CurrentKey(); }
@@ -95,6 +98,7 @@ class BoundGrid : public QTableView {
   // Changing.
   /// Saves what is being typed, as leaving the row would. False when it was refused or failed: the person must see it.
   bool CommitRow() { return leaving_.Commit(); }
+  bool IsLeavingRow() const { return leaving_.IsUnderWay(); }
   QModelIndex LeaveRowFor(const QModelIndex &target) { return leaving_.LeaveFor(target); }
   bool IsTyping() const;  ///< a cell's editor is open and holds something else than the cell
   QWidget *OpenEditor() const;
@@ -102,9 +106,6 @@ class BoundGrid : public QTableView {
   /// Takes over what an editor holds; `andClose` ends the editing.
   void KeepEditor(QWidget *editor, bool andClose = false);
   void EditCell(const QModelIndex &cell) { edit(cell, QAbstractItemView::AllEditTriggers, nullptr); }
-  bool HasListBelow(const QWidget *editor) const;  ///< which takes the arrow keys
-  /// What the current cell has to choose from: its list, the rows of its lookup, the calendar. False when nothing.
-  bool OpenCellChoice();
   bool ActivateRow();
   void PressCell(const QModelIndex &cell, const QMouseEvent &press);
   void OpenMenuAt(const QPoint &place) { Q_EMIT MenuWanted(place); }
@@ -156,17 +157,7 @@ class BoundGrid : public QTableView {
  private:
   void SetUpView();
   void SetUpHeads();
-  void OnCellEdited(const QString &column);
-  bool HoldsOrder() const;
-  void GoToFirstRow();
-  bool ShowRows(const std::function<void()> &open);
-  bool SortsBy(const GridColumn &column) const;
-  void ShowSortIndicator();
   void ApplyFont();
-  void FollowScrolling();
-  void DrawPlaceholder();
-  bool PickDate(const QModelIndex &cell);
-  bool IsDateToPick(const QModelIndex &cell) const;
 
   GridModel *model_;
   RowLeaving leaving_;
@@ -175,10 +166,11 @@ class BoundGrid : public QTableView {
   GridMouse mouse_{*this};
   GridKeyboard keyboard_{*this};
   GridCommands commands_{*this};
+  GridReading reading_{*this};
+  GridSorting sorting_{*this};
+  CellChoice choice_{*this};
+  EmptyNote emptyNote_{*this};
   FrozenColumn *frozen_ = nullptr;
-  DatePicker pickDate_;
-  QTimer readKeysLater_;
-  QString placeholderText_;
   std::optional<qint64> lastKey_;
   int rowLines_ = 1;
 };

@@ -1,11 +1,8 @@
 // What comes to a BoundGrid from outside: keys and mouse, scrolling, painting; and its cells' editors.
 #include <QApplication>
-#include <QComboBox>
 #include <QContextMenuEvent>
-#include <QDate>
 #include <QHeaderView>
 #include <QMetaMethod>
-#include <QPainter>
 #include <QScopedValueRollback>
 #include <QScrollBar>
 #include <algorithm>
@@ -13,7 +10,6 @@
 #include "platform/windows/grid/bound_grid.h"
 #include "platform/windows/grid/cell_editors.h"
 #include "platform/windows/grid/frozen_column.h"
-#include "platform/windows/grid/lookup_field.h"
 
 namespace trimlog {
 
@@ -40,14 +36,6 @@ void BoundGrid::CloseOpenEditor(bool keep) {
 void BoundGrid::KeepEditor(QWidget *editor, bool andClose) {
   commitData(editor);
   if (andClose) closeEditor(editor, QAbstractItemDelegate::NoHint);
-}
-
-bool BoundGrid::HasListBelow(const QWidget *editor) const { return qobject_cast<const LookupField *>(editor); }
-
-void BoundGrid::OnCellEdited(const QString &column) {
-  const int edited = model_->ColumnByName(column);
-  const bool refused = !model_->RefusalOfRow().isEmpty();
-  if (edited >= 0 && model_->Columns()[edited].savesAtOnce && !refused) leaving_.Save();
 }
 
 bool BoundGrid::edit(const QModelIndex &index, EditTrigger trigger, QEvent *event) {
@@ -78,33 +66,6 @@ void BoundGrid::focusOutEvent(QFocusEvent *event) {
   if (focus && !isAncestorOf(focus) && focus->window() == window()) CommitRow();
 }
 
-bool BoundGrid::IsDateToPick(const QModelIndex &cell) const {
-  return pickDate_ && cell.flags().testFlag(Qt::ItemIsEditable) &&
-         model_->Columns()[cell.column()].type == GridType::Date;
-}
-
-bool BoundGrid::PickDate(const QModelIndex &cell) {
-  if (!IsDateToPick(cell)) return false;
-  CloseOpenEditor(true);
-  const QPersistentModelIndex kept = cell;
-  const std::optional<QDate> date = pickDate_(*this, cell.data(GridModel::ValueRole).toDate());
-  if (date && kept.isValid()) model_->setData(kept, *date, GridModel::ValueRole);
-  setFocus();
-  return true;
-}
-
-bool BoundGrid::OpenCellChoice() {
-  const QModelIndex cell = currentIndex();
-  if (!cell.flags().testFlag(Qt::ItemIsEditable)) return false;
-  const GridType type = model_->Columns()[cell.column()].type;
-  if (type == GridType::Date) return PickDate(cell);
-  if (type != GridType::Choice && type != GridType::Lookup) return false;
-  EditCell(cell);
-  if (auto *list = qobject_cast<QComboBox *>(OpenEditor())) list->showPopup();
-  if (auto *field = qobject_cast<LookupField *>(OpenEditor())) field->ShowList();
-  return true;
-}
-
 // ---- Keys
 
 void BoundGrid::keyPressEvent(QKeyEvent *event) {
@@ -120,7 +81,7 @@ QModelIndex BoundGrid::moveCursor(CursorAction action, Qt::KeyboardModifiers mod
   } else {
     target = QTableView::moveCursor(action, modifiers);
     if (action == MoveHome && target.isValid()) target = target.siblingAtColumn(FirstColumn());
-    if (action == MoveEnd && target.isValid()) target = target.siblingAtColumn(LastColumn());
+    if (action == MoveEnd && target.isValid()) target = target.siblingAtColumn(LastShown(model_->Columns()));
   }
   const QModelIndex left = LeaveRowFor(target);
   return left.isValid() ? left : currentIndex();
@@ -173,7 +134,7 @@ void BoundGrid::mouseReleaseEvent(QMouseEvent *event) {
 void BoundGrid::mouseDoubleClickEvent(QMouseEvent *event) {
   const QModelIndex cell = mouse_.CellOfDoubleClick(*event);
   const bool left = event->button() == Qt::LeftButton;
-  if (left && cell == currentIndex() && PickDate(cell)) return;
+  if (left && cell == currentIndex() && choice_.PickDate(cell)) return;
   if (!mouse_.DoubleClick(*event)) QTableView::mouseDoubleClickEvent(event);
   if (left && cell.isValid() && currentIndex() == cell && !CanChange(cell)) ActivateRow();
 }
@@ -225,14 +186,14 @@ void BoundGrid::FollowScrolling() {
 
 void BoundGrid::scrollContentsBy(int dx, int dy) {
   QTableView::scrollContentsBy(dx, dy);
-  if (dy != 0) PrefetchVisible();
+  if (dy != 0) reading_.Prefetch();
   FollowScrolling();
   leaving_.PlaceSentence();
 }
 
 void BoundGrid::resizeEvent(QResizeEvent *event) {
   QTableView::resizeEvent(event);
-  PrefetchVisible();
+  reading_.Prefetch();
   if (widths_) widths_->FillSpare();
   FollowScrolling();
   leaving_.PlaceSentence();
@@ -240,7 +201,7 @@ void BoundGrid::resizeEvent(QResizeEvent *event) {
 
 void BoundGrid::showEvent(QShowEvent *event) {
   QTableView::showEvent(event);
-  PrefetchVisible();
+  reading_.Prefetch();
 }
 
 void BoundGrid::hideEvent(QHideEvent *event) {
@@ -258,22 +219,8 @@ void BoundGrid::changeEvent(QEvent *event) {
 // The keys behind the first page are read once that page stands on the screen.
 void BoundGrid::paintEvent(QPaintEvent *event) {
   QTableView::paintEvent(event);
-  if (model_->IsOpen() && !model_->AllKeysLoaded()) readKeysLater_.start();
-  if (model_->rowCount() == 0 && !placeholderText_.isEmpty()) DrawPlaceholder();
-}
-
-void BoundGrid::SetPlaceholderText(const QString &text) {
-  placeholderText_ = text;
-  setAccessibleDescription(text);
-  viewport()->update();
-}
-
-void BoundGrid::DrawPlaceholder() {
-  QPainter painter(viewport());
-  painter.setPen(palette().color(QPalette::PlaceholderText));
-  const int margin = fontMetrics().height();
-  painter.drawText(viewport()->rect().adjusted(margin, margin, -margin, -margin),
-                   Qt::AlignHCenter | Qt::AlignTop | Qt::TextWordWrap, placeholderText_);
+  reading_.ReadTheRestSoon();
+  emptyNote_.Draw();
 }
 
 }  // namespace trimlog

@@ -27,7 +27,7 @@ QLineEdit *MakeField(BoundGrid &grid, const GridColumn &column, QWidget *parent)
   if (IsNumberType(column.type)) return new NumberField({}, {}, locale, parent);
   if (column.type == GridType::Date) {
     auto *field = new DateField({}, {}, locale, parent);
-    QObject::connect(field, &DateField::CalendarWanted, &grid, [&grid] { grid.OpenCellChoice(); });
+    QObject::connect(field, &DateField::CalendarWanted, &grid, [&grid] { grid.Choice().Open(); });
     return field;
   }
   if (column.type == GridType::Lookup) {
@@ -98,6 +98,8 @@ QString TypedInEditor(const QWidget &editor) {
   if (const auto *memo = qobject_cast<const QPlainTextEdit *>(&editor)) return memo->toPlainText();
   return {};
 }
+
+bool HasListBelow(const QWidget &editor) { return qobject_cast<const LookupField *>(&editor); }
 
 void RunInEditor(QWidget &editor, const char *command) { QMetaObject::invokeMethod(&editor, command); }
 

@@ -19,6 +19,7 @@ void StoreCellEditor(QWidget &editor, QAbstractItemModel &model, const QModelInd
 
 /// What is typed in it; a null string for a drop-down list.
 QString TypedInEditor(const QWidget &editor);
+bool HasListBelow(const QWidget &editor);                ///< which takes the arrow keys
 void RunInEditor(QWidget &editor, const char *command);  ///< "copy" or "cut"
 void InsertInEditor(QWidget &editor, const QString &text);
 

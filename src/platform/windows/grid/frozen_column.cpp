@@ -29,7 +29,8 @@ FrozenColumn::FrozenColumn(BoundGrid &grid, int column) : QTableView(&grid), gri
   horizontalHeader()->setSectionResizeMode(QHeaderView::Fixed);
   horizontalHeader()->setHighlightSections(false);
   connect(grid.verticalScrollBar(), &QScrollBar::valueChanged, verticalScrollBar(), &QScrollBar::setValue);
-  connect(horizontalHeader(), &QHeaderView::sectionClicked, &grid, &BoundGrid::SortByClick);
+  connect(horizontalHeader(), &QHeaderView::sectionClicked, &grid,
+          [&grid](int section) { grid.Sorting().ByClick(section); });
   hide();
 }
 

@@ -5,6 +5,7 @@
 #include <algorithm>
 
 #include "platform/grid/grid_export.h"
+#include "platform/grid/grid_guard.h"
 #include "platform/grid/pasted_text.h"
 #include "platform/windows/grid/bound_grid.h"
 #include "platform/windows/grid/cell_editors.h"
@@ -63,7 +64,7 @@ bool GridCommands::DeleteSelected() {
   const bool changingGoes = changing && std::find(keys.begin(), keys.end(), *changing) != keys.end();
   if (!changingGoes && !grid_.CommitRow()) return false;
   if (model.hooks.beforeDelete && !model.hooks.beforeDelete(keys)) return false;
-  const bool deleted = grid_.RunGuarded(GridAction::Delete, [&] { DeleteKeepingPlace(keys); });
+  const bool deleted = RunGuarded(grid_.Model(), GridAction::Delete, [&] { DeleteKeepingPlace(keys); });
   if (deleted && model.hooks.afterDelete) model.hooks.afterDelete(keys);
   return deleted;
 }
@@ -76,7 +77,7 @@ void GridCommands::DeleteKeepingPlace(const std::vector<qint64> &keys) {
   const int column = std::max(0, grid_.currentIndex().column());
   const std::optional<qint64> top = model.KeyOfRow(std::max(0, grid_.rowAt(0)));
   model.DeleteRows(keys);
-  grid_.PrefetchVisible();
+  grid_.Reading().Prefetch();
   const int topRow = top ? model.RowOfKey(*top) : -1;
   if (topRow > 0) grid_.scrollTo(model.index(topRow, column), QAbstractItemView::PositionAtTop);
   next = std::min(next, model.RecordCount() - 1);
@@ -86,7 +87,7 @@ void GridCommands::DeleteKeepingPlace(const std::vector<qint64> &keys) {
 
 bool GridCommands::CopyRows(GridClipboard &clipboard) {
   if (!grid_.CommitRow()) return false;
-  return grid_.RunGuarded(GridAction::Load, [&] {
+  return RunGuarded(grid_.Model(), GridAction::Load, [&] {
     clipboard.rows = grid_.Model().WholeRows(grid_.Selection().KeysMeant());
     clipboard.kind = grid_.recordSource;
   });
@@ -102,9 +103,9 @@ bool GridCommands::PasteRows(const GridClipboard &clipboard) {
   const GridHooks &hooks = grid_.Hooks();
   const bool fits = hooks.pasteRows && !clipboard.rows.isEmpty() && clipboard.kind == grid_.recordSource;
   if (!fits || !grid_.CommitRow()) return false;
-  return grid_.RunGuarded(GridAction::Paste, [&] {
+  return RunGuarded(grid_.Model(), GridAction::Paste, [&] {
     const std::vector<qint64> pasted = hooks.pasteRows(clipboard);
-    grid_.KeepingPlace([this] { grid_.Model().Refresh(); });
+    grid_.Reading().KeepingPlace([this] { grid_.Model().Refresh(); });
     if (!pasted.empty() && grid_.GoToKey(pasted.back())) grid_.MarkRows(pasted);
     grid_.setFocus();
   });

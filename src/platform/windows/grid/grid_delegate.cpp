@@ -114,8 +114,8 @@ bool GridDelegate::eventFilter(QObject *watched, QEvent *event) {
   }
   const bool enter = EndsEditing(editor, *key);
   const bool arrow = key->key() == Qt::Key_Up || key->key() == Qt::Key_Down;
-  const bool leavesByArrow = arrow && !(key->modifiers() & ~Qt::KeypadModifier) && qobject_cast<QLineEdit *>(editor) &&
-                             !grid_->HasListBelow(editor);
+  const bool leavesByArrow =
+      arrow && !(key->modifiers() & ~Qt::KeypadModifier) && qobject_cast<QLineEdit *>(editor) && !HasListBelow(*editor);
   if (IsEnter(*key) && !enter) return false;  // a new line, not the end
   if (!enter && !leavesByArrow) return QStyledItemDelegate::eventFilter(watched, event);
   Q_EMIT commitData(editor);

@@ -5,6 +5,7 @@
 #include <QKeyEvent>
 #include <algorithm>
 
+#include "platform/grid/grid_guard.h"
 #include "platform/windows/grid/bound_grid.h"
 
 namespace trimlog {
@@ -21,7 +22,7 @@ bool GridKeyboard::Press(QKeyEvent &event) {
   if (std::find(std::begin(onCell), std::end(onCell), event.key()) != std::end(onCell)) {
     event.setAccepted(OnCell(event));
   } else if (event.key() == Qt::Key_Down && held.testFlag(Qt::AltModifier)) {
-    grid_.OpenCellChoice();
+    grid_.Choice().Open();
   } else if (event.key() == Qt::Key_Space && held == Qt::ShiftModifier) {
     grid_.ChooseCurrentRow();
   } else if (IsLooking() && !event.text().isEmpty() && event.text().front().isPrint()) {
@@ -48,7 +49,7 @@ bool GridKeyboard::OnCell(const QKeyEvent &event) {
     case Qt::Key_Backspace:
       return plain && grid_.ClearCell();
     case Qt::Key_F4:
-      return plain && grid_.OpenCellChoice();
+      return plain && grid_.Choice().Open();
     default:
       return Leave(event);
   }
@@ -113,7 +114,7 @@ void GridKeyboard::LookFor(const QString &letters) {
   typedAhead_ += letters;
   const QList<GridOrder> &order = grid_.Model().Source().order;
   if (order.isEmpty() || !grid_.Model().IsOpen()) return;
-  grid_.RunGuarded(GridAction::Load, [&] {
+  RunGuarded(grid_.Model(), GridAction::Load, [&] {
     const int row = grid_.Model().FindPrefix(order.first().field, typedAhead_);
     if (const std::optional<qint64> key = grid_.Model().KeyOfRow(row)) grid_.GoToKey(*key);
   });

@@ -7,6 +7,7 @@
 #include <QVBoxLayout>
 #include <algorithm>
 
+#include "platform/grid/grid_guard.h"
 #include "platform/windows/grid/bound_grid.h"
 
 namespace trimlog {
@@ -73,7 +74,7 @@ void LookupField::LookFor(const QString &typed) {
   chosen_.reset();
   ShowList();
   if (typed.isEmpty()) return;
-  grid_->RunGuarded(GridAction::Load, [&] {
+  RunGuarded(grid_->Model(), GridAction::Load, [&] {
     const int row = grid_->Model().FindPrefix(lookup_.text, typed);
     chosen_ = grid_->Model().KeyOfRow(row);
     if (chosen_) {

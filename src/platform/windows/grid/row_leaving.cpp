@@ -3,6 +3,7 @@
 #include <QLabel>
 #include <algorithm>
 
+#include "platform/grid/grid_guard.h"
 #include "platform/windows/grid/bound_grid.h"
 #include "platform/windows/grid/grid_delegate.h"
 
@@ -30,11 +31,17 @@ bool RowLeaving::Save() {
   if (!grid_.Model().IsChanging()) return true;
   underWay_ = true;
   bool saved = false;
-  const bool ran = grid_.RunGuarded(GridAction::Save, [&] { saved = grid_.Model().SaveRow(); });
+  const bool ran = RunGuarded(grid_.Model(), GridAction::Save, [&] { saved = grid_.Model().SaveRow(); });
   underWay_ = false;
   if (ran && saved) return true;
   ShowRefusal();
   return false;
+}
+
+void RowLeaving::SaveAfter(const QString &column) {
+  const GridModel &model = grid_.Model();
+  const int edited = model.ColumnByName(column);
+  if (edited >= 0 && model.Columns()[edited].savesAtOnce && model.RefusalOfRow().isEmpty()) Save();
 }
 
 void RowLeaving::ShowRefusal() {

@@ -19,6 +19,7 @@ class RowLeaving {
   bool Commit();
   /// Saves the row without closing the editor that is open in it: for columns that are saved with every cell.
   bool Save();
+  void SaveAfter(const QString &column);  ///< a cell of it was changed: saves the row when the column wants that
   bool IsUnderWay() const { return underWay_; }
   /// The cell to go to after the row being changed was saved (saving may have moved the rows); an invalid one when that
   /// row may not be left.

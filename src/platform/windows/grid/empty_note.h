@@ -1,0 +1,22 @@
+#pragma once
+
+#include <QString>
+
+class QAbstractItemView;
+
+namespace trimlog {
+
+/// The quiet words in an empty list that say what to do; a screen reader hears them as its description.
+class EmptyNote {
+ public:
+  explicit EmptyNote(QAbstractItemView &list) : list_(list) {}
+
+  void SetText(const QString &text);
+  void Draw() const;  ///< from the list's paint event; draws nothing when the list has rows
+
+ private:
+  QAbstractItemView &list_;
+  QString text_;
+};
+
+}  // namespace trimlog
