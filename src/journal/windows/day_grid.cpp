@@ -1,0 +1,77 @@
+#include "journal/windows/day_grid.h"
+
+#include "core/session/failure_guard.h"
+#include "core/windows/controls/grid_dates.h"
+#include "core/windows/controls/grid_follow.h"
+#include "journal/day/day_records.h"
+#include "platform/windows/grid/bound_grid.h"
+
+namespace trimlog {
+
+namespace {
+
+/// What stands for "no date" in files of earlier releases; nobody has a day there.
+const QDate zeroDate(1899, 12, 30);
+
+FailureExit DayGridFailure(GridAction action, const QString &grid) {
+  const QString module = QStringLiteral("basDiaryFunctions");
+  switch (action) {
+    case GridAction::Load:
+      return {module, grid + QStringLiteral("_Load"), QStringLiteral("Error Loading Journal"),
+              QStringLiteral("An error occurred while loading your journal.")};
+    case GridAction::Save:
+      return {module, grid + QStringLiteral("_AfterUpdate"), QStringLiteral("Error Saving Journal"),
+              QStringLiteral("An error occurred while saving your journal.  "), true};
+    case GridAction::Delete:
+      return {module, grid + QStringLiteral("_Delete"), QStringLiteral("Error Deleting From Journal"),
+              QStringLiteral("An error occurred while deleting from your journal.  "), true};
+    case GridAction::Paste:
+      break;
+  }
+  return {QStringLiteral("basMain"), QStringLiteral("PasteGridRow"), QStringLiteral("Unable to Paste Rows"),
+          QStringLiteral("An error occurred while pasting into your journal.  "), true};
+}
+
+bool ConfirmDeleteRows(Session &session, std::size_t rows) {
+  if (!session.settings.ConfirmDeletes) return true;
+  const QString what =
+      rows == 1 ? QStringLiteral("the selected row") : QStringLiteral("the %1 selected rows").arg(rows);
+  return session.boxes.Ask(QStringLiteral("Delete Rows?"), QStringLiteral("Delete %1?").arg(what));
+}
+
+}  // namespace
+
+BoundGrid *MakeDayGrid(const JournalParts &parts, const DayGridNames &names, QWidget *parent) {
+  Session &session = parts.session;
+  auto *grid = new BoundGrid(names.grid, names.label, session.locale, parent);
+  grid->recordSource = names.recordSource;
+  grid->KeepWidths(session.store, settingsRoot + QStringLiteral("\\Grids\\") + names.grid);
+  grid->SetDatePicker(CalendarForGrid(session));
+  GridHooks &hooks = grid->Hooks();
+  hooks.guard = [&session, name = names.grid](GridAction action, const std::function<void()> &work) {
+    return Guarded(session, DayGridFailure(action, name), work);
+  };
+  hooks.beforeDelete = [&session](const std::vector<qint64> &keys) { return ConfirmDeleteRows(session, keys.size()); };
+  hooks.pasteRows = [&session, &day = parts.day, table = names.table](const GridClipboard &clipboard) {
+    const QDate date = day.IsSingleDate() ? day.Date() : QDate();
+    return PasteDayRecords(session, table, day.Kind().entries, clipboard.rows, date);
+  };
+  FollowTable(*grid, session, names.table);
+  return grid;
+}
+
+GridColumn DateColumn() {
+  return {.name = QStringLiteral("ThisDate"),
+          .caption = QStringLiteral("Date"),
+          .field = QStringLiteral("ThisDate"),
+          .type = GridType::Date,
+          .width = 11,
+          .editable = true,
+          .mend = MendWithFormer(),
+          .validate = [](const Value &value) {
+            return value.toDate().isValid() && value.toDate() != zeroDate ? QString()
+                                                                          : QStringLiteral("Please type a date.");
+          }};
+}
+
+}  // namespace trimlog

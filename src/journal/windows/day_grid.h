@@ -1,0 +1,29 @@
+#pragma once
+
+#include <QString>
+
+#include "core/data/tables.h"
+#include "journal/windows/journal_page.h"
+#include "platform/grid/grid_columns.h"
+
+class QWidget;
+
+namespace trimlog {
+
+/// What tells the lists of a journal window apart.
+struct DayGridNames {
+  QString grid;          ///< of the control, "grdMeals"
+  QString label;         ///< what a screen reader says
+  QString recordSource;  ///< "datMeals": rows go to and come from lists with the same one
+  Table table = Table::Meals;
+};
+
+/// A list of a journal window with what all of them have in common: failures in one box, the question before a
+/// deletion where it is wanted, rows pasted to the day shown, the calendar for dates, what is announced and followed,
+/// the widths kept. Columns and further hooks are the caller's; withUpdate and withDelete are taken.
+BoundGrid *MakeDayGrid(const JournalParts &parts, const DayGridNames &names, QWidget *parent);
+
+/// The first column of every list: "ThisDate". A text that is no date, or the zero date, gives way to what stood.
+GridColumn DateColumn();
+
+}  // namespace trimlog
