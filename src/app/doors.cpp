@@ -8,6 +8,7 @@
 #include "companions/windows/frmWizard.h"
 #include "core/windows/profiles/add_profile_page.h"
 #include "core/windows/setup/frmSetup.h"
+#include "journal/windows/frmDiary.h"
 #include "program.h"
 #include "tools/windows/frmTools.h"
 #include "weightlog/rewards.h"
@@ -25,9 +26,6 @@ void Program::FillHooks() {
     if (change.table == Table::People && change.Concerns(session_.profile.CurrentPersonID)) UpdateStats(session_);
   });
   hooks_.CloseToolsWindow = [] { CloseToolsWindow(); };
-  const QString tutorial = session_.programDirectory + QStringLiteral("/tutorsel.exe");
-  if (QFile::exists(tutorial))
-    hooks_.StartTutorialSelector = [this, tutorial] { session_.machine.Start(tutorial, {}); };
 }
 
 void Program::FillNavigator() {
@@ -39,6 +37,9 @@ void Program::FillNavigator() {
   navigator_.ExitProgram = [this] { frame_->close(); };
   navigator_.ResetMainWindow = [this] { frame_->ResetPlace(); };
   navigator_.ShowHelp = [this](const QString &topic) { help_.Show(topic); };
+  const QString tutorial = session_.programDirectory + QStringLiteral("/tutorsel.exe");
+  if (QFile::exists(tutorial))
+    navigator_.StartTutorialSelector = [this, tutorial] { session_.machine.Start(tutorial, {}); };
   navigator_.OpenTools = [this](ToolsPanel panel) { OpenTools(session_, navigator_, panel, frame_.get()); };
   navigator_.OpenFoodSetup = [this](QWidget *owner) {
     frmSetupFoods(session_, navigator_, owner ? owner : frame_.get()).exec();
@@ -66,6 +67,8 @@ ContentForms Program::Forms() {
   ContentForms forms;
   forms.insert(QStringLiteral("frmData"),
                [this](QWidget *parent) { return new frmData(session_, navigator_, parent); });
+  forms.insert(QStringLiteral("frmDiary"),
+               [this](QWidget *parent) { return new frmDiary(session_, navigator_, journalDoors_, parent); });
   return forms;
 }
 

@@ -7,6 +7,7 @@
 #include "core/start/startup.h"
 #include "core/windows/frame/frmMDI.h"
 #include "core/windows/help/help_desk.h"
+#include "journal/day/journal_doors.h"
 #include "platform/machine/end_signals.h"
 #include "platform/machine/single_instance.h"
 
@@ -35,6 +36,7 @@ class Program {
   EndSignals endSignals_;
   HelpDesk help_;
   Navigator navigator_;
+  JournalDoors journalDoors_;
   RoomHooks hooks_;
   FrameDoors doors_;
   Application application_;

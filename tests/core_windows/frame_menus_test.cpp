@@ -140,7 +140,7 @@ class EveryCommand : public FrameTest {
       return false;
     };
     hooks.RunHandheldSync = [note](bool) { note(QStringLiteral("handheld")); };
-    hooks.StartTutorialSelector = [note] { note(QStringLiteral("tutorial")); };
+    navigator.StartTutorialSelector = [note] { note(QStringLiteral("tutorial")); };
     Load();
   }
 

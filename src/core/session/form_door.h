@@ -26,5 +26,6 @@ struct FormDoor {
 
 /// The tip of what is disabled because nothing stands behind its door.
 inline const QString leadsNowhere = QStringLiteral("This is not part of this version.");
+inline const QString noTutorials = QStringLiteral("The tutorials are not installed.");
 
 }  // namespace trimlog

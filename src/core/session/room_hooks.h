@@ -14,7 +14,6 @@ struct RoomHooks {
   std::function<void(bool activeSyncAfter)> RunHandheldSync;  ///< companions
   std::function<void()> MakeDatabaseChangesSerava;            ///< companions
   std::function<void()> CloseToolsWindow;                     ///< tools: at exit, when it is open
-  std::function<void()> StartTutorialSelector;                ///< launches the tutorial selector beside the program
 };
 
 }  // namespace trimlog

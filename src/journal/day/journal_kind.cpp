@@ -23,6 +23,8 @@ JournalKind MakeDiary() {
   kind.viewSetting = &Settings::LastDiaryView;
   kind.viewSettingName = QStringLiteral("LastDiaryView");
   kind.hasNetCalories = true;
+  kind.mealsTab = QStringLiteral(" Meals/Snacks ");
+  kind.activitiesTab = QStringLiteral(" Exercises/Workouts ");
   kind.addMealCaption = QStringLiteral("Add a Food or Meal to Your Journal");
   kind.addMealHeader = AddHeader(QStringLiteral("Journal"));
   kind.addActivityCaption = QStringLiteral("Add an Exercise or Workout to Your Journal");
@@ -41,6 +43,8 @@ JournalKind MakePlanner() {
   kind.viewSettingName = QStringLiteral("LastPlannerView");
   kind.hasDayRecords = false;
   kind.hasPreviousValues = false;
+  kind.mealsTab = QStringLiteral(" Planned Meals ");
+  kind.activitiesTab = QStringLiteral(" Planned Exercises ");
   kind.addMealCaption = QStringLiteral("Add a Food or Meal to Your Planner");
   kind.addMealHeader = AddHeader(QStringLiteral("Planner"));
   kind.addActivityCaption = QStringLiteral("Add an Exercise or Workout to Your Planner");

@@ -25,6 +25,9 @@ struct JournalKind {
   bool hasFixedDate = false;      ///< stands on the calendar's day; its dialogs do not let the date be changed
   bool isSmall = false;           ///< floats: its pages make do with little room
 
+  // Captions of the tabs.
+  QString mealsTab;
+  QString activitiesTab;
   QString addMealCaption;
   QString addMealHeader;
   QString addActivityCaption;

@@ -24,25 +24,6 @@
 
 namespace trimlog {
 
-namespace {
-
-/// A button that stands on a coloured panel: its own colours are the panel's.
-QPalette ButtonPalette(const QColor &panel) {
-  const QColor text = ContrastText(panel);
-  QColor faint = text;
-  faint.setAlphaF(0.5F);
-  QPalette palette;
-  palette.setColor(QPalette::Button, panel);
-  palette.setColor(QPalette::Window, panel);
-  palette.setColor(QPalette::ButtonText, text);
-  palette.setColor(QPalette::WindowText, text);
-  palette.setColor(QPalette::Disabled, QPalette::ButtonText, faint);
-  palette.setColor(QPalette::Disabled, QPalette::WindowText, faint);
-  return palette;
-}
-
-}  // namespace
-
 frmData::frmData(Session &session, const Navigator &navigator, QWidget *parent)
     : ContentWindow(parent), session_(session), navigator_(navigator), model_(session) {
   setObjectName(QStringLiteral("frmData"));
@@ -342,7 +323,7 @@ void frmData::ShowSettings() {
   PaintPanel(lblMonth, panel, desktop);
   PaintPanel(lblTotal2, panel, desktop);
   PaintPanel(lblNewcomer, panel, desktop);
-  const QPalette buttons = ButtonPalette(PanelColor(panel, desktop));
+  const QPalette buttons = PanelButtonPalette(PanelColor(panel, desktop));
   for (QToolButton *button : {cmdPrevMonth, cmdNextMonth, cmdToday, cmdDiary, cmdTips}) button->setPalette(buttons);
   chkShowLoss->setChecked(session_.settings.ShowLoss);
   chkShowCalories->setChecked(session_.settings.ShowCalories);

@@ -32,6 +32,7 @@ class frmData : public ContentWindow {
   void DropOpenEdit() override;
   void Activated() override;
   void GotoDate(const QDate &date) override;
+  QDate ActiveDate() const override { return model_.Month().currentDate; }
   WindowCommands Commands() override;
   void PrepareForPrinting(bool printing) override;
 

@@ -115,6 +115,20 @@ QColor PanelColor(quint32 backColor, const QPalette &palette) {
   return PanelColor(ColorFromBgr(backColor, palette), palette);
 }
 
+QPalette PanelButtonPalette(const QColor &panel) {
+  const QColor text = ContrastText(panel);
+  QColor faint = text;
+  faint.setAlphaF(0.5F);
+  QPalette palette;
+  palette.setColor(QPalette::Button, panel);
+  palette.setColor(QPalette::Window, panel);
+  palette.setColor(QPalette::ButtonText, text);
+  palette.setColor(QPalette::WindowText, text);
+  palette.setColor(QPalette::Disabled, QPalette::ButtonText, faint);
+  palette.setColor(QPalette::Disabled, QPalette::WindowText, faint);
+  return palette;
+}
+
 void PaintPanel(QWidget *panel, quint32 backColor) { PaintPanel(panel, backColor, QApplication::palette()); }
 
 void PaintPanel(QWidget *panel, quint32 backColor, const QPalette &desktop) {

@@ -32,6 +32,9 @@ bool IsDark(const QPalette &palette);
 QColor PanelColor(quint32 backColor, const QPalette &palette = {});
 QColor PanelColor(const QColor &color, const QPalette &palette);
 
+/// For a button that stands on a coloured panel: its own colours are the panel's.
+QPalette PanelButtonPalette(const QColor &panel);
+
 /// Colours a panel with a profile's colour, by PanelColor, and gives everything that stands on it a readable text
 /// colour. Fields keep the desktop's own colours. The panel follows when the desktop turns dark or light.
 void PaintPanel(QWidget *panel, quint32 backColor);

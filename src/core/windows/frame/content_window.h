@@ -25,8 +25,10 @@ class ContentWindow : public QWidget {
   virtual void DropOpenEdit() {}
   /// The window was moved into place and is the current one: set the focus.
   virtual void Activated() {}
-  /// Shows a day, where the window has days.
+  /// Shows a day, where the window has days. Before the window is shown: opens on that day.
   virtual void GotoDate(const QDate &) {}
+  /// The day that the window hands to the one that takes its place; none where it has no day to hand over.
+  virtual QDate ActiveDate() const { return {}; }
   /// What only this window can do: menu entries of the frame by name ("mnuFilePrint"), and their work.
   virtual WindowCommands Commands() { return {}; }
   /// Turns colours and buttons that do not belong on paper off (true) and on again (false).

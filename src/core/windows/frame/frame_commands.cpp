@@ -23,7 +23,6 @@ const QString noList = QStringLiteral("Click on a row of a list first.");
 const QString noField = QStringLiteral("Click into a field or cell that can be changed first.");
 const QString noText = QStringLiteral("Click into a field or cell first.");
 const QString noCalculator = QStringLiteral("No calculator is installed on this computer.");
-const QString noTutorials = QStringLiteral("The tutorials are not installed.");
 
 using Reason = std::function<QString()>;
 
@@ -143,8 +142,8 @@ std::vector<FrameCommand> FrameCommands(frmMDI &frame, Session &session, const N
       {"mnuPPCSync", "", Leads(hooks.RunHandheldSync), saved([&hooks] { hooks.RunHandheldSync(false); })},
 
       help("mnuHelpHelp", QString()),
-      {"mnuHelpTutorial", "", Leads(hooks.StartTutorialSelector, noTutorials),
-       [&hooks] { hooks.StartTutorialSelector(); }},
+      {"mnuHelpTutorial", "", Leads(navigator.StartTutorialSelector, noTutorials),
+       [&navigator] { navigator.StartTutorialSelector(); }},
       help("mnuHelpHowTo", QStringLiteral("howto")),
       help("mnuHelpTools", QStringLiteral("tools")),
       page("mnuHelpUsersGuide", product::usersGuidePage),

@@ -41,9 +41,9 @@ bool frmMDI::MDIForm_Load() {
     StartWizardIfNeeded();
     LoadProfilesMenu();
     loaded_ = true;
-    if (!session_.ReloadInProgress && session_.settings.ShowTutorial && hooks_.StartTutorialSelector) {
+    if (!session_.ReloadInProgress && session_.settings.ShowTutorial && navigator_.StartTutorialSelector) {
       QApplication::processEvents();
-      hooks_.StartTutorialSelector();
+      navigator_.StartTutorialSelector();
     }
     ShowHandheldMenus();
   });

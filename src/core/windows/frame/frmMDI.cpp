@@ -113,13 +113,16 @@ void frmMDI::ShowForm(const QString &name, const FormOpening &opening) {
   const bool changes = name != currentFormName_;
   if (changes && !SaveOpenEdit()) return;
   SetMenusFor(name);
-  if (changes) ReplaceForm(name);
-  if (opening.date.isValid()) currentForm_->GotoDate(opening.date);
+  if (changes) {
+    ReplaceForm(name, opening.date.isValid() || !currentForm_ ? opening.date : currentForm_->ActiveDate());
+  } else if (opening.date.isValid()) {
+    currentForm_->GotoDate(opening.date);
+  }
   if (loaded_) RefreshCommands();
   ShowQuickJournal(name == QStringLiteral("frmData"));
 }
 
-void frmMDI::ReplaceForm(const QString &name) {
+void frmMDI::ReplaceForm(const QString &name, const QDate &date) {
   ContentWindow *former = currentForm_;
   currentForm_ = forms_[name](content_->parentWidget());
   currentFormName_ = name;
@@ -129,6 +132,7 @@ void frmMDI::ReplaceForm(const QString &name) {
     former->hide();
     former->deleteLater();  // the command that leads away from a window often comes from one of its own buttons
   }
+  if (date.isValid()) currentForm_->GotoDate(date);
   currentForm_->show();
   currentForm_->Activated();
 }

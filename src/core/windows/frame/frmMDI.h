@@ -96,7 +96,7 @@ class frmMDI : public QMainWindow {
   void ConnectCommands();
   void RefreshCommands();
   void SetMenusFor(const QString &name);
-  void ReplaceForm(const QString &name);
+  void ReplaceForm(const QString &name, const QDate &date = {});
   void ShowQuickJournal(bool visible);
 
   void ShowAsKept();
