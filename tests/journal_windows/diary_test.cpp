@@ -61,7 +61,7 @@ TEST_F(Diary, OpensOnTheHandedDayTheKeptViewAndTheDefaultPage) {
   EXPECT_EQ(Tab(), 2);
 
   QTest::mouseClick(&The<QRadioButton>("optViewAll"), Qt::LeftButton);
-  QTest::keyClick(window.get(), Qt::Key_1, Qt::ControlModifier);
+  QTest::keyClick(window.get(), Qt::Key_1, Qt::AltModifier);
   EXPECT_EQ(Tab(), 0);
   Open(QDate(2026, 2, 14));
   EXPECT_FALSE(IsSingle()) << "a day handed over leaves the view as it was";
@@ -74,7 +74,7 @@ TEST_F(Diary, OpensOnTheHandedDayTheKeptViewAndTheDefaultPage) {
 TEST_F(Diary, TheDefaultPageIsOneChoice) {
   Open();
   EXPECT_TRUE(The<QCheckBox>("chkDefaultDiaryTab1").isChecked());
-  QTest::keyClick(window.get(), Qt::Key_4, Qt::ControlModifier);
+  QTest::keyClick(window.get(), Qt::Key_4, Qt::AltModifier);
   EXPECT_FALSE(The<QCheckBox>("chkDefaultDiaryTab1").isVisible());
   QTest::mouseClick(&The<QCheckBox>("chkDefaultDiaryTab3"), Qt::LeftButton);
   EXPECT_FALSE(The<QCheckBox>("chkDefaultDiaryTab1").isChecked());
@@ -135,10 +135,10 @@ TEST_F(Diary, TheMenuOfTheJournalSaysWhatIsNotThere) {
     const Entry &entry = entries[i];
     EXPECT_EQ(actions[i]->text(), QString::fromLatin1(entry.caption));
     EXPECT_EQ(actions[i]->isEnabled(), entry.enabled) << entry.caption;
-    if (!entry.enabled) EXPECT_EQ(actions[i]->toolTip(), QString::fromLatin1(entry.opens));
     opened.clear();
     actions[i]->trigger();
-    EXPECT_EQ(opened, entry.enabled ? QStringList(QString::fromLatin1(entry.opens)) : QStringList());
+    if (!entry.enabled) opened.append(actions[i]->toolTip());
+    EXPECT_EQ(opened, QStringList(QString::fromLatin1(entry.opens)));
   }
   menu.hide();
 }

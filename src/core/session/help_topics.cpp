@@ -13,6 +13,12 @@ constexpr TopicOfClass topics[] = {
     {"frmData", "calendar"},
     {"frmReward", "options#rewards"},
 
+    {"frmDiary", "journal"},
+    {"NotesPage", "journal#notes"},
+    {"MealsPage", "journal#meals"},
+    {"ExercisesPage", "journal#exercises"},
+    {"MeasurementsPage", "journal#measurements"},
+
     {"frmTools", "tools"},
     {"PlannerPage", "35"},
     {"CaloricNeedsPage", "63"},

@@ -26,7 +26,7 @@ JournalTabs::JournalTabs(const JournalParts &parts, QWidget *parent) : QTabWidge
 void JournalTabs::Add(JournalPage *page, const QString &caption) {
   pages_.push_back(page);
   const int index = addTab(page, caption);
-  const QKeySequence keys(Qt::CTRL | static_cast<Qt::Key>(Qt::Key_1 + index));
+  const QKeySequence keys(Qt::ALT | static_cast<Qt::Key>(Qt::Key_1 + index));
   setTabToolTip(index, keys.toString(QKeySequence::NativeText));
   auto *shortcut = new QShortcut(keys, this);
   connect(shortcut, &QShortcut::activated, this, [this, index] { setCurrentIndex(index); });

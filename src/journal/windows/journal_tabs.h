@@ -8,7 +8,7 @@
 namespace trimlog {
 
 /// The pages of a journal window, one tab each; which ones there are is the kind's. A page is only left when what is
-/// typed in it could be saved. Ctrl+1, Ctrl+2, ... and Ctrl+Tab go to a page.
+/// typed in it could be saved. Alt+1, Alt+2, ... and Ctrl+Tab go to a page.
 class JournalTabs : public QTabWidget {
   Q_OBJECT
  public:
