@@ -34,9 +34,9 @@ struct Navigator {
   std::function<void(QWidget *owner)> ImportData;  ///< takes over the data of an earlier release
   std::function<void(const QString &topic)> ShowHelp;
   std::function<void()> StartTutorialSelector;  ///< launches the tutorial selector beside the program
-  std::function<void()> ExitProgram;        ///< closes the frame
-  std::function<void()> ResetMainWindow;    ///< the frame back to its first size, centred
-  std::function<void()> ResetQuickJournal;  ///< an open Quick Journal to the place in the session
+  std::function<void()> ExitProgram;            ///< closes the frame
+  std::function<void()> ResetMainWindow;        ///< the frame back to its first size, centred
+  std::function<void()> ResetQuickJournal;      ///< an open Quick Journal to the place in the session
 };
 
 }  // namespace trimlog
