@@ -55,6 +55,8 @@ class BoundGrid : public QTableView {
   void ShowColumn(const QString &name, bool visible);
   void GiveRoom(const QString &from, const QString &to) { widths_->GiveRoom(from, to); }
   void SetSpareColumn(const QString &name) { widths_->SetSpare(name); }
+  /// This column stays in sight when the others scroll; otherwise the first one does, where it holds texts.
+  void SetStayingColumn(const QString &name) { staying_ = name; }
   void KeepWidths(SettingsStore &store, const QString &key) { widths_->Keep(store, key); }
   void SetRowLines(int lines);  ///< the rows are so many lines of text high
   void SetDatePicker(CellChoice::DatePicker picker) { choice_.SetDatePicker(std::move(picker)); }
@@ -79,7 +81,9 @@ class BoundGrid : public QTableView {
   bool RefreshRows(const std::vector<qint64> &keys) { return reading_.RefreshRows(keys); }
   /// Sorts by a column, then the key. False when nothing was sorted.
   bool SortBy(const QString &columnName, bool descending) { return sorting_.By(columnName, descending); }
-  void FollowScrolling();  ///< the column that stays in sight comes or goes
+  void FollowScrolling();        ///< the column that stays in sight comes or goes
+  int StayingColumn() const;     ///< -1 when none does
+  int WidthHeldInSight() const;  ///< of that column while it covers others; 0 otherwise
 
   // The current row and the marked ones.
   std::optional<qint64> CurrentKey() const { return selection_->CurrentKey(); }
@@ -172,6 +176,7 @@ class BoundGrid : public QTableView {
   EmptyNote emptyNote_{*this};
   FrozenColumn *frozen_ = nullptr;
   std::optional<qint64> lastKey_;
+  QString staying_;
   int rowLines_ = 1;
 };
 

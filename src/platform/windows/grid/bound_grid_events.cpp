@@ -174,10 +174,18 @@ void BoundGrid::scrollTo(const QModelIndex &index, ScrollHint hint) {
   if (covered > 0) horizontalScrollBar()->setValue(horizontalScrollBar()->value() - covered);
 }
 
-void BoundGrid::FollowScrolling() {
+int BoundGrid::StayingColumn() const {
+  if (!staying_.isEmpty()) return model_->ColumnByName(staying_);
   const int column = FirstColumn();
   const bool text = column < model_->columnCount() && model_->Columns()[column].type == GridType::Text;
-  if (horizontalScrollBar()->value() > 0 && text && (!frozen_ || frozen_->Column() != column)) {
+  return text ? column : -1;
+}
+
+int BoundGrid::WidthHeldInSight() const { return frozen_ ? frozen_->CoveredWidth() : 0; }
+
+void BoundGrid::FollowScrolling() {
+  const int column = StayingColumn();
+  if (horizontalScrollBar()->value() > 0 && column >= 0 && (!frozen_ || frozen_->Column() != column)) {
     delete frozen_;
     frozen_ = new FrozenColumn(*this, column);
   }

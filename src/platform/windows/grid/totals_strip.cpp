@@ -10,7 +10,7 @@
 namespace trimlog {
 
 TotalsStrip::TotalsStrip(const QString &objectName, const QString &label, BoundGrid &grid, QWidget *parent)
-    : QTableView(parent), grid_(grid), cells_(1, 1) {
+    : QTableView(parent), grid_(grid), label_(new QLabel(this)), cells_(1, 1) {
   setObjectName(objectName);
   setAccessibleName(label);
   setModel(&cells_);
@@ -26,11 +26,15 @@ TotalsStrip::TotalsStrip(const QString &objectName, const QString &label, BoundG
   horizontalHeader()->setMinimumSectionSize(1);
   verticalHeader()->hide();
   verticalHeader()->setMinimumSectionSize(1);
+  label_->setAutoFillBackground(true);
+  label_->setBackgroundRole(QPalette::Base);
+  label_->setForegroundRole(QPalette::Text);
+  label_->setContentsMargins(6, 0, 0, 0);
   const auto align = [this] { Align(); };
   connect(grid.horizontalHeader(), &QHeaderView::sectionResized, this, align);
   connect(grid.horizontalHeader(), &QHeaderView::geometriesChanged, this, align);
   connect(&grid.Model(), &QAbstractItemModel::modelReset, this, align, Qt::QueuedConnection);
-  connect(grid.horizontalScrollBar(), &QScrollBar::valueChanged, horizontalScrollBar(), &QScrollBar::setValue);
+  connect(grid.horizontalScrollBar(), &QScrollBar::valueChanged, this, align);
   connect(grid.horizontalScrollBar(), &QScrollBar::rangeChanged, this, align);
   Align();
 }
@@ -51,8 +55,6 @@ int TotalsStrip::ColumnOf(const QString &total) const {
   const auto found = std::find_if(totals_.begin(), totals_.end(), [&](const auto &one) { return one.name == total; });
   return found == totals_.end() ? -1 : static_cast<int>(found - totals_.begin()) + 1;
 }
-
-void TotalsStrip::SetLabel(const QString &text) { cells_.setItem(0, 0, new QStandardItem(text)); }
 
 // What is heard names the columns that the figure stands under.
 void TotalsStrip::SetText(const QString &total, const QString &text) {
@@ -94,11 +96,25 @@ void TotalsStrip::Align() {
   setColumnWidth(static_cast<int>(totals_.size()) + 1, std::max(1, behind));
   setRowHeight(0, grid_.verticalHeader()->defaultSectionSize());
   horizontalScrollBar()->setValue(grid_.horizontalScrollBar()->value());
+  PlaceLabel();
+}
+
+// Figures that would stand below what the grid keeps in sight are covered here as they are there.
+void TotalsStrip::PlaceLabel() {
+  const int heads = grid_.verticalHeader()->isHidden() ? 0 : grid_.verticalHeader()->width();
+  const int held = grid_.WidthHeldInSight();
+  const int right = std::max(columnViewportPosition(0) + columnWidth(0), held > 0 ? heads + held : 0);
+  label_->setGeometry(frameWidth(), frameWidth(), std::max(0, right - 1), viewport()->height());
 }
 
 QSize TotalsStrip::sizeHint() const {
   return {QTableView::sizeHint().width(),
           fontMetrics().height() + std::max(6, fontMetrics().height() / 3) + 2 * frameWidth()};
+}
+
+void TotalsStrip::resizeEvent(QResizeEvent *event) {
+  QTableView::resizeEvent(event);
+  PlaceLabel();
 }
 
 void TotalsStrip::changeEvent(QEvent *event) {

@@ -1,5 +1,6 @@
 #pragma once
 
+#include <QLabel>
 #include <QStandardItemModel>
 #include <QTableView>
 
@@ -14,7 +15,8 @@ struct TotalsColumn {
 };
 
 /// A row of totals below a grid: its cells stand under the grid's columns, whatever their widths, and scroll with them.
-/// Before them stands a label. A text is given for each total; a total under columns that are all hidden is hidden.
+/// Before them stands a label, which stays in sight beside what the grid keeps in sight. A text is given for each total;
+/// a total under columns that are all hidden is hidden.
 class TotalsStrip : public QTableView {
   Q_OBJECT
  public:
@@ -22,7 +24,8 @@ class TotalsStrip : public QTableView {
   TotalsStrip(const QString &objectName, const QString &label, BoundGrid &grid, QWidget *parent = nullptr);
 
   void SetTotals(const QList<TotalsColumn> &totals);
-  void SetLabel(const QString &text);
+  QLabel &Label() { return *label_; }  ///< its name is for the window to give
+  void SetLabel(const QString &text) { label_->setText(text); }
   void SetText(const QString &total, const QString &text);
   QString Text(const QString &total) const;
   void Align();  ///< widths and scroll place of the grid; done by itself when they change
@@ -32,11 +35,14 @@ class TotalsStrip : public QTableView {
 
  protected:
   void changeEvent(QEvent *event) override;
+  void resizeEvent(QResizeEvent *event) override;
 
  private:
   int ColumnOf(const QString &total) const;
+  void PlaceLabel();
 
   BoundGrid &grid_;
+  QLabel *label_;
   QStandardItemModel cells_;
   QList<TotalsColumn> totals_;
 };
