@@ -28,6 +28,7 @@ constexpr TopicOfClass topics[] = {
     {"frmSetupFoods", "foods"},
     {"frmSelectedNutrients", "nutrients"},
     {"frmDailyValues", "foods#daily-values"},
+    {"frmConfirmMealUpdates", "options#journal"},
     {"FoodPage", "foods#new-food"},
 
     {"frmSetup", "options"},

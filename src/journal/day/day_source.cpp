@@ -27,6 +27,7 @@ GridSource EntriesIn(const QString &table, const DayScope &scope, EntryKind entr
 
 GridSource MealsSource(const DayScope &scope, EntryKind entries) {
   GridSource source = EntriesIn(QStringLiteral("meals"), scope, entries);
+  source.from = QStringLiteral("meals LEFT JOIN meals_list ON meals.MealID = meals_list.MealID");
   source.order.append({QStringLiteral("MealTypeID")});
   return source;
 }

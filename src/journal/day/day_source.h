@@ -16,7 +16,7 @@ struct DayScope {
 };
 
 // The rows behind the journal's lists, newest day first. Entries of a day come by meal and then in the order in which
-// they were made.
+// they were made. With a meal stands its food, as meals_list.
 GridSource MealsSource(const DayScope &scope, EntryKind entries);
 GridSource ActivitiesSource(const DayScope &scope, EntryKind entries);
 GridSource NotesSource(const DayScope &scope);

@@ -33,6 +33,7 @@ JournalKind MakeDiary() {
   kind.mealsAllDates = QStringLiteral(": Meals Eaten for All Dates");
   kind.activitiesOnDate = QStringLiteral(": Exercises Completed on %1");
   kind.activitiesAllDates = QStringLiteral(": Exercises Completed for All Dates");
+  kind.printedTotals = QStringLiteral("Daily Totals (%1):");
   return kind;
 }
 
@@ -53,6 +54,7 @@ JournalKind MakePlanner() {
   kind.mealsAllDates = QStringLiteral(": Planned Meals for All Dates");
   kind.activitiesOnDate = QStringLiteral(": Planned Exercises for %1");
   kind.activitiesAllDates = QStringLiteral(": Planned Exercises for All Dates");
+  kind.printedTotals = QStringLiteral("Totals for %1:");
   return kind;
 }
 

@@ -37,6 +37,7 @@ struct JournalKind {
   QString mealsAllDates;
   QString activitiesOnDate;
   QString activitiesAllDates;
+  QString printedTotals;  ///< before the totals of a printed list; %1 is the date
 
   static const JournalKind &Diary();
   static const JournalKind &Planner();

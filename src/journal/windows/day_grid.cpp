@@ -4,6 +4,7 @@
 #include "core/windows/controls/grid_dates.h"
 #include "core/windows/controls/grid_follow.h"
 #include "journal/day/day_records.h"
+#include "journal/windows/row_colours.h"
 #include "platform/windows/grid/bound_grid.h"
 
 namespace trimlog {
@@ -47,6 +48,7 @@ BoundGrid *MakeDayGrid(const JournalParts &parts, const DayGridNames &names, QWi
   grid->recordSource = names.recordSource;
   grid->KeepWidths(session.store, settingsRoot + QStringLiteral("\\Grids\\") + names.grid);
   grid->SetDatePicker(CalendarForGrid(session));
+  PaintOddRows(grid, session.profile.BackColor);
   GridHooks &hooks = grid->Hooks();
   hooks.guard = [&session, name = names.grid](GridAction action, const std::function<void()> &work) {
     return Guarded(session, DayGridFailure(action, name), work);

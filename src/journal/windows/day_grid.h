@@ -20,7 +20,8 @@ struct DayGridNames {
 
 /// A list of a journal window with what all of them have in common: failures in one box, the question before a
 /// deletion where it is wanted, rows pasted to the day shown, the calendar for dates, what is announced and followed,
-/// the widths kept. Columns and further hooks are the caller's; withUpdate and withDelete are taken.
+/// the widths kept, the rows in the profile's colour. Columns and further hooks are the caller's; withUpdate and
+/// withDelete are taken.
 BoundGrid *MakeDayGrid(const JournalParts &parts, const DayGridNames &names, QWidget *parent);
 
 /// The first column of every list: "ThisDate". A text that is no date, or the zero date, gives way to what stood.
