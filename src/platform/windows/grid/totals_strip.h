@@ -15,8 +15,8 @@ struct TotalsColumn {
 };
 
 /// A row of totals below a grid: its cells stand under the grid's columns, whatever their widths, and scroll with them.
-/// Before them stands a label, which stays in sight beside what the grid keeps in sight. A text is given for each total;
-/// a total under columns that are all hidden is hidden.
+/// Before them stands a label, which stays in sight beside what the grid keeps in sight. A text is given for each
+/// total; a total under columns that are all hidden is hidden.
 class TotalsStrip : public QTableView {
   Q_OBJECT
  public:
