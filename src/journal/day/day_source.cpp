@@ -33,7 +33,10 @@ GridSource MealsSource(const DayScope &scope, EntryKind entries) {
 }
 
 GridSource ActivitiesSource(const DayScope &scope, EntryKind entries) {
-  return EntriesIn(QStringLiteral("activities"), scope, entries);
+  GridSource source = EntriesIn(QStringLiteral("activities"), scope, entries);
+  source.from =
+      QStringLiteral("activities LEFT JOIN activities_list ON activities.ActivityID = activities_list.ActivityID");
+  return source;
 }
 
 GridSource NotesSource(const DayScope &scope) { return RowsOf(QStringLiteral("notes"), scope); }

@@ -46,6 +46,7 @@ JournalKind MakePlanner() {
   kind.hasPreviousValues = false;
   kind.mealsTab = QStringLiteral(" Planned Meals ");
   kind.activitiesTab = QStringLiteral(" Planned Exercises ");
+  kind.scalesByWeight = false;
   kind.addMealCaption = QStringLiteral("Add a Food or Meal to Your Planner");
   kind.addMealHeader = AddHeader(QStringLiteral("Planner"));
   kind.addActivityCaption = QStringLiteral("Add an Exercise or Workout to Your Planner");

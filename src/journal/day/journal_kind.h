@@ -24,6 +24,7 @@ struct JournalKind {
   bool hasPreviousValues = true;  ///< the last measurements beside the day's
   bool hasFixedDate = false;      ///< stands on the calendar's day; its dialogs do not let the date be changed
   bool isSmall = false;           ///< floats: its pages make do with little room
+  bool scalesByWeight = true;     ///< burned calories follow the day's weight; planned ones do once they are done
 
   // Captions of the tabs.
   QString mealsTab;
