@@ -17,7 +17,7 @@ class DayRows {
   /// The row whose day is meant; -1 when there is none.
   virtual int CurrentRow() const = 0;
   virtual QDate DateOf(int row) const = 0;
-  /// The text that the cell shows now, in the locale's form.
+  /// The text that the cell holds now, with all decimals, in the locale's form.
   virtual QString CellText(int row, const QString &column) const = 0;
 };
 

@@ -1,5 +1,6 @@
 #include "journal/day/activity_columns.h"
 
+#include "journal/day/calorie_rules.h"
 #include "journal/day/listed_exercise.h"
 #include "platform/grid/grid_lookup.h"
 
@@ -27,30 +28,22 @@ std::shared_ptr<const GridLookup> ExerciseLookup() {
   const auto column = [](const QString &field, const QString &caption, int width, GridType type = GridType::Text) {
     return GridColumn{.name = field, .caption = caption, .field = field, .type = type, .width = width};
   };
-  return std::make_shared<const GridLookup>(GridLookup{
-      .source = ListedExercises(),
-      .text = QStringLiteral("ActivityDesc"),
-      .columns = {column(QStringLiteral("ActivityDesc"), QStringLiteral("Exercise Description"), 36),
-                  column(QStringLiteral("Duration"), QStringLiteral("Duration"), 8, GridType::NumberText),
-                  column(QStringLiteral("Pace"), QStringLiteral("Pace"), 14),
-                  column(QStringLiteral("Calories"), QStringLiteral("Cal"), 7, GridType::Number),
-                  column(QStringLiteral("Amount"), QStringLiteral("Dist/Weight"), 11),
-                  column(QStringLiteral("Sets"), QStringLiteral("Sets"), 5, GridType::WholeNumber),
-                  column(QStringLiteral("Reps"), QStringLiteral("Rep"), 5, GridType::WholeNumber)}});
+  return std::make_shared<const GridLookup>(
+      GridLookup{.source = ListedExercises(),
+                 .text = QStringLiteral("ActivityDesc"),
+                 .columns = {column(QStringLiteral("ActivityDesc"), QStringLiteral("Exercise Description"), 36),
+                             column(QStringLiteral("Duration"), QStringLiteral("Duration"), 8, GridType::NumberText),
+                             column(QStringLiteral("Pace"), QStringLiteral("Pace"), 14),
+                             column(QStringLiteral("Calories"), QStringLiteral("Cal"), 7, GridType::Number),
+                             column(QStringLiteral("Amount"), QStringLiteral("Dist/Weight"), 11),
+                             column(QStringLiteral("Sets"), QStringLiteral("Sets"), 5, GridType::WholeNumber),
+                             column(QStringLiteral("Reps"), QStringLiteral("Rep"), 5, GridType::WholeNumber)}});
 }
 
 }  // namespace
 
-GridColumns ActivityColumns(JournalView view) {
+GridColumns ActivityColumns() {
   return {
-      {.name = QStringLiteral("ThisDate"),
-       .caption = QStringLiteral("Date"),
-       .field = QStringLiteral("ThisDate"),
-       .type = GridType::Date,
-       .width = 10,
-       .editable = true,
-       .visible = view == JournalView::AllDates,
-       .mend = MendWithFormer()},
       {.name = QStringLiteral("ActivityID"),
        .caption = QStringLiteral("Exercise Description"),
        .field = QStringLiteral("ActivityID"),

@@ -7,6 +7,9 @@ namespace trimlog {
 
 class Session;
 
+/// How calories are shown: those of changed minutes are kept unrounded, and nobody reads a dozen decimals.
+inline const QString caloriesPattern = QStringLiteral("0.###");
+
 /// How many times the calories of other minutes are those of the stored ones: new over stored, and 1 where no minutes
 /// were stored (0), since nothing can be concluded from them.
 double MinutesFactor(double storedMinutes, double newMinutes);

@@ -2,6 +2,7 @@
 
 #include <QStringList>
 
+#include "journal/day/calorie_rules.h"
 #include "platform/text/text_format.h"
 
 namespace trimlog {
@@ -13,7 +14,7 @@ constexpr QLatin1StringView gap("       ");
 }  // namespace
 
 QString NetCaloriesText(const NetCaloriesDay &day, bool withBasalRate, const QLocale &locale) {
-  const auto number = [&locale](double value) { return Format(value, QStringLiteral("General Number"), locale); };
+  const auto number = [&locale](double value) { return Format(value, caloriesPattern, locale); };
   const double consumed = day.eaten.value_or(0);
   const double burned = day.burned.value_or(0);
   const int basal = withBasalRate ? day.basal : 0;

@@ -40,6 +40,17 @@ bool ConfirmDeleteRows(Session &session, std::size_t rows) {
   return session.boxes.Ask(QStringLiteral("Delete Rows?"), QStringLiteral("Delete %1?").arg(what));
 }
 
+/// A row whose date was changed goes to its day: totals are taken from the rows of a day that stand together.
+void MoveWithDate(BoundGrid &grid) {
+  GridHooks &hooks = grid.Hooks();
+  hooks.withUpdate = [&grid, own = hooks.withUpdate](const GridRowEdit &row, qint64 key) {
+    own(row, key);
+    if (!row.IsChanged(QStringLiteral("ThisDate"))) return;
+    QMetaObject::invokeMethod(
+        &grid, [&grid] { grid.Refresh(); }, Qt::QueuedConnection);
+  };
+}
+
 }  // namespace
 
 BoundGrid *MakeDayGrid(const JournalParts &parts, const DayGridNames &names, QWidget *parent) {
@@ -59,7 +70,15 @@ BoundGrid *MakeDayGrid(const JournalParts &parts, const DayGridNames &names, QWi
     return PasteDayRecords(session, table, day.Kind().entries, clipboard.rows, date);
   };
   FollowTable(*grid, session, names.table);
+  MoveWithDate(*grid);
   return grid;
+}
+
+void FollowCurrentRow(BoundGrid &grid, JournalDay &day) {
+  QObject::connect(&grid, &BoundGrid::CurrentRowChanged, &day, [&grid, &day] {
+    // A hidden list follows what others change, and means nothing by it.
+    if (grid.isVisible()) day.FollowRow(grid.CurrentField(QStringLiteral("ThisDate")).toDate());
+  });
 }
 
 GridColumn DateColumn() {

@@ -10,6 +10,8 @@ class QWidget;
 
 namespace trimlog {
 
+class BoundGrid;
+
 /// What tells the lists of a journal window apart.
 struct DayGridNames {
   QString grid;          ///< of the control, "grdMeals"
@@ -23,6 +25,9 @@ struct DayGridNames {
 /// the widths kept, the rows in the profile's colour. Columns and further hooks are the caller's; withUpdate and
 /// withDelete are taken.
 BoundGrid *MakeDayGrid(const JournalParts &parts, const DayGridNames &names, QWidget *parent);
+
+/// Among all dates the day meant is that of the list's current row.
+void FollowCurrentRow(BoundGrid &grid, JournalDay &day);
 
 /// The first column of every list: "ThisDate". A text that is no date, or the zero date, gives way to what stood.
 GridColumn DateColumn();

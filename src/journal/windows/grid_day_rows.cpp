@@ -15,7 +15,7 @@ QDate GridDayRows::DateOf(int row) const { return grid_.Model().FieldOf(row, QSt
 
 QString GridDayRows::CellText(int row, const QString &column) const {
   const int at = grid_.Model().ColumnByName(column);
-  return at < 0 ? QString() : grid_.Model().index(row, at).data().toString();
+  return at < 0 ? QString() : grid_.Model().index(row, at).data(Qt::EditRole).toString();
 }
 
 }  // namespace trimlog

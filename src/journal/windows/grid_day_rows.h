@@ -6,8 +6,8 @@ namespace trimlog {
 
 class BoundGrid;
 
-/// A journal grid as the rows of a day: what its cells show, an edit not yet saved included. The grid outlives it. The
-/// date stands in the field ThisDate.
+/// A journal grid as the rows of a day: what its cells hold, with all decimals and an edit not yet saved included, so
+/// that a sum is the file's. The grid outlives it. The date stands in the field ThisDate.
 class GridDayRows : public DayRows {
  public:
   explicit GridDayRows(const BoundGrid &grid) : grid_(grid) {}
