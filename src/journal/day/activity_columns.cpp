@@ -42,13 +42,13 @@ std::shared_ptr<const GridLookup> ExerciseLookup() {
 
 }  // namespace
 
-GridColumns ActivityColumns() {
+GridColumns ActivityColumns(bool small) {
   return {
       {.name = QStringLiteral("ActivityID"),
        .caption = QStringLiteral("Exercise Description"),
        .field = QStringLiteral("ActivityID"),
        .type = GridType::Lookup,
-       .width = 32,
+       .width = small ? 16 : 32,
        .editable = true,
        .dropDown = QStringLiteral("ddnActivitiesList"),
        .lookup = ExerciseLookup(),
@@ -66,7 +66,7 @@ GridColumns ActivityColumns() {
       {.name = QStringLiteral("Pace"),
        .caption = QStringLiteral("Pace"),
        .field = QStringLiteral("Pace"),
-       .width = 14,
+       .width = small ? 7 : 14,
        .editable = true,
        .maxLength = exerciseTextLength},
       {.name = QStringLiteral("Calories"),

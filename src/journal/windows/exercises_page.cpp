@@ -53,6 +53,9 @@ ExercisesPage::ExercisesPage(const JournalParts &parts, QWidget *parent)
   FollowOthers();
 }
 
+// The rows speak to the page until they are gone.
+ExercisesPage::~ExercisesPage() { delete grdActivities; }
+
 void ExercisesPage::MakeButtons(PageButtons &buttons) {
   const bool planned = day_.Kind().entries == EntryKind::Planned;
   QPushButton *const cmdNewActivity =
@@ -133,7 +136,7 @@ void ExercisesPage::FollowOthers() {
 void ExercisesPage::ShowView(JournalView view) {
   GridColumn date = DateColumn();
   date.visible = view == JournalView::AllDates;
-  GridColumns columns = ActivityColumns();
+  GridColumns columns = ActivityColumns(day_.Kind().isSmall);
   columns.insert(columns.begin(), date);
   grdActivities->SetColumns(columns);
   grdActivities->SetSpareColumn(exerciseColumn);

@@ -18,6 +18,7 @@ class ExercisesPage : public JournalPage {
   Q_OBJECT
  public:
   ExercisesPage(const JournalParts &parts, QWidget *parent);
+  ~ExercisesPage() override;
 
   EditOutcome SaveOpenEdit() override;
   void DropOpenEdit() override;
