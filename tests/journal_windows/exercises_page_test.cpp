@@ -15,7 +15,7 @@ TEST_F(ExercisesPageTest, AnExerciseChosenByItsFirstLettersBringsItsValuesAndIsS
     const JournalKind *kind = &JournalKind::Diary();
   };
   for (const Case &c : {Case{"pounds", 1, 200, 180, "240"}, Case{"kilograms", 2, 200, 85, "250"},
-                        Case{"90.5 goes to the even", 1, 75, 181, "90"}, Case{"91.5 too", 1, 75, 183, "92"},
+                        Case{"112.5 goes to the even", 1, 75, 225, "112"}, Case{"115.5 too", 1, 77, 225, "116"},
                         Case{"no weight that day", 1, 200, 0, "200"}, Case{"not wanted", 1, 200, 180, "200", false},
                         Case{"planned", 1, 200, 180, "200", true, &JournalKind::Planner()}}) {
     SCOPED_TRACE(c.about);

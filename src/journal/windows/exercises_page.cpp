@@ -12,6 +12,7 @@
 #include "journal/day/activity_columns.h"
 #include "journal/day/day_source.h"
 #include "journal/day/exercise_totals.h"
+#include "journal/day/grid_layout.h"
 #include "journal/day/listed_exercise.h"
 #include "journal/day/net_calories_text.h"
 #include "journal/day/printed_heading.h"
@@ -64,19 +65,19 @@ void ExercisesPage::MakeButtons(PageButtons &buttons) {
   QPushButton *const cmdPrintActivity =
       buttons.AddPrint(QStringLiteral("cmdPrintActivity"), tr("Prints the exercises shown here."));
   buttons.AddStretch();
-  QPushButton *const cmdExerciseSetup =
-      buttons.Add({.name = QStringLiteral("cmdExerciseSetup"),
-                   .caption = tr("E&xercise Setup..."),
-                   .tip = tr("Opens the list of exercises, where you can add your own."),
-                   .art = QStringLiteral("edit")});
   DisableWithout(static_cast<bool>(doors_.AddActivity), *cmdNewActivity);
-  DisableWithout(static_cast<bool>(navigator_.OpenExercises), *cmdExerciseSetup);
   connect(cmdNewActivity, &QPushButton::clicked, this, &ExercisesPage::OnNew);
   connect(cmdDeleteActivity, &QPushButton::clicked, this, [this] {
     grdActivities->DeleteSelected();
     grdActivities->setFocus();
   });
   connect(cmdPrintActivity, &QPushButton::clicked, this, &ExercisesPage::Print);
+  if (day_.Kind().isSmall) return;
+  QPushButton *const cmdExerciseSetup =
+      buttons.Add({.name = QStringLiteral("cmdExerciseSetup"),
+                   .caption = tr("E&xercises..."),
+                   .tip = tr("Opens the list of exercises, where you can add your own.")});
+  DisableWithout(static_cast<bool>(navigator_.OpenExercises), *cmdExerciseSetup);
   connect(cmdExerciseSetup, &QPushButton::clicked, this, [this] {
     if (grdActivities->CommitRow()) navigator_.OpenExercises(window());
   });
@@ -134,12 +135,17 @@ void ExercisesPage::FollowOthers() {
 }
 
 void ExercisesPage::ShowView(JournalView view) {
-  GridColumn date = DateColumn();
-  date.visible = view == JournalView::AllDates;
-  GridColumns columns = ActivityColumns(day_.Kind().isSmall);
-  columns.insert(columns.begin(), date);
-  grdActivities->SetColumns(columns);
+  const bool allDates = view == JournalView::AllDates;
+  const bool small = day_.Kind().isSmall;
+  GridColumns columns = ActivityColumns(small);
+  columns.insert(columns.begin(), DateColumn());
+  columns.front().visible = allDates;
+  const QString layout =
+      allDates ? QStringLiteral("view_all_activities.grd") : QStringLiteral("view_single_activities.grd");
+  if (!small) LoadLayout(session_, layout, columns);
+  grdActivities->SetColumns(std::move(columns));
   grdActivities->SetSpareColumn(exerciseColumn);
+  grdActivities->SetStayingColumn(exerciseColumn);
 }
 
 void ExercisesPage::ShowRows() {
