@@ -1,8 +1,6 @@
 #include <QApplication>
 
 #include "core/windows/controls/theme_style.h"
-#include "platform/windows/fields/plain_labels.h"
-#include "platform/windows/fields/wheel_guard.h"
 #include "platform/windows/machine/font_warmth.h"
 #include "platform/windows/machine/qt_boxes.h"
 #include "platform/windows/machine/qt_machine.h"
@@ -13,12 +11,10 @@ int main(int argc, char **argv) {
   using namespace trimlog;
   const FontWarmth warmth;
   QApplication application(argc, argv);
-  QApplication::setStyle(new ThemeStyle(QApplication::style()->name()));
-  const WheelGuard wheelGuard(&application);
+  QApplication::setStyle(new ThemeStyle);
   QApplication::setApplicationName(QStringLiteral("trimlog"));
   // Only closing the main window ends the program: a sign-in window or a box before it must not.
   QApplication::setQuitOnLastWindowClosed(false);
-  const PlainLabels plainLabels(&application);
   QApplication::setDesktopFileName(QStringLiteral("trimlog"));
 
   const std::unique_ptr<SettingsStore> store = OpenUserSettings();

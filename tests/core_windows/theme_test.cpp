@@ -3,8 +3,12 @@
 #include <gtest/gtest.h>
 
 #include <QApplication>
+#include <QComboBox>
 #include <QDialogButtonBox>
+#include <QHelpEvent>
 #include <QLabel>
+#include <QScopeGuard>
+#include <QToolTip>
 
 #include "core/windows/controls/theme_style.h"
 
@@ -110,6 +114,40 @@ TEST(Theme, ButtonsOfDialogsShowNoPictures) {
   buttons.setStyle(&style);
   buttons.setStandardButtons(QDialogButtonBox::Ok | QDialogButtonBox::Cancel | QDialogButtonBox::Help);
   for (const QAbstractButton *button : buttons.buttons()) EXPECT_TRUE(button->icon().isNull());
+}
+
+// The application's style meets every widget, the tool tip's too, which Qt makes by itself.
+TEST(Theme, ShowsNamesAsTheyStandInLabelsAndToolTips) {
+  QApplication::setStyle(new ThemeStyle);
+  const auto asBefore = qScopeGuard([] { QApplication::setStyle(QStringLiteral("Fusion")); });
+  const QString name = QStringLiteral("<b>Ann</b>");
+  QLabel label(name);
+  label.show();
+  EXPECT_EQ(label.textFormat(), Qt::PlainText);
+  QLabel markup(name);
+  markup.setTextFormat(Qt::RichText);
+  markup.show();
+  EXPECT_EQ(markup.textFormat(), Qt::RichText) << "a label may ask for a format of its own";
+
+  label.setToolTip(name);
+  QHelpEvent help(QEvent::ToolTip, QPoint(1, 1), label.mapToGlobal(QPoint(1, 1)));
+  QApplication::sendEvent(&label, &help);
+  const QLabel *tip = nullptr;
+  for (QWidget *window : QApplication::topLevelWidgets()) {
+    if (window->inherits("QTipLabel")) tip = qobject_cast<QLabel *>(window);
+  }
+  ASSERT_NE(tip, nullptr);
+  EXPECT_EQ(tip->text(), name);
+  EXPECT_EQ(tip->textFormat(), Qt::PlainText);
+  QToolTip::hideText();
+}
+
+TEST(Theme, TheWheelLeavesABoxAloneThatIsScrolledPast) {
+  QApplication::setStyle(new ThemeStyle);
+  const auto asBefore = qScopeGuard([] { QApplication::setStyle(QStringLiteral("Fusion")); });
+  QComboBox box;
+  box.show();
+  EXPECT_EQ(box.focusPolicy(), Qt::StrongFocus) << "the wheel would focus it";
 }
 
 }  // namespace

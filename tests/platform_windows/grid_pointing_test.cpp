@@ -219,13 +219,14 @@ TEST_F(GridPointingTest, APastedTextIsOneLineAndTheSameOnTheCellAndInItsEditor) 
 }
 
 TEST(WheelGuardTest, TheWheelChangesOnlyABoxWithTheFocus) {
-  const WheelGuard guard(qApp);
   QScrollArea window;
   auto *panel = new QWidget;
   auto *layout = new QVBoxLayout(panel);
   auto *first = new QPushButton(QStringLiteral("First"));
   auto *box = new QComboBox;
   box->addItems({QStringLiteral("a"), QStringLiteral("b"), QStringLiteral("c")});
+  WheelGuard guard;
+  guard.Guard(box);
   layout->addWidget(first);
   layout->addWidget(box);
   layout->addSpacing(2000);

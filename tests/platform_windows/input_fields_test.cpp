@@ -2,45 +2,15 @@
 
 #include <QApplication>
 #include <QClipboard>
-#include <QHelpEvent>
-#include <QLabel>
 #include <QTest>
-#include <QToolTip>
 
 #include "platform/windows/fields/date_field.h"
 #include "platform/windows/fields/number_field.h"
-#include "platform/windows/fields/plain_labels.h"
 #include "platform/windows/fields/text_field.h"
 #include "support/locales.h"
 
 namespace trimlog {
 namespace {
-
-TEST(PlainLabels, ShowNamesAsTheyStandInLabelsAndToolTips) {
-  const QString name = QStringLiteral("<b>Ann</b>");
-  QLabel plain(name);
-  const int asItStands = (plain.setTextFormat(Qt::PlainText), plain.sizeHint().width());
-  const PlainLabels guard(qApp);
-  QLabel label(name);
-  label.show();
-  EXPECT_EQ(label.sizeHint().width(), asItStands);
-  QLabel markup(name);
-  markup.setTextFormat(Qt::RichText);
-  markup.show();
-  EXPECT_LT(markup.sizeHint().width(), asItStands) << "a label may ask for a format of its own";
-
-  label.setToolTip(name);
-  QHelpEvent help(QEvent::ToolTip, QPoint(1, 1), label.mapToGlobal(QPoint(1, 1)));
-  QApplication::sendEvent(&label, &help);
-  const QLabel *tip = nullptr;
-  for (QWidget *window : QApplication::topLevelWidgets()) {
-    if (window->inherits("QTipLabel")) tip = qobject_cast<QLabel *>(window);
-  }
-  ASSERT_NE(tip, nullptr);
-  EXPECT_EQ(tip->text(), name);
-  EXPECT_EQ(tip->textFormat(), Qt::PlainText);
-  QToolTip::hideText();
-}
 
 TEST(NumberFieldTest, ReadsWhatAPersonTypes) {
   struct Row {

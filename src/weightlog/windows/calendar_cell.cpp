@@ -171,9 +171,9 @@ void CalendarCellView::Arrange() {
   txtData->setGeometry(fieldPad, line + gap + std::max(0, (room - 2 * gap) / 2), width() - 2 * fieldPad - 1, field);
 }
 
-// A weight of four digits and two decimals is drawn smaller rather than cut.
+// A weight of four digits and two decimals is drawn smaller rather than cut. Measured once the cell has its place.
 void CalendarCellView::FitWeight() {
-  const QFont fitting = FittingFont(weight_, txtData->text(), txtData->width() - fieldMargins);
+  const QFont fitting = isVisible() ? FittingFont(weight_, txtData->text(), txtData->width() - fieldMargins) : weight_;
   if (txtData->font() != fitting) txtData->setFont(fitting);
 }
 
@@ -181,6 +181,8 @@ void CalendarCellView::resizeEvent(QResizeEvent *) {
   Arrange();
   FitWeight();
 }
+
+void CalendarCellView::showEvent(QShowEvent *) { FitWeight(); }
 
 void CalendarCellView::mousePressEvent(QMouseEvent *event) {
   if (event->button() == Qt::LeftButton && txtData->isEnabled()) txtData->setFocus(Qt::MouseFocusReason);

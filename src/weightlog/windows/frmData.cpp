@@ -305,9 +305,9 @@ void frmData::ShowMonthTotal() {
 }
 
 void frmData::AlignMonthTotal() {
-  QFont bold = grid_->TotalsFont();
-  bold.setBold(true);
-  txtTotalMonth->UseFont(bold);
+  QFont strong = grid_->TotalsFont();
+  strong.setWeight(QFont::DemiBold);  // as the weights are
+  txtTotalMonth->UseFont(strong);
   txtTotalMonth->setFixedWidth(grid_->TotalsWidth());
 }
 

@@ -3,6 +3,7 @@
 #include <QApplication>
 #include <QFile>
 #include <QIconEngine>
+#include <QImage>
 #include <QPainter>
 #include <QPixmapCache>
 #include <QResource>
@@ -16,15 +17,27 @@ namespace {
 constexpr int drawnSizes[] = {16, 24, 32, 48, 64, 128};
 
 QString PixelFile(const QString &name, const QString &suffix) {
-  return QStringLiteral(":/art/%1_%2.png").arg(name, suffix);
+  return QStringLiteral(":/art/%1_%2.raw").arg(name, suffix);
 }
 
-/// Reads one picture when it is first painted. The format is named outright: guessing it would load every image plugin
-/// of the machine.
-QPixmap ReadPicture(const QString &file) {
+/// Bare pixels. A coded picture would make the first one that is shown look through the machine's image plugins.
+QPixmap ReadPixels(const QString &file, const QSize &size, QImage::Format format) {
+  const QResource resource(file);
+  const bool asItLies = resource.compressionAlgorithm() == QResource::NoCompression;
+  const QByteArray unpacked = asItLies ? QByteArray() : resource.uncompressedData();
+  if ((asItLies ? resource.size() : unpacked.size()) != qint64{size.width()} * size.height() * 4) return {};
+  const auto *pixels = asItLies ? resource.data() : reinterpret_cast<const uchar *>(unpacked.constData());
+  // A picture may point at what stays where it is; what was unpacked goes, so that the pixmap needs its own.
+  const QImage image(pixels, size.width(), size.height(), format);
+  return QPixmap::fromImage(asItLies ? image : image.copy());
+}
+
+/// Reads an icon when it is first painted.
+QPixmap ReadIcon(const QString &name, int side) {
+  const QString file = PixelFile(name, QString::number(side));
   QPixmap pixmap;
   if (QPixmapCache::find(file, &pixmap)) return pixmap;
-  pixmap.load(file, "PNG");
+  pixmap = ReadPixels(file, {side, side}, QImage::Format_ARGB32_Premultiplied);
   QPixmapCache::insert(file, pixmap);
   return pixmap;
 }
@@ -43,7 +56,7 @@ class ArtEngine final : public QIconEngine {
     const int side = std::min(size.width(), size.height());
     const int *fitting = std::lower_bound(std::begin(drawnSizes), std::end(drawnSizes), side);
     if (fitting == std::end(drawnSizes)) --fitting;
-    QPixmap picture = ReadPicture(PixelFile(name_, QString::number(*fitting)));
+    QPixmap picture = ReadIcon(name_, *fitting);
     if (*fitting != side && !picture.isNull()) {
       picture = picture.scaled(side, side, Qt::KeepAspectRatio, Qt::SmoothTransformation);
     }
@@ -70,17 +83,11 @@ class ArtEngine final : public QIconEngine {
 QIcon ArtIcon(const QString &name) { return QIcon(new ArtEngine(name)); }
 
 QPixmap SplashPicture(qreal devicePixelRatio) {
-  if (devicePixelRatio > 1) {
-    QPixmap fine = ReadPicture(PixelFile(QStringLiteral("splash"), QStringLiteral("2x")));
-    fine.setDevicePixelRatio(2);
-    return fine;
-  }
-  // Bare pixels, painted from where they lie in the program.
-  const QResource pixels(QStringLiteral(":/art/splash_1x.raw"));
-  constexpr int width = 480;
-  constexpr int height = 270;
-  if (pixels.size() != qint64{width} * height * 4) return {};
-  return QPixmap::fromImage(QImage(pixels.data(), width, height, QImage::Format_RGB32));
+  const int scale = devicePixelRatio > 1 ? 2 : 1;
+  const QString file = PixelFile(QStringLiteral("splash"), QStringLiteral("%1x").arg(scale));
+  QPixmap picture = ReadPixels(file, QSize(480, 270) * scale, QImage::Format_RGB32);
+  picture.setDevicePixelRatio(scale);
+  return picture;
 }
 
 }  // namespace trimlog

@@ -38,13 +38,19 @@ void FigureField::UseFont(const QFont &font) {
   Fit();
 }
 
+// Before it is shown it has no width to go by, and every size tried on the way down would load a font.
 void FigureField::Fit() {
-  const QFont fitting = FittingFont(roomy_, text(), width() - ownMargins);
+  const QFont fitting = isVisible() ? FittingFont(roomy_, text(), width() - ownMargins) : roomy_;
   if (fitting != font()) setFont(fitting);
 }
 
 void FigureField::resizeEvent(QResizeEvent *event) {
   QLineEdit::resizeEvent(event);
+  Fit();
+}
+
+void FigureField::showEvent(QShowEvent *event) {
+  QLineEdit::showEvent(event);
   Fit();
 }
 

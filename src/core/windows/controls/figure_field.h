@@ -17,6 +17,7 @@ class FigureField : public QLineEdit {
 
  protected:
   void resizeEvent(QResizeEvent *event) override;
+  void showEvent(QShowEvent *event) override;
 
  private:
   void Fit();

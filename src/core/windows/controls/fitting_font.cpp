@@ -14,7 +14,7 @@ constexpr double shrinkStep = 0.25;    ///< points
 
 QFont FittingFont(const QFont &font, const QString &text, int width) {
   QFont fitting = font;
-  if (QFontMetrics(fitting).horizontalAdvance(text) <= width) return fitting;
+  if (text.isEmpty() || QFontMetrics(fitting).horizontalAdvance(text) <= width) return fitting;
   double size = QFontInfo(fitting).pointSizeF();
   const double least = size * smallestShare;
   // Step by step: widths are rounded to whole pixels and do not shrink in proportion.

@@ -21,13 +21,16 @@ namespace {
 
 constexpr int splashMilliseconds = 3000;
 
-QLabel *AddText(QBoxLayout *layout, const QString &name, const QString &text, bool bold) {
+QLabel *AddText(QBoxLayout *layout, const QString &name, const QString &text, bool strong) {
   auto *label = new QLabel(text, layout->parentWidget());
   label->setObjectName(name);
   label->setTextFormat(Qt::PlainText);
-  QFont font = label->font();
-  font.setBold(bold);
-  label->setFont(font);
+  if (strong) {
+    QFont font = label->font();
+    font.setWeight(
+        QFont::DemiBold);  // as the figures of the main window, so that no font is loaded for the splash alone
+    label->setFont(font);
+  }
   layout->addWidget(label);
   return label;
 }

@@ -6,21 +6,16 @@
 
 namespace trimlog {
 
-WheelGuard::WheelGuard(QObject *watched) : QObject(watched) { watched->installEventFilter(this); }
+void WheelGuard::Guard(QWidget *widget) {
+  if (!qobject_cast<QComboBox *>(widget) && !qobject_cast<QAbstractSpinBox *>(widget)) return;
+  // Or the wheel itself would focus it.
+  if (widget->focusPolicy() == Qt::WheelFocus) widget->setFocusPolicy(Qt::StrongFocus);
+  widget->installEventFilter(this);
+}
 
+// What stands in a box, an editor of its text, hands the wheel on to it.
 bool WheelGuard::eventFilter(QObject *watched, QEvent *event) {
-  if (event->type() != QEvent::Wheel && event->type() != QEvent::Polish) return false;
-  auto *box = qobject_cast<QWidget *>(watched);
-  while (box && !qobject_cast<QComboBox *>(box) && !qobject_cast<QAbstractSpinBox *>(box)) {
-    box = box->isWindow() ? nullptr : box->parentWidget();
-  }
-  if (!box) return false;
-  if (event->type() == QEvent::Polish) {
-    if (box->focusPolicy() == Qt::WheelFocus)
-      box->setFocusPolicy(Qt::StrongFocus);  // or the wheel itself would focus it
-    return false;
-  }
-  if (box->hasFocus()) return false;
+  if (event->type() != QEvent::Wheel || static_cast<QWidget *>(watched)->hasFocus()) return false;
   event->ignore();  // goes on to the box's parent
   return true;
 }
