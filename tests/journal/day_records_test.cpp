@@ -91,7 +91,7 @@ TEST_F(DayRecords, EveryWriterTellsWhatItDid) {
   expect(Table::Measurements, {1}, day);
   SaveNote(*session, 1, QStringLiteral("other"));
   expect(Table::Notes, {1}, {});
-  SaveMeasurement(*session, 1, bodyFatField, 21);
+  SaveMeasurements(*session, 1, {{bodyFatField, 21}});
   expect(Table::Measurements, {1}, {});
   DeleteDayRecords(*session, Table::Meals, {1});
   expect(Table::Meals, {1}, {});
@@ -108,8 +108,7 @@ TEST_F(DayRecords, ANoteAndASetOfMeasurementsOfTheDayAreFoundAndChangedAlone) {
 
   const int sizes = AddMeasurements(*session, day, {40, 36, 41, 13, 11, 23, 15, 22.5});
   AddMeasurements(*session, day.addDays(1), {});
-  SaveMeasurement(*session, sizes, waistField, 35.5);
-  SaveMeasurement(*session, sizes, 0, std::nullopt);
+  SaveMeasurements(*session, sizes, {{waistField, 35.5}, {0, std::nullopt}});
   const auto stored = ReadMeasurements(*session, MeasurementsOn(*session, day).value());
   EXPECT_EQ(stored, (PerMeasurement<std::optional<double>>{std::nullopt, 35.5, 41, 13, 11, 23, 15, 22.5}));
   session->profile.CurrentPersonID = QStringLiteral("2");

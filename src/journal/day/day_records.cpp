@@ -101,10 +101,10 @@ int AddNote(Session &session, const QDate &date, const QString &text) {
                       {{QStringLiteral("ThisDate"), date}, {QStringLiteral("Notes"), text}});
 }
 
-int AddMeasurements(Session &session, const QDate &date, const PerMeasurement<double> &values) {
+int AddMeasurements(Session &session, const QDate &date, const PerMeasurement<std::optional<double>> &values) {
   QVariantMap fields = {{QStringLiteral("ThisDate"), date}};
   for (std::size_t i = 0; i < measurementFields.size(); ++i) {
-    fields[QLatin1StringView(measurementFields[i].column)] = values[i];
+    fields[QLatin1StringView(measurementFields[i].column)] = ValueOf(values[i]);
   }
   return InsertRecord(session, Table::Measurements, EntryKind::Eaten, fields);
 }
@@ -133,9 +133,12 @@ PerMeasurement<std::optional<double>> ReadMeasurements(const Session &session, i
   return values;
 }
 
-void SaveMeasurement(Session &session, int recordID, std::size_t field, std::optional<double> value) {
-  SaveFields(session, Table::Measurements, recordID,
-             {{QLatin1StringView(measurementFields.at(field).column), ValueOf(value)}});
+void SaveMeasurements(Session &session, int recordID, const std::map<std::size_t, std::optional<double>> &values) {
+  QVariantMap fields;
+  for (const auto &[field, value] : values) {
+    fields[QLatin1StringView(measurementFields.at(field).column)] = ValueOf(value);
+  }
+  SaveFields(session, Table::Measurements, recordID, fields);
 }
 
 void DeleteDayRecords(Session &session, Table table, const std::vector<qint64> &recordIDs) {

@@ -4,6 +4,7 @@
 #include <QList>
 #include <QString>
 #include <QVariantMap>
+#include <map>
 #include <optional>
 #include <vector>
 
@@ -44,7 +45,7 @@ struct ActivityEntry {
 int AddActivity(Session &session, EntryKind entries, const ActivityEntry &entry);
 
 int AddNote(Session &session, const QDate &date, const QString &text);
-int AddMeasurements(Session &session, const QDate &date, const PerMeasurement<double> &values);
+int AddMeasurements(Session &session, const QDate &date, const PerMeasurement<std::optional<double>> &values);
 
 /// A day has at most one note and one set of measurements: the key of it.
 std::optional<int> NoteOn(const Session &session, const QDate &date);
@@ -54,7 +55,8 @@ QString NoteText(const Session &session, int recordID);
 void SaveNote(Session &session, int recordID, const QString &text);
 /// The stored sizes; a blank one has no value.
 PerMeasurement<std::optional<double>> ReadMeasurements(const Session &session, int recordID);
-void SaveMeasurement(Session &session, int recordID, std::size_t field, std::optional<double> value);
+/// Changes some of them, by field.
+void SaveMeasurements(Session &session, int recordID, const std::map<std::size_t, std::optional<double>> &values);
 
 /// Deletes records of a day by key.
 void DeleteDayRecords(Session &session, Table table, const std::vector<qint64> &recordIDs);

@@ -1,5 +1,7 @@
 #include "journal/day/water.h"
 
+#include <optional>
+
 #include "core/data/data_access.h"
 #include "core/session/change.h"
 #include "platform/store/recordset.h"
@@ -12,22 +14,29 @@ namespace {
 /// More than anybody drinks; a typing slip beyond it must not lose its digits in the column.
 constexpr double mostGlasses = 9999;
 
-}  // namespace
-
-WaterRecord LoadWaterRecord(Session &session, const QDate &date, const QDate &dateShown) {
-  const int person = session.profile.CurrentPersonID.toInt();
+std::optional<WaterRecord> WaterOn(Session &session, const QDate &date) {
   const Recordset row = session.Data().OpenRecordset(
       QStringLiteral("SELECT other_daily_data.RecordID, other_daily_data.WaterConsumed FROM other_daily_data WHERE "
                      "((PersonID=?) AND (ThisDate = ?)) ORDER BY other_daily_data.RecordID;"),
-      {person, date});
-  if (!row.Eof()) return {row.Integer(QStringLiteral("RecordID")), row.Number(QStringLiteral("WaterConsumed"))};
+      {session.profile.CurrentPersonID.toInt(), date});
+  if (row.Eof()) return std::nullopt;
+  return WaterRecord{row.Integer(QStringLiteral("RecordID")), row.Number(QStringLiteral("WaterConsumed")), date};
+}
+
+}  // namespace
+
+WaterRecord LoadWaterRecord(Session &session, const QDate &date, const QDate &dateShown) {
+  std::optional<WaterRecord> found = WaterOn(session, date);
+  if (!found && date != dateShown) found = WaterOn(session, dateShown);
+  if (found) return *found;
 
   Transaction transaction(session.Data());
   const WaterRecord empty{
-      GetNextID(session.Data(), QStringLiteral("other_daily_data"), session.profile.CurrentPersonID).toInt()};
+      GetNextID(session.Data(), QStringLiteral("other_daily_data"), session.profile.CurrentPersonID).toInt(), 0,
+      dateShown};
   session.Data().Execute(QStringLiteral("INSERT INTO other_daily_data ( PersonID, RecordID, ThisDate, WaterConsumed ) "
                                         "SELECT ? AS Expr1, ? AS Expr2, ? AS Expr3, 0 AS Expr4;"),
-                         {person, empty.RecordID, dateShown});
+                         {session.profile.CurrentPersonID.toInt(), empty.RecordID, dateShown});
   transaction.Commit();
   return empty;
 }

@@ -12,10 +12,12 @@ class Session;
 struct WaterRecord {
   int RecordID = 0;
   double WaterConsumed = 0;  ///< glasses, never below 0
+  QDate ThisDate = {};       ///< the day that they belong to
 };
 
 /// The water of a day. A day without a row gets an empty one, so that visiting a day is enough to have it: one
-/// transaction. The new row stands on `dateShown`, also where the day looked for is that of another row in the list.
+/// transaction. The row then given stands on `dateShown`, also where the day looked for is that of another row in the
+/// list; it is a new one only where that day has none.
 WaterRecord LoadWaterRecord(Session &session, const QDate &date, const QDate &dateShown);
 
 /// Stores a day's glasses. One transaction.

@@ -3,6 +3,7 @@
 #include "core/session/failure_guard.h"
 #include "core/windows/controls/grid_dates.h"
 #include "core/windows/controls/grid_follow.h"
+#include "core/windows/controls/refused_row.h"
 #include "journal/day/day_records.h"
 #include "journal/windows/row_colours.h"
 #include "platform/windows/grid/bound_grid.h"
@@ -14,21 +15,12 @@ namespace {
 /// What stands for "no date" in files of earlier releases; nobody has a day there.
 const QDate zeroDate(1899, 12, 30);
 
+const QString dayModule = QStringLiteral("basDiaryFunctions");
+
 FailureExit DayGridFailure(GridAction action, const QString &grid) {
-  const QString module = QStringLiteral("basDiaryFunctions");
-  switch (action) {
-    case GridAction::Load:
-      return {module, grid + QStringLiteral("_Load"), QStringLiteral("Error Loading Journal"),
-              QStringLiteral("An error occurred while loading your journal.")};
-    case GridAction::Save:
-      return {module, grid + QStringLiteral("_AfterUpdate"), QStringLiteral("Error Saving Journal"),
-              QStringLiteral("An error occurred while saving your journal.  "), true};
-    case GridAction::Delete:
-      return {module, grid + QStringLiteral("_Delete"), QStringLiteral("Error Deleting From Journal"),
-              QStringLiteral("An error occurred while deleting from your journal.  "), true};
-    case GridAction::Paste:
-      break;
-  }
+  if (action == GridAction::Load) return LoadDayFailure(grid);
+  if (action == GridAction::Save) return SaveDayFailure(grid);
+  if (action == GridAction::Delete) return DeleteDayFailure(grid);
   return {QStringLiteral("basMain"), QStringLiteral("PasteGridRow"), QStringLiteral("Unable to Paste Rows"),
           QStringLiteral("An error occurred while pasting into your journal.  "), true};
 }
@@ -79,6 +71,43 @@ void FollowCurrentRow(BoundGrid &grid, JournalDay &day) {
     // A hidden list follows what others change, and means nothing by it.
     if (grid.isVisible()) day.FollowRow(grid.CurrentField(QStringLiteral("ThisDate")).toDate());
   });
+}
+
+EditOutcome SaveDayGrid(Session &session, BoundGrid &grid) {
+  if (grid.CommitRow()) return EditOutcome::Saved;
+  const bool refused = !grid.Model().RefusalOfRow().isEmpty();
+  ShowRefusedRow(session, QStringLiteral("Invalid Entry"), grid);
+  return refused ? EditOutcome::Refused : EditOutcome::Failed;
+}
+
+void DropDayGrid(BoundGrid &grid) {
+  grid.CloseOpenEditor(false);
+  grid.UndoRow();
+}
+
+bool GoToAddedRow(Session &session, BoundGrid &grid, int recordID, const QString &column) {
+  if (!grid.GoToKey(recordID)) {
+    LogError(session, QStringLiteral("basMain"), QStringLiteral("AddRec"),
+             QStringLiteral("Unable to find a match for criteria: RecordID=%1").arg(recordID));
+    return false;
+  }
+  grid.setCurrentIndex(grid.currentIndex().siblingAtColumn(grid.Model().ColumnByName(column)));
+  return true;
+}
+
+FailureExit LoadDayFailure(const QString &control) {
+  return {dayModule, control + QStringLiteral("_Load"), QStringLiteral("Error Loading Journal"),
+          QStringLiteral("An error occurred while loading your journal.")};
+}
+
+FailureExit SaveDayFailure(const QString &control) {
+  return {dayModule, control + QStringLiteral("_AfterUpdate"), QStringLiteral("Error Saving Journal"),
+          QStringLiteral("An error occurred while saving your journal.  "), true};
+}
+
+FailureExit DeleteDayFailure(const QString &control) {
+  return {dayModule, control + QStringLiteral("_Delete"), QStringLiteral("Error Deleting From Journal"),
+          QStringLiteral("An error occurred while deleting from your journal.  "), true};
 }
 
 GridColumn DateColumn() {
