@@ -1,5 +1,7 @@
 #include "journal/windows/add_note_page.h"
 
+#include <QGridLayout>
+#include <QLabel>
 #include <QPlainTextEdit>
 
 #include "journal/day/day_records.h"
@@ -26,7 +28,8 @@ AddNotePage::AddNotePage(Session &session, const QDate &proposed, bool isDateFix
   txtAddRecNotes->setAccessibleName(QStringLiteral("Note"));
   txtAddRecNotes->setTabChangesFocus(true);
   txtAddRecNotes->setMinimumSize(fontMetrics().averageCharWidth() * 60, fontMetrics().lineSpacing() * 7);
-  AddFormRow(form, QStringLiteral("&Note:"), txtAddRecNotes, {txtAddRecNotes});
+  QLabel *caption = AddFormRow(form, QStringLiteral("&Note:"), txtAddRecNotes, {txtAddRecNotes});
+  form->setAlignment(caption, Qt::AlignTop);
   setFocusProxy(txtAddRecNotes);
 }
 

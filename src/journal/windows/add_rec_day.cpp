@@ -6,6 +6,7 @@
 #include "core/session/failure_guard.h"
 #include "core/windows/controls/show_calendar.h"
 #include "platform/windows/controls/form_rows.h"
+#include "platform/windows/controls/named_controls.h"
 #include "platform/windows/fields/date_field.h"
 
 namespace trimlog {
@@ -14,6 +15,7 @@ DateField *AddDayField(Session &session, QGridLayout *form, int kind, const QDat
                        QWidget *page) {
   auto *field =
       new DateField(QStringLiteral("txtAddRecDate%1").arg(kind), QStringLiteral("Date"), session.locale, page);
+  field->setFixedWidth(FieldWidth(field, 14));
   field->SetDate(proposed);
   QAbstractButton *button = AttachCalendar(session, *field, QStringLiteral("cmdAddRecDate%1").arg(kind));
   field->setEnabled(!isFixed);

@@ -127,7 +127,8 @@ BodyShape FemaleShape() {
                     {{9.8, 197}, 4.8}});
   // The hair falls to the shoulders, behind the face.
   shape.outline =
-      Ellipse({0, 16}, 8.6, 11.4).united(BothSides({{4.5, 2.6}, {10, 7}, {11, 17}, {11.8, 27}, {8.6, 32}, {4, 30}}));
+      Ellipse({0, 16}, 8.6, 11.4)
+          .united(BothSides({{3.5, 2.4}, {8.6, 5.6}, {10.6, 13}, {10.6, 21}, {11.6, 27.5}, {9.4, 31}, {4, 29}}));
   return shape;
 }
 
@@ -179,7 +180,8 @@ BodyShape MakeBodyShape(bool male) {
 QRectF BodyShapeBounds() { return {-42, 0, 84, 206}; }
 
 QPainterPath MeasuredBand(const BodyShape &shape, bool male, std::size_t field) {
-  if (field == bodyFatField) return shape.torso;
+  // Where it gathers first.
+  if (field == bodyFatField) return Ellipse({0, 82}, 40, 24).intersected(shape.torso);
   constexpr std::size_t firstOfArm = 3;
   constexpr std::size_t firstOfLeg = 5;
   const QPainterPath around = field >= firstOfLeg   ? shape.leg

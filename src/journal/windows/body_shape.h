@@ -17,7 +17,7 @@ BodyShape MakeBodyShape(bool male);
 /// The room that either figure stands in.
 QRectF BodyShapeBounds();
 
-/// Where a tape lies for a measurement (an index of measurementFields); the body fat marks the whole torso.
+/// Where a tape lies for a measurement (an index of measurementFields); the body fat marks the belly.
 QPainterPath MeasuredBand(const BodyShape &shape, bool male, std::size_t field);
 
 }  // namespace trimlog

@@ -115,7 +115,7 @@ GridColumn DateColumn() {
           .caption = QStringLiteral("Date"),
           .field = QStringLiteral("ThisDate"),
           .type = GridType::Date,
-          .width = 11,
+          .width = 13,
           .editable = true,
           .mend = MendWithFormer(),
           .validate = [](const Value &value) {

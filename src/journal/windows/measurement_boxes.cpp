@@ -93,7 +93,7 @@ void MeasurementBoxes::FollowBodyFatSetting() { chkBodyFat->setChecked(session_.
 
 void MeasurementBoxes::LayOutRows() {
   auto *layout = new QVBoxLayout(this);
-  layout->setContentsMargins({});
+  layout->setContentsMargins(0, 6, 0, 0);
   auto *rows = new QGridLayout;
   rows->setHorizontalSpacing(10);
   rows->setVerticalSpacing(6);
