@@ -121,6 +121,7 @@ void MeasurementsPage::MakeGrid(QWidget *parent) {
     if (column == QLatin1String(measurementFields[waistField].column)) BodyFatFollowsWaist(row);
   };
   (new GridMenu(session_, navigator_, this))->Attach(*grdMeasurements);
+  FollowCurrentRow(*grdMeasurements, day_);
   connect(grdMeasurements, &BoundGrid::CurrentRowChanged, this, &MeasurementsPage::OnRowChanged);
   GridModel &model = grdMeasurements->Model();
   connect(&model, &QAbstractItemModel::dataChanged, this, [this] { totals_->ShowTotals(); });
@@ -143,7 +144,6 @@ void MeasurementsPage::BodyFatFollowsWaist(GridRowEdit &row) {
 
 void MeasurementsPage::OnRowChanged() {
   totals_->ShowTotals();
-  day_.FollowRow(grdMeasurements->CurrentField(dateField).toDate());
   Q_EMIT RowDateChanged();
 }
 

@@ -108,8 +108,7 @@ void NotesPage::MakeGrid(QWidget *parent) {
   grdNotes->SetPlaceholderText(QStringLiteral("No notes yet. \"New...\" writes one."));
   grdNotes->Hooks().beforeUpdate = [this](GridRowEdit &row) { return RefuseSecondNote(session_, row); };
   (new GridMenu(session_, navigator_, this))->Attach(*grdNotes);
-  connect(grdNotes, &BoundGrid::CurrentRowChanged, this,
-          [this] { day_.FollowRow(grdNotes->CurrentField(QStringLiteral("ThisDate")).toDate()); });
+  FollowCurrentRow(*grdNotes, day_);
   for (const auto rowsChange : {&QAbstractItemModel::rowsInserted, &QAbstractItemModel::rowsRemoved}) {
     connect(&grdNotes->Model(), rowsChange, this, &NotesPage::UpdateButtons);
   }
