@@ -3,6 +3,7 @@
 #include <QApplication>
 #include <QFile>
 
+#include "catalogs/windows/frmAddActivity.h"
 #include "catalogs/windows/frmSelectedNutrients.h"
 #include "catalogs/windows/frmSetupFoods.h"
 #include "companions/windows/frmWizard.h"
@@ -43,6 +44,9 @@ void Program::FillNavigator() {
   navigator_.OpenTools = [this](ToolsPanel panel) { OpenTools(session_, navigator_, panel, frame_.get()); };
   navigator_.OpenFoodSetup = [this](QWidget *owner) {
     frmSetupFoods(session_, navigator_, owner ? owner : frame_.get()).exec();
+  };
+  journalDoors_.AddActivity = [this](QWidget *owner, const EntryOpening &opening) {
+    frmAddActivity(session_, navigator_, opening, owner ? owner : frame_.get()).exec();
   };
   navigator_.OpenNutrientSelection = [this](QWidget *owner) {
     trimlog::OpenNutrientSelection(session_, navigator_, owner ? owner : frame_.get());

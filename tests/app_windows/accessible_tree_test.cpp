@@ -7,6 +7,8 @@
 #include <QComboBox>
 #include <QLabel>
 
+#include "catalogs/windows/exercise_page.h"
+#include "catalogs/windows/frmAddActivity.h"
 #include "catalogs/windows/frmDailyValues.h"
 #include "catalogs/windows/frmSelectedNutrients.h"
 #include "catalogs/windows/frmSetupFoods.h"
@@ -114,6 +116,17 @@ const Room rooms[] = {
     {"frmSetupFoods",
      [](House &house) -> std::unique_ptr<QWidget> {
        return std::make_unique<frmSetupFoods>(*house.session, house.navigator, nullptr);
+     }},
+    {"frmAddActivity",
+     [](House &house) -> std::unique_ptr<QWidget> {
+       const EntryOpening opening{.kind = JournalKind::Diary(), .date = QDate(2026, 2, 1)};
+       return std::make_unique<frmAddActivity>(*house.session, house.navigator, opening, nullptr);
+     }},
+    {"frmAddRec, exercise",
+     [](House &house) -> std::unique_ptr<QWidget> {
+       auto dialog = std::make_unique<frmAddRec>(nullptr);
+       dialog->SetPage(new ExercisePage(*house.session, dialog.get()));
+       return dialog;
      }},
     {"frmSelectedNutrients",
      [](House &house) -> std::unique_ptr<QWidget> {

@@ -30,6 +30,8 @@ constexpr TopicOfClass topics[] = {
     {"frmDailyValues", "foods#daily-values"},
     {"frmConfirmMealUpdates", "options#journal"},
     {"FoodPage", "foods#new-food"},
+    {"frmAddActivity", "add_exercise"},
+    {"ExercisePage", "add_exercise#new"},
 
     {"frmSetup", "options"},
     {"SetupProfilesPage", "options#profiles"},

@@ -108,14 +108,25 @@ bool GridKeyboard::IsLooking() const {
          QDateTime::currentMSecsSinceEpoch() - typedAheadAt_ <= QApplication::keyboardInputInterval();
 }
 
+// Rows may first stand by a kind that no column shows: within it the first that is seen orders them.
+QString GridKeyboard::SortedField() const {
+  const QList<GridOrder> &order = grid_.Model().Source().order;
+  for (const GridOrder &term : order) {
+    for (const GridColumn &column : grid_.Model().Columns()) {
+      if (column.visible && ShownField(column) == term.field) return term.field;
+    }
+  }
+  return order.isEmpty() ? QString() : order.first().field;
+}
+
 void GridKeyboard::LookFor(const QString &letters) {
   if (!IsLooking()) typedAhead_.clear();
   typedAheadAt_ = QDateTime::currentMSecsSinceEpoch();
   typedAhead_ += letters;
-  const QList<GridOrder> &order = grid_.Model().Source().order;
-  if (order.isEmpty() || !grid_.Model().IsOpen()) return;
+  const QString sorted = grid_.Model().IsOpen() ? SortedField() : QString();
+  if (sorted.isEmpty()) return;
   RunGuarded(grid_.Model(), GridAction::Load, [&] {
-    const int row = grid_.Model().FindPrefix(order.first().field, typedAhead_);
+    const int row = grid_.Model().FindPrefix(sorted, typedAhead_);
     if (const std::optional<qint64> key = grid_.Model().KeyOfRow(row)) grid_.GoToKey(*key);
   });
 }

@@ -27,6 +27,7 @@ class GridKeyboard {
   bool TakeBack();
   bool Delete();
   bool IsLooking() const;
+  QString SortedField() const;  ///< the first of the order that is seen; "" where nothing is sorted
 
   BoundGrid &grid_;
   QString typedAhead_;
