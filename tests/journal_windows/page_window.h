@@ -1,6 +1,7 @@
 #pragma once
 
 #include <QApplication>
+#include <QPushButton>
 #include <QVBoxLayout>
 #include <memory>
 
@@ -19,6 +20,7 @@ class PageWindow : public QWidget {
       : day(session, kind, date), page(new Page({session, navigator, doors, day}, this)) {
     auto *layout = new QVBoxLayout(this);
     layout->addWidget(page);
+    layout->addWidget(elsewhere);
     day.mayLeave = [this] { return page->SaveOpenEdit() == EditOutcome::Saved; };
     resize(760, 440);
     show();
@@ -29,10 +31,18 @@ class PageWindow : public QWidget {
     return Find<Control>(*this, QString::fromLatin1(name));
   }
 
+  void Click(const char *name) { QTest::mouseClick(&Get<QWidget>(name), Qt::LeftButton); }
+  /// The focus leaves what has it, as with Tab to a button elsewhere.
+  void Leave() {
+    elsewhere->setFocus(Qt::TabFocusReason);
+    QApplication::processEvents();
+  }
+
   Navigator navigator;
   JournalDoors doors;
   JournalDay day;
   Page *page;
+  QPushButton *elsewhere = new QPushButton(QStringLiteral("elsewhere"), this);
 };
 
 }  // namespace trimlog

@@ -14,7 +14,10 @@ class RecordingPrinting final : public Printing {
     lists.push_back(list);
     return Take(QStringLiteral("list ") + list.heading);
   }
-  bool PrintText(const PrintedText &text) override { return Take(QStringLiteral("text ") + text.title); }
+  bool PrintText(const PrintedText &text) override {
+    texts.push_back(text);
+    return Take(QStringLiteral("text ") + text.title);
+  }
   bool PrintPicture(QWidget &form) override {
     if (onPicture) onPicture(form);
     return Take(QStringLiteral("picture"));
@@ -22,6 +25,7 @@ class RecordingPrinting final : public Printing {
 
   QStringList printed;
   std::vector<PrintedList> lists;
+  std::vector<PrintedText> texts;
   std::function<void(QWidget &form)> onPicture;  ///< sees a window as it would stand on the page
   bool broken = false;
 

@@ -25,8 +25,7 @@ DayNote ReadDayNote(const Session &session, const QDate &date) {
   return {recordID, recordID ? NoteText(session, *recordID) : QString()};
 }
 
-DayNote StoreDayNote(Session &session, const QDate &date, const DayNote &shown, const QString &typed) {
-  const QString text = WithLineEndsOf(shown.text, typed);
+DayNote StoreDayNote(Session &session, const QDate &date, const DayNote &shown, const QString &text) {
   Change change(session);
   std::optional<int> recordID = shown.RecordID;
   if (!recordID || !NoteExists(session, *recordID)) recordID = NoteOn(session, date);
@@ -37,11 +36,6 @@ DayNote StoreDayNote(Session &session, const QDate &date, const DayNote &shown, 
   }
   change.Commit();
   return {recordID, text};
-}
-
-QString WithLineEndsOf(const QString &stored, QString typed) {
-  const QString carriageReturn = QStringLiteral("\r\n");
-  return stored.contains(carriageReturn) ? typed.replace(QLatin1Char('\n'), carriageReturn) : typed;
 }
 
 PrintedText NotesToPrint(const Session &session, const GridSource &source, const QDate &singleDate) {

@@ -18,12 +18,9 @@ struct DayNote {
 };
 DayNote ReadDayNote(const Session &session, const QDate &date);
 
-/// Stores what was typed into the note shown. A note that somebody deleted meanwhile is made anew for the day: what was
+/// Stores a text into the note shown. A note that somebody deleted meanwhile is made anew for the day: what was
 /// typed is never lost. One transaction.
-DayNote StoreDayNote(Session &session, const QDate &date, const DayNote &shown, const QString &typed);
-
-/// A text box knows only one kind of line end: gives typed text the line ends that the stored one has.
-QString WithLineEndsOf(const QString &stored, QString typed);
+DayNote StoreDayNote(Session &session, const QDate &date, const DayNote &shown, const QString &text);
 
 /// The notes of a list, in its order, as a text to print; among several each begins with its day.
 PrintedText NotesToPrint(const Session &session, const GridSource &source, const QDate &singleDate);

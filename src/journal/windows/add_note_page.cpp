@@ -6,9 +6,9 @@
 
 #include "journal/day/day_records.h"
 #include "journal/windows/add_rec_day.h"
-#include "journal/windows/note_box.h"
 #include "platform/windows/controls/form_rows.h"
 #include "platform/windows/fields/date_field.h"
+#include "platform/windows/fields/memo_text.h"
 
 namespace trimlog {
 
@@ -48,7 +48,7 @@ bool AddNotePage::Store() {
   };
   return GuardedAddRec(session_, 3, [&] {
     if (!CheckDay(session_, *txtAddRecDate3, check)) return false;
-    recordID_ = AddNote(session_, txtAddRecDate3->Date(), TextOf(*txtAddRecNotes));
+    recordID_ = AddNote(session_, txtAddRecDate3->Date(), MemoText(*txtAddRecNotes));
     return true;
   });
 }

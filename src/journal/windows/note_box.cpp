@@ -1,11 +1,11 @@
 #include "journal/windows/note_box.h"
 
 #include <QFocusEvent>
-#include <QTextDocument>
 #include <chrono>
 
 #include "core/session/session.h"
 #include "journal/windows/day_grid.h"
+#include "platform/windows/fields/memo_text.h"
 
 namespace trimlog {
 
@@ -15,12 +15,6 @@ namespace {
 constexpr std::chrono::milliseconds typingPause{1500};
 
 }  // namespace
-
-// Not toPlainText(), which makes a common blank of each one that does not break.
-QString TextOf(const QPlainTextEdit &box) {
-  QString text = box.document()->toRawText();
-  return text.replace(QChar::ParagraphSeparator, QLatin1Char('\n')).replace(QChar::LineSeparator, QLatin1Char('\n'));
-}
 
 NoteBox::NoteBox(Session &session, QWidget *parent) : QPlainTextEdit(parent), session_(session) {
   setObjectName(QStringLiteral("txtNotes"));
@@ -42,7 +36,8 @@ NoteBox::NoteBox(Session &session, QWidget *parent) : QPlainTextEdit(parent), se
 // A box that goes down without having been left, whatever closed its window.
 NoteBox::~NoteBox() {
   const bool samePerson = person_ == session_.profile.CurrentPersonID;
-  if (IsTyping() && samePerson) GuardedQuietly([this] { StoreDayNote(session_, date_, note_, TextOf(*this)); });
+  if (IsTyping() && samePerson)
+    GuardedQuietly([this] { StoreDayNote(session_, date_, note_, MemoText(*this, note_.text)); });
 }
 
 bool NoteBox::IsTyping() const { return HasNote() && document()->isModified(); }
@@ -64,10 +59,9 @@ void NoteBox::Read() {
 
 void NoteBox::Show(const DayNote &note) {
   const bool comesOrGoes = HasNote() != note.RecordID.has_value();
-  // The same text again must not move the cursor or forget what can be undone.
-  const bool same = note_.RecordID == note.RecordID && note_.text == note.text && !document()->isModified();
   note_ = note;
-  if (!same) setPlainText(note.text);
+  // The same text again must not move the cursor or forget what can be undone.
+  if (MemoText(*this, note.text) != note.text) setPlainText(note.text);
   document()->setModified(false);
   failed_ = false;
   pause_.stop();
@@ -79,13 +73,13 @@ EditOutcome NoteBox::Save() {
   pause_.stop();
   if (!IsTyping() || saving_) return EditOutcome::Saved;
   saving_ = true;
-  const QString typed = TextOf(*this);
+  const QString typed = MemoText(*this, note_.text);
   const bool saved =
       Guarded(session_, SaveDayFailure(objectName()), [&] { note_ = StoreDayNote(session_, date_, note_, typed); });
   saving_ = false;
   failed_ = !saved;
   if (!saved) return EditOutcome::Failed;
-  document()->setModified(TextOf(*this) != typed);
+  document()->setModified(MemoText(*this, note_.text) != typed);
   return EditOutcome::Saved;
 }
 

@@ -8,9 +8,6 @@
 
 namespace trimlog {
 
-/// What a box holds, with its blanks as typed: those that do not break too.
-QString TextOf(const QPlainTextEdit &box);
-
 /// The text of a day's note, bound to the file: it saves itself when the box or the window is left, and after a short
 /// pause in typing, each time in one transaction. A day without a note disables it. What others change is read afresh,
 /// except while something is typed that is not saved yet.

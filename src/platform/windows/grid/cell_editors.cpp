@@ -5,6 +5,7 @@
 
 #include "platform/grid/grid_cells.h"
 #include "platform/windows/fields/date_field.h"
+#include "platform/windows/fields/memo_text.h"
 #include "platform/windows/fields/number_field.h"
 #include "platform/windows/fields/text_field.h"
 #include "platform/windows/grid/bound_grid.h"
@@ -85,6 +86,11 @@ void StoreCellEditor(QWidget &editor, QAbstractItemModel &model, const QModelInd
     if (chosen) model.setData(cell, list->currentData(), GridModel::ValueRole);
     return;
   }
+  if (const auto *memo = qobject_cast<QPlainTextEdit *>(&editor)) {
+    const QString shown = cell.data(Qt::EditRole).toString();
+    if (memo->document()->isModified()) model.setData(cell, MemoText(*memo, shown), Qt::EditRole);
+    return;
+  }
   const auto *lookup = qobject_cast<LookupField *>(&editor);
   if (lookup && lookup->ChosenKey()) {
     model.setData(cell, *lookup->ChosenKey(), GridModel::ValueRole);
@@ -95,7 +101,7 @@ void StoreCellEditor(QWidget &editor, QAbstractItemModel &model, const QModelInd
 
 QString TypedInEditor(const QWidget &editor) {
   if (const auto *field = qobject_cast<const QLineEdit *>(&editor)) return field->text();
-  if (const auto *memo = qobject_cast<const QPlainTextEdit *>(&editor)) return memo->toPlainText();
+  if (const auto *memo = qobject_cast<const QPlainTextEdit *>(&editor)) return MemoText(*memo);
   return {};
 }
 
