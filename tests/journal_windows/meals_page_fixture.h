@@ -37,20 +37,35 @@ class MealsPageTest : public ::testing::Test {
           EntryKind entries = EntryKind::Eaten) {
     MealEntry entry{.date = date, .MealTypeID = mealType, .MealID = FoodID(food), .Amount = servings};
     const double factor = servings.toDouble();
-    entry.values[0] = 100 * food * factor;
+    for (const auto &[id, perServing] : PerServing(food)) {
+      entry.values[static_cast<std::size_t>(id - 1)] = IsPercentOfCalories(id) ? perServing : perServing * factor;
+    }
     return AddRecMeal(*session, entries, entry);
   }
-  /// A food of the person's own: 100 * n calories, n grams of carbs, fat and protein, 10 * n calories from fat.
+  /// A serving of food n of the person's own: 100 * n calories, of which 10 * n from fat; n grams of carbs.
+  static std::vector<std::pair<int, double>> PerServing(int n) {
+    return {{nutrient_id::calories, 100 * n},
+            {nutrient_id::carbs, n},
+            {nutrient_id::calFromFat, 10 * n},
+            {nutrient_id::calFromFatPct, 10}};
+  }
   int FoodID(int n) {
     const int mealID = 100000 + n;
-    if (session.ValueOf(QStringLiteral("MealID"), QStringLiteral("meals_list"), QStringLiteral("MealID=%1").arg(mealID))
-            .isEmpty()) {
-      session.Data().Execute(
-          QStringLiteral("INSERT INTO meals_list ( MealID, MealDesc, RecordTypeID, MealGroupID, Calories, Carbs, Fat, "
-                         "Protein, CalFromFat, CalFromFatPct ) VALUES ( ?, ?, 2, 1, ?, ?, ?, ?, ?, 10 );"),
-          {mealID, QStringLiteral("Aaa food %1").arg(n), 100 * n, n, n, n, 10 * n});
-    }
+    if (foods.contains(n)) return mealID;
+    foods.append(n);
+    session.Data().Execute(
+        QStringLiteral("INSERT INTO meals_list ( MealID, MealDesc, RecordTypeID, MealGroupID, Calories, Carbs, "
+                       "CalFromFat, CalFromFatPct, NetCarbs ) VALUES ( ?, ?, 2, 1, ?, ?, ?, 10, ? );"),
+        {mealID, QStringLiteral("Aaa food %1").arg(n), 100 * n, n, 10 * n, n});
     return mealID;
+  }
+  /// Shows these nutrients, all with daily totals; 0 is an empty place, and so are those behind them.
+  void ShowNutrients(const QList<int> &ids) {
+    for (int place = 0; place < shownNutrients; ++place) {
+      const int id = ids.value(place);
+      SelectedNutrient &shown = session->nutrients.SelectedNutrients[static_cast<std::size_t>(place)];
+      shown = {id, id == 0 ? QString() : QStringLiteral("N%1").arg(id), id != 0, {}};
+    }
   }
   void Open(const JournalKind &kind = JournalKind::Diary(), const QDate &date = QDate(2026, 3, 1),
             const QSize &size = {1000, 500}) {
@@ -61,6 +76,7 @@ class MealsPageTest : public ::testing::Test {
     page->setGeometry({{}, size});
     window.resize(size);
     window.show();
+    page->show();
     window.activateWindow();
     ASSERT_TRUE(QTest::qWaitForWindowActive(&window));
     page->TakeFocus();
@@ -84,7 +100,9 @@ class MealsPageTest : public ::testing::Test {
   }
   std::string Label(const char *name) { return Find<QLabel>(*page, QLatin1String(name)).text().toStdString(); }
   std::string Stored(const char *field, int recordID) {
-    return session.ValueOf(QLatin1String(field), QStringLiteral("meals"), QStringLiteral("RecordID=%1").arg(recordID))
+    return session
+        .ValueOf(QLatin1String(field), QStringLiteral("meals"),
+                 QStringLiteral("PersonID=1 AND RecordID=%1").arg(recordID))
         .toStdString();
   }
   QWidget &Focus() { return QApplication::focusWidget() ? *QApplication::focusWidget() : Grid(); }
@@ -97,12 +115,16 @@ class MealsPageTest : public ::testing::Test {
     Grid().Selection().GoTo(Cell(key, column));
   }
   /// Types over a cell and leaves it with a key.
-  void Type(qint64 key, const char *column, const QString &text, Qt::Key leave = Qt::Key_Tab) {
+  void Type(qint64 key, const char *column, const QString &text, Qt::Key leave = Qt::Key_Tab,
+            const std::function<void()> &beforeLeaving = {}) {
+    window.activateWindow();
+    ASSERT_TRUE(QTest::qWaitForWindowActive(&window));
     GoTo(key, column);
     Press(Qt::Key_F2);
     Press(Qt::Key_A, Qt::ControlModifier);
     Press(Qt::Key_Backspace);
     QTest::keyClicks(&Focus(), text);
+    if (beforeLeaving) beforeLeaving();
     Press(leave);
   }
   void ClickRow(qint64 key, const char *column) {
@@ -117,6 +139,7 @@ class MealsPageTest : public ::testing::Test {
   std::function<void(const EntryOpening &opening)> addMeal;  ///< what the add dialog does
   std::unique_ptr<JournalDay> day;
   std::optional<JournalParts> parts;
+  QList<int> foods;  ///< made so far
   QWidget window;
   MealsPage *page = nullptr;
 };

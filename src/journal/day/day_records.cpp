@@ -34,12 +34,18 @@ Value ValueOf(const std::optional<T> &value) {
   return value ? Value(*value) : Value();
 }
 
-int InsertRecord(Session &session, Table table, EntryKind entries, QVariantMap values) {
-  Change change(session);
+/// Writes a record within a change of the caller's; returns its key.
+int WriteRecord(Session &session, Table table, EntryKind entries, QVariantMap values) {
   const int recordID = GetNextID(session.Data(), TableName(table), session.profile.CurrentPersonID).toInt();
   values[QStringLiteral("RecordID")] = recordID;
   const GridStatement insert = InsertStatement(RowsOf(session, table, entries), values);
   session.Data().Execute(insert.sql, insert.params);
+  return recordID;
+}
+
+int InsertRecord(Session &session, Table table, EntryKind entries, const QVariantMap &values) {
+  Change change(session);
+  const int recordID = WriteRecord(session, table, entries, values);
   change.Announce({.table = table,
                    .keys = {recordID},
                    .personID = session.profile.CurrentPersonID,
@@ -160,8 +166,9 @@ std::vector<qint64> PasteDayRecords(Session &session, Table table, EntryKind ent
     row.remove(QStringLiteral("PersonID"));
     row.remove(QStringLiteral("IsPlanned"));
     if (date.isValid()) row[QStringLiteral("ThisDate")] = date;
-    keys.push_back(InsertRecord(session, table, entries, row));
+    keys.push_back(WriteRecord(session, table, entries, row));
   }
+  change.Announce({.table = table, .keys = keys, .personID = session.profile.CurrentPersonID, .date = date});
   change.Commit();
   return keys;
 }

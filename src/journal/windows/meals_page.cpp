@@ -134,7 +134,7 @@ void MealsPage::ShowRows() {
   grdMeals->Open(session_.Data(), MealsSource(day_.Scope(), day_.Kind().entries));
   shown_ = true;
   if (!day_.IsSingleDate()) GoToColumn(*grdMeals, QLatin1String(servingsColumn));
-  UpdateTotals();
+  OnRow();
 }
 
 void MealsPage::UpdateTotals() {
