@@ -15,8 +15,6 @@
 namespace trimlog {
 namespace {
 
-const QDate today(2026, 3, 1);
-
 QString Name(const char *prefix, const char *column, int place) {
   return QStringLiteral("%1%2%3").arg(QLatin1String(prefix), QLatin1String(column)).arg(place);
 }

@@ -12,8 +12,6 @@
 namespace trimlog {
 namespace {
 
-const QDate today(2026, 3, 1);
-
 class NotesTest : public ::testing::Test {
  protected:
   using Window = PageWindow<NotesPage>;

@@ -12,6 +12,8 @@
 
 namespace trimlog {
 
+inline const QDate today(2026, 3, 1);  ///< of the test session
+
 /// A window around one page of a journal, on a day of the test session's profile.
 template <typename Page>
 class PageWindow : public QWidget {

@@ -12,8 +12,6 @@
 namespace trimlog {
 namespace {
 
-const QDate today(2026, 3, 1);
-
 /// The water of a window as a journal has it.
 struct WaterWindow : QWidget {
   WaterWindow(Session &session, JournalDay &day, MeasurementsPage *measurements = nullptr)
