@@ -139,7 +139,7 @@ TEST_F(DayRecords, PastedRowsKeepTheirSnapshotOnAnotherDayOrTheirOwn) {
   EXPECT_EQ(PasteDayRecords(*session, Table::Meals, EntryKind::Eaten, {copied, copied, copied}, target),
             (std::vector<qint64>{2, 3, 4}));
   EXPECT_EQ(session.Data().Counts().commits - before, 1);
-  EXPECT_EQ(heard.size(), 3u);
+  EXPECT_EQ(heard.size(), 1u) << "lists read once, however many rows came";
   EXPECT_EQ(Keys(MealsSource({1, JournalView::SingleDate, target}, EntryKind::Eaten)), (std::vector<int>{2, 3, 4}));
   EXPECT_EQ(Field("TransFat", "meals", 1, 4).toInt(), 250 + 34);
 
