@@ -10,6 +10,7 @@
 #include "core/windows/profiles/add_profile_page.h"
 #include "core/windows/setup/frmSetup.h"
 #include "journal/windows/frmDiary.h"
+#include "journal/windows/frmQuickDiary.h"
 #include "program.h"
 #include "tools/windows/frmTools.h"
 #include "weightlog/rewards.h"
@@ -48,6 +49,10 @@ void Program::FillNavigator() {
   journalDoors_.AddActivity = [this](QWidget *owner, const EntryOpening &opening) {
     frmAddActivity(session_, navigator_, opening, owner ? owner : frame_.get()).exec();
   };
+  navigator_.OpenQuickJournal = [this](QWidget *) {
+    trimlog::OpenQuickJournal(session_, navigator_, journalDoors_, frame_.get());
+  };
+  navigator_.ResetQuickJournal = [this] { trimlog::ResetQuickJournal(frame_.get()); };
   navigator_.OpenNutrientSelection = [this](QWidget *owner) {
     trimlog::OpenNutrientSelection(session_, navigator_, owner ? owner : frame_.get());
   };

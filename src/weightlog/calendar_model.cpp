@@ -125,7 +125,8 @@ void CalendarModel::Refresh() {
 
 void CalendarModel::SetActiveDate(int i) {
   MarkActiveCell(month_, i, session_.profile.BackColor);
-  session_.windows.RememberedDate = month_.currentDate;
+  const QDate before = std::exchange(session_.windows.RememberedDate, month_.currentDate);
+  if (before != month_.currentDate) session_.changes.AnnounceActiveDate();
 }
 
 void CalendarModel::GotoNextDate() {

@@ -39,12 +39,13 @@ TEST_F(Stop, StoresTheSessionAndRestoresTheSamples) {
   EXPECT_EQ(bench.calls, expected);
 }
 
-TEST_F(Stop, TheQuickJournalsSizeIsKeptWhileItIsOpen) {
+TEST_F(Stop, TheQuickJournalsPlaceIsKeptWhileItIsOpen) {
   bench.session.windows.QuickJournalOpen = true;
   bench.session.windows.quickJournalPlace = {1, 2, 8400, 2900};
   EXPECT_TRUE(bench.application.QueryUnload());
   EXPECT_EQ(bench.Setting(QStringLiteral("QDWidth")), QStringLiteral("8400"));
   EXPECT_EQ(bench.Setting(QStringLiteral("QDHeight")), QStringLiteral("2900"));
+  EXPECT_EQ(bench.Setting(QStringLiteral("QDTop")), QStringLiteral("2"));
 }
 
 TEST_F(Stop, ASampleIsNeverTheProfileOfTheNextRun) {

@@ -78,7 +78,7 @@ TEST_F(Frame, SwitchingSavesShowsTheNewAndDropsTheOld) {
 
 TEST_F(Frame, QuickJournalLivesOverTheCalendarOnly) {
   Load();
-  QWidget quickJournal(frame.get(), Qt::Tool);
+  ContentWindow quickJournal(frame.get(), Qt::Tool);
   quickJournal.setObjectName(QStringLiteral("frmQuickDiary"));
   quickJournal.show();
   session->windows.QuickJournalOpen = true;

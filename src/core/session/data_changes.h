@@ -29,12 +29,14 @@ class DataChanges : public QObject {
   void AnnounceStatistics() { Q_EMIT StatisticsChanged(); }
   void AnnounceSettings() { Q_EMIT SettingsChanged(); }
   void AnnounceProfileLoaded() { Q_EMIT ProfileLoaded(); }
+  void AnnounceActiveDate() { Q_EMIT ActiveDateChanged(); }
 
  Q_SIGNALS:
   void Changed(const trimlog::DataChange &change);
   void StatisticsChanged();
-  void SettingsChanged();  ///< options were stored: units, signs, colours may differ
-  void ProfileLoaded();    ///< another person is the current one
+  void SettingsChanged();    ///< options were stored: units, signs, colours may differ
+  void ProfileLoaded();      ///< another person is the current one
+  void ActiveDateChanged();  ///< the calendar is on another day: the session's remembered date
 
  private:
   friend class Change;

@@ -14,6 +14,7 @@ constexpr TopicOfClass topics[] = {
     {"frmReward", "options#rewards"},
 
     {"frmDiary", "journal"},
+    {"frmQuickDiary", "journal#quick"},
     {"NotesPage", "journal#notes"},
     {"MealsPage", "journal#meals"},
     {"ExercisesPage", "journal#exercises"},

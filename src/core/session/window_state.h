@@ -14,7 +14,7 @@ struct WindowState {
   WindowPlace quickJournalPlace;
   bool QuickJournalOpen = false;
   bool SuppressReward = false;  ///< set when a navigation button is pressed, cleared when a weight cell gets the focus
-  QDate RememberedDate;         ///< the calendar's last active date; cleared by LoadData
+  QDate RememberedDate;         ///< the calendar's last active date; cleared by LoadData; told by ActiveDateChanged
   GridClipboard rowClipboard;   ///< rows last copied from a grid
 };
 

@@ -122,7 +122,10 @@ void Application::ResetSamples() {
 void Application::StoreSession() {
   Run(doors_.ReadWindowPlaces);
   WindowPosition(session_, true, WindowGroup::Frame);
-  if (session_.windows.QuickJournalOpen) WindowPosition(session_, true, WindowGroup::QuickJournalSize);
+  if (session_.windows.QuickJournalOpen) {
+    WindowPosition(session_, true, WindowGroup::QuickJournalPosition);
+    WindowPosition(session_, true, WindowGroup::QuickJournalSize);
+  }
   const QString &person = session_.profile.LastRealPersonID;
   if (!person.isEmpty() && !IsSampleProfile(person)) {
     session_.settings.PersonID = person;

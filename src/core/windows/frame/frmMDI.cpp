@@ -12,6 +12,7 @@
 #include "core/windows/frame/frmMain.h"
 #include "core/windows/frame/frmMain1.h"
 #include "core/windows/frame/frmSplash.h"
+#include "core/windows/frame/window_place.h"
 #include "platform/twips.h"
 
 namespace trimlog {
@@ -137,17 +138,31 @@ void frmMDI::ReplaceForm(const QString &name, const QDate &date) {
   currentForm_->Activated();
 }
 
+ContentWindow *frmMDI::QuickJournal() const {
+  return findChild<ContentWindow *>(QStringLiteral("frmQuickDiary"), Qt::FindDirectChildrenOnly);
+}
+
 void frmMDI::ShowQuickJournal(bool visible) {
-  if (!session_.windows.QuickJournalOpen) return;
-  if (auto *quickJournal = findChild<QWidget *>(QStringLiteral("frmQuickDiary"))) quickJournal->setVisible(visible);
+  ContentWindow *quickJournal = QuickJournal();
+  if (!session_.windows.QuickJournalOpen || !quickJournal) return;
+  quickJournal->setAttribute(Qt::WA_ShowWithoutActivating);  // the focus is the calendar's, to which a person came
+  quickJournal->setVisible(visible);
 }
 
 QWidget *frmMDI::ActiveControl() const { return currentForm_ ? currentForm_->focusWidget() : nullptr; }
 
-EditOutcome frmMDI::LeaveOpenEdit() { return currentForm_ ? currentForm_->SaveOpenEdit() : EditOutcome::Saved; }
+EditOutcome frmMDI::LeaveOpenEdit() {
+  for (ContentWindow *window : {currentForm_, QuickJournal()}) {
+    const EditOutcome outcome = window ? window->SaveOpenEdit() : EditOutcome::Saved;
+    if (outcome != EditOutcome::Saved) return outcome;
+  }
+  return EditOutcome::Saved;
+}
 
 void frmMDI::DropOpenEdit() {
-  if (currentForm_) currentForm_->DropOpenEdit();
+  for (ContentWindow *window : {currentForm_, QuickJournal()}) {
+    if (window) window->DropOpenEdit();
+  }
 }
 
 void frmMDI::RefreshMain() {
@@ -165,9 +180,7 @@ void frmMDI::ShowAsKept() {
 }
 
 void frmMDI::ReadPlace() {
-  const QRect place = isMaximized() ? normalGeometry() : QRect(pos(), size());
-  session_.windows.framePlace = {TwipsFromPixels(place.left()), TwipsFromPixels(place.top()),
-                                 TwipsFromPixels(place.width()), TwipsFromPixels(place.height())};
+  session_.windows.framePlace = PlaceOf(isMaximized() ? normalGeometry() : QRect(pos(), size()));
 }
 
 // Never smaller than what stands in it, which grows with the desktop's font, nor than its first size.
@@ -182,22 +195,7 @@ bool frmMDI::event(QEvent *event) {
   return handled;
 }
 
-void frmMDI::ApplyPlace() {
-  const WindowPlace &place = session_.windows.framePlace;
-  QRect wanted(PixelsFromTwips(place.Left), PixelsFromTwips(place.Top), PixelsFromTwips(place.Width),
-               PixelsFromTwips(place.Height));
-  wanted.setSize(wanted.size().expandedTo(minimumSize()));
-  const QScreen *screen = QApplication::screenAt(wanted.center());
-  if (!screen) {
-    // The monitor that it stood on is gone.
-    screen = QApplication::primaryScreen();
-    wanted.moveCenter(screen->availableGeometry().center());
-  }
-  const QRect usable = screen->availableGeometry();
-  wanted.moveTopLeft({std::max(wanted.left(), usable.left()), std::max(wanted.top(), usable.top())});
-  move(wanted.topLeft());
-  resize(wanted.size());
-}
+void frmMDI::ApplyPlace() { PutInPlace(*this, session_.windows.framePlace); }
 
 void frmMDI::ResetPlace() {
   const QSize screenSize = screen()->size();

@@ -97,6 +97,7 @@ class frmMDI : public QMainWindow {
   void RefreshCommands();
   void SetMenusFor(const QString &name);
   void ReplaceForm(const QString &name, const QDate &date = {});
+  ContentWindow *QuickJournal() const;
   void ShowQuickJournal(bool visible);
 
   void ShowAsKept();
