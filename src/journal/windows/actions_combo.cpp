@@ -1,5 +1,6 @@
 #include "journal/windows/actions_combo.h"
 
+#include <QAbstractItemView>
 #include <QKeyEvent>
 #include <QStandardItemModel>
 #include <QStylePainter>
@@ -13,8 +14,6 @@ ActionsCombo::ActionsCombo(const QString &objectName, const QString &prompt, QWi
   setObjectName(objectName);
   setPlaceholderText(prompt);
   SpeakAs(this, prompt);
-  setMinimumContentsLength(static_cast<int>(prompt.size()));
-  setSizeAdjustPolicy(QComboBox::AdjustToMinimumContentsLengthWithIcon);
   connect(this, &QComboBox::activated, this, [this](int index) {
     setCurrentIndex(-1);
     // Once the list is closed: what opens now may be a window.
@@ -30,6 +29,18 @@ void ActionsCombo::AddAction(const QString &caption, const QString &whyNot, std:
     setItemData(count() - 1, whyNot, Qt::ToolTipRole);
   }
   setCurrentIndex(-1);
+}
+
+QSize ActionsCombo::sizeHint() const {
+  QStyleOptionComboBox option;
+  initStyleOption(&option);
+  const QSize text(fontMetrics().horizontalAdvance(placeholderText()), QComboBox::sizeHint().height());
+  return {style()->sizeFromContents(QStyle::CT_ComboBox, &option, text, this).width(), text.height()};
+}
+
+void ActionsCombo::showPopup() {
+  view()->setMinimumWidth(view()->sizeHintForColumn(0) + 2 * view()->frameWidth());
+  QComboBox::showPopup();
 }
 
 // In the colour of a text: in that of a prompt it would look switched off.

@@ -14,6 +14,10 @@ class ActionsCombo : public QComboBox {
   ActionsCombo(const QString &objectName, const QString &prompt, QWidget *parent);
   /// `whyNot` disables the entry and is its tip.
   void AddAction(const QString &caption, const QString &whyNot, std::function<void()> run);
+  /// As wide as the prompt; the list that opens is as wide as its entries.
+  QSize sizeHint() const override;
+  QSize minimumSizeHint() const override { return sizeHint(); }
+  void showPopup() override;
 
  protected:
   void keyPressEvent(QKeyEvent *event) override;

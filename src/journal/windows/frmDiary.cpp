@@ -14,7 +14,10 @@
 #include "journal/windows/day_bar.h"
 #include "journal/windows/journal_actions.h"
 #include "journal/windows/journal_tabs.h"
+#include "journal/windows/meals_page.h"
+#include "journal/windows/water_panel.h"
 #include "platform/windows/controls/named_controls.h"
+#include "platform/windows/grid/bound_grid.h"
 
 namespace trimlog {
 
@@ -30,7 +33,7 @@ frmDiary::frmDiary(Session &session, const Navigator &navigator, const JournalDo
   layout->addWidget(header_);
   layout->addWidget(SSTab1, 1);
   layout->addWidget(MakeFooter());
-  day_.mayLeave = [this] { return SSTab1->SaveOpenEdit() == EditOutcome::Saved; };
+  day_.mayLeave = [this] { return ValidateFields(); };
   connect(SSTab1, &JournalTabs::PageShown, this, &frmDiary::ShowDefaultTab);
   connect(&session_.changes, &DataChanges::SettingsChanged, this, [this] {
     ShowDefaultTab();
@@ -67,6 +70,13 @@ QWidget *frmDiary::MakeFooter() {
   auto *footer = new QWidget(this);
   auto *row = new QHBoxLayout(footer);
   row->setContentsMargins(8, 2, 8, 4);
+  pnlWater = new WaterPanel(session_, day_, footer);
+  // Among all dates the water is that of the meals' row, also while the exercises are looked at.
+  pnlWater->rowDate = [this] {
+    const QDate shown = SSTab1->Meals().Grid()->CurrentField(QStringLiteral("ThisDate")).toDate();
+    return shown.isValid() ? shown : day_.Date();
+  };
+  row->addWidget(pnlWater);
   row->addStretch(1);
   AddDefaultTabs(row);
   auto *cboActions1 = new ActionsCombo(QStringLiteral("cboActions1"), tr("Other Actions..."), footer);
@@ -105,11 +115,20 @@ void frmDiary::ShowColours() {
   cmdTips->setPalette(PanelButtonPalette(PanelColor(session_.profile.BackColor)));
 }
 
-EditOutcome frmDiary::SaveOpenEdit() { return SSTab1->SaveOpenEdit(); }
+EditOutcome frmDiary::SaveOpenEdit() {
+  const EditOutcome outcome = SSTab1->SaveOpenEdit();
+  return outcome == EditOutcome::Saved ? pnlWater->SaveOpenEdit() : outcome;
+}
 
-void frmDiary::DropOpenEdit() { SSTab1->DropOpenEdit(); }
+void frmDiary::DropOpenEdit() {
+  SSTab1->DropOpenEdit();
+  pnlWater->DropOpenEdit();
+}
 
-void frmDiary::Activated() { SSTab1->CurrentPage().TakeFocus(); }
+void frmDiary::Activated() {
+  pnlWater->Follow();
+  SSTab1->CurrentPage().TakeFocus();
+}
 
 void frmDiary::GotoDate(const QDate &date) {
   // A day that the window opens with leaves the view as it was; a day asked for later is shown alone.

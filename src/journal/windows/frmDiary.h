@@ -14,6 +14,7 @@ namespace trimlog {
 
 class DayBar;
 class JournalTabs;
+class WaterPanel;
 
 /// The journal: what was eaten, done, measured and noted, a day at a time or over all days.
 class frmDiary : public ContentWindow {
@@ -44,6 +45,7 @@ class frmDiary : public ContentWindow {
   const Navigator &navigator_;
   JournalDay day_;
   JournalTabs *SSTab1 = nullptr;
+  WaterPanel *pnlWater = nullptr;
   QWidget *header_ = nullptr;
   QToolButton *cmdTips = nullptr;
   std::array<QCheckBox *, 4> chkDefaultDiaryTab_{};

@@ -9,6 +9,7 @@
 #include "core/windows/controls/theme.h"
 #include "core/windows/frame/window_place.h"
 #include "journal/windows/journal_tabs.h"
+#include "journal/windows/water_panel.h"
 #include "platform/twips.h"
 #include "platform/windows/controls/named_controls.h"
 #include "platform/windows/fields/date_field.h"
@@ -73,6 +74,9 @@ QWidget *frmQuickDiary::MakeHeader() {
   row->addWidget(txtDate);
   lblDate = AddLabel(row, QStringLiteral("lblDate"), {});
   row->addStretch(1);
+  pnlWater = new WaterPanel(session_, day_, header);
+  row->addWidget(pnlWater);
+  row->addStretch(1);
   auto *cmdClose = AddCommand(row, QStringLiteral("cmdClose"), tr("&Close"), tr("Closes the Quick Journal (Esc)"));
   connect(cmdClose, &QPushButton::clicked, this, &QWidget::close);
   return header;
@@ -86,14 +90,21 @@ void frmQuickDiary::ShowDate() {
 void frmQuickDiary::ShowColours() { PaintPanel(header_, session_.profile.BackColor); }
 
 EditOutcome frmQuickDiary::SaveOpenEdit() {
-  const EditOutcome outcome = SSTab1->SaveOpenEdit();
+  EditOutcome outcome = SSTab1->SaveOpenEdit();
+  if (outcome == EditOutcome::Saved) outcome = pnlWater->SaveOpenEdit();
   if (outcome != EditOutcome::Saved) RaiseWindow(this);  // where what is refused can be put right
   return outcome;
 }
 
-void frmQuickDiary::DropOpenEdit() { SSTab1->DropOpenEdit(); }
+void frmQuickDiary::DropOpenEdit() {
+  SSTab1->DropOpenEdit();
+  pnlWater->DropOpenEdit();
+}
 
-void frmQuickDiary::Activated() { SSTab1->CurrentPage().TakeFocus(); }
+void frmQuickDiary::Activated() {
+  pnlWater->Follow();
+  SSTab1->CurrentPage().TakeFocus();
+}
 
 // Not within the calendar's own work: what is refused here shows a box.
 void frmQuickDiary::FollowSoon() { QMetaObject::invokeMethod(this, &frmQuickDiary::Follow, Qt::QueuedConnection); }

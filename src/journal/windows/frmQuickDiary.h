@@ -9,6 +9,7 @@ namespace trimlog {
 
 class DateField;
 class JournalTabs;
+class WaterPanel;
 
 /// The Quick Journal: the pages of the journal for the day that is active in the Data Calendar. It floats over its
 /// owner, goes with the calendar from day to day, and keeps its place and size. What is typed in it stays on its day
@@ -44,6 +45,7 @@ class frmQuickDiary : public ContentWindow {
   Session &session_;
   JournalDay day_;
   JournalTabs *SSTab1 = nullptr;
+  WaterPanel *pnlWater = nullptr;
   QWidget *header_ = nullptr;
   DateField *txtDate = nullptr;
   QLabel *lblDate = nullptr;

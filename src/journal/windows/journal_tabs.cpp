@@ -11,13 +11,14 @@
 
 namespace trimlog {
 
-JournalTabs::JournalTabs(const JournalParts &parts, QWidget *parent) : QTabWidget(parent) {
+JournalTabs::JournalTabs(const JournalParts &parts, QWidget *parent)
+    : QTabWidget(parent), meals_(new MealsPage(parts, this)) {
   setObjectName(QStringLiteral("SSTab1"));
   tabBar()->setAccessibleName(tr("Pages"));
   setDocumentMode(true);
   const JournalKind &kind = parts.day.Kind();
   if (kind.hasDayRecords) Add(new NotesPage(parts, this), tr(" Notes "));
-  Add(new MealsPage(parts, this), kind.mealsTab);
+  Add(meals_, kind.mealsTab);
   Add(new ExercisesPage(parts, this), kind.activitiesTab);
   if (kind.hasDayRecords) Add(new MeasurementsPage(parts, this), tr(" Body Measurements "));
   connect(this, &QTabWidget::currentChanged, this, &JournalTabs::LeaveFor);

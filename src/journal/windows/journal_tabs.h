@@ -7,6 +7,8 @@
 
 namespace trimlog {
 
+class MealsPage;
+
 /// The pages of a journal window, one tab each; which ones there are is the kind's. A page is only left when what is
 /// typed in it could be saved. Alt+1, Alt+2, ... and Ctrl+Tab go to a page.
 class JournalTabs : public QTabWidget {
@@ -15,6 +17,7 @@ class JournalTabs : public QTabWidget {
   JournalTabs(const JournalParts &parts, QWidget *parent);
 
   JournalPage &Page(int index) const { return *pages_[static_cast<std::size_t>(index)]; }
+  MealsPage &Meals() const { return *meals_; }
   JournalPage &CurrentPage() const { return Page(currentIndex()); }
   /// Of all pages; the first that refuses comes to the front.
   EditOutcome SaveOpenEdit();
@@ -30,6 +33,7 @@ class JournalTabs : public QTabWidget {
   void LeaveFor(int index);
 
   std::vector<JournalPage *> pages_;
+  MealsPage *meals_;
   int shown_ = 0;
 };
 

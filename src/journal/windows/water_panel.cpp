@@ -35,7 +35,9 @@ WaterPanel::WaterPanel(Session &session, JournalDay &day, QWidget *parent)
   layout->addWidget(sclWater);
   setEnabled(false);
   connect(sclWater, &QAbstractSlider::valueChanged, this, &WaterPanel::OnSpinner);
-  connect(&day_, &JournalDay::DateChanged, this, &WaterPanel::Follow);
+  connect(&day_, &JournalDay::DateChanged, this, [this] {
+    if (!day_.IsSingleDate()) Follow();  // a day by itself comes as another scope
+  });
   connect(&day_, &JournalDay::ScopeChanged, this, &WaterPanel::Follow);
   connect(&session_.changes, &DataChanges::Changed, this, [this](const DataChange &change) {
     const bool ours = change.table == Table::OtherDailyData && change.Concerns(session_.profile.CurrentPersonID);
@@ -63,7 +65,7 @@ void WaterPanel::Show() {
   picWater->ShowGlasses(record_.WaterConsumed);
   lblWater1->setText(day_.IsSingleDate()
                          ? QStringLiteral("Glasses of water:")
-                         : QStringLiteral("Glasses of water on %1:").arg(ShortDate(record_.ThisDate, session_.locale)));
+                         : QStringLiteral("Water on %1:").arg(ShortDate(record_.ThisDate, session_.locale)));
 }
 
 EditOutcome WaterPanel::SaveOpenEdit() {
