@@ -19,7 +19,6 @@ namespace trimlog {
 
 namespace {
 
-constexpr int dateCharacters = 10;
 const QString name = QStringLiteral("frmQuickDiary");
 
 frmQuickDiary *QuickJournalOver(const QWidget *owner) {
@@ -69,7 +68,7 @@ QWidget *frmQuickDiary::MakeHeader() {
   row->setSpacing(6);
   txtDate = new DateField(QStringLiteral("txtDate"), tr("Date"), session_.locale, header);
   txtDate->setReadOnly(true);
-  txtDate->setFixedWidth(FieldWidth(txtDate, dateCharacters));
+  txtDate->setFixedWidth(FieldWidth(txtDate, 10));
   txtDate->setToolTip(tr("The day that is active in the calendar"));
   row->addWidget(txtDate);
   lblDate = AddLabel(row, QStringLiteral("lblDate"), {});
