@@ -16,7 +16,6 @@ GridColumns ExerciseColumns() {
     return GridColumn{.name = field, .caption = caption, .field = field, .type = type, .width = width};
   };
   GridColumns columns = {
-      {.name = QStringLiteral("Qlt"), .visible = false},  // the head of a row marks it
       column(QStringLiteral("ActivityDesc"), QStringLiteral("Exercise Description"), 40),
       column(QStringLiteral("Duration"), QStringLiteral("Duration"), 8, GridType::NumberText),
       column(QStringLiteral("Pace"), QStringLiteral("Pace"), 16),
@@ -28,7 +27,6 @@ GridColumns ExerciseColumns() {
   for (GridColumn &shown : columns) {
     if (shown.field == QStringLiteral("Calories")) shown.pattern = caloriesPattern;
   }
-  columns.push_back({.name = QStringLiteral("Dummy"), .width = 2});
   columns.push_back({.name = QStringLiteral("RecordTypeID"),
                      .field = QStringLiteral("RecordTypeID"),
                      .type = GridType::WholeNumber,
