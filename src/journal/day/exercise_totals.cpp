@@ -1,12 +1,12 @@
 #include "journal/day/exercise_totals.h"
 
 #include <QHash>
-#include <algorithm>
 
 #include "core/session/session.h"
 #include "health/net_calories.h"
 #include "journal/day/calorie_rules.h"
 #include "journal/day/journal_day.h"
+#include "journal/day/meal_texts.h"
 #include "journal/day/net_calories_text.h"
 #include "platform/text/text_format.h"
 
@@ -14,20 +14,14 @@ namespace trimlog {
 
 namespace {
 
-/// The net calories are told beside a shown nutrient that they are made of.
-bool ShowsCalories(const Nutrients &nutrients) {
-  return std::any_of(nutrients.SelectedNutrients.begin(), nutrients.SelectedNutrients.end(),
-                     [](const SelectedNutrient &position) { return position.NutrientID == nutrient_id::calories; });
-}
-
 QString CaptionOf(const JournalDay &day, const QDate &date, const QLocale &locale) {
+  // Beside the figures, not in a column of its own as below the meals.
   if (day.Kind().isSmall) return QStringLiteral("Daily Totals: ");
-  if (day.IsSingleDate()) return QStringLiteral("Daily Totals  ");
-  return QStringLiteral("Daily Totals (%1)  ").arg(ShortDate(date, locale));
+  return DailyTotalsCaption(day.Kind(), day.View(), date, locale);
 }
 
 QString NetOf(const Session &session, const JournalDay &day, const QDate &date, double burned) {
-  if (!day.Kind().hasNetCalories || !ShowsCalories(session.nutrients)) return {};
+  if (!day.Kind().hasNetCalories || !CaloriesPosition(session.nutrients)) return {};
   NetCaloriesDay net = ReadNetCalories(session, date, date).front();
   net.burned = burned;
   return NetCaloriesText(net, session.settings.NetCaloriesBMR, session.locale);

@@ -1,7 +1,5 @@
 #include "journal/windows/exercises_page.h"
 
-#include <QHBoxLayout>
-#include <QLabel>
 #include <QPushButton>
 #include <QVBoxLayout>
 
@@ -14,15 +12,13 @@
 #include "journal/day/exercise_totals.h"
 #include "journal/day/grid_layout.h"
 #include "journal/day/listed_exercise.h"
-#include "journal/day/net_calories_text.h"
 #include "journal/day/printed_heading.h"
 #include "journal/windows/day_grid.h"
 #include "journal/windows/exercise_totals_row.h"
 #include "journal/windows/grid_day_rows.h"
+#include "journal/windows/net_calories_line.h"
 #include "journal/windows/page_buttons.h"
 #include "platform/grid/grid_export.h"
-#include "platform/windows/controls/named_controls.h"
-#include "platform/windows/controls/result_text.h"
 #include "platform/windows/grid/bound_grid.h"
 #include "platform/windows/printing/grid_printer.h"
 
@@ -50,7 +46,10 @@ ExercisesPage::ExercisesPage(const JournalParts &parts, QWidget *parent)
   MakeButtons(*buttons);
   QVBoxLayout *const content = buttons->LayOutPage();
   MakeGrid(parts, *content);
-  if (day_.Kind().hasNetCalories) MakeNetCalories(*content);
+  if (day_.Kind().hasNetCalories) {
+    netCalories_ = new NetCaloriesLine(session_, QStringLiteral("lblTotalsActivities2"), this);
+    content->addWidget(netCalories_);
+  }
   FollowOthers();
 }
 
@@ -111,19 +110,6 @@ void ExercisesPage::MakeGrid(const JournalParts &parts, QVBoxLayout &content) {
   FollowCurrentRow(*grdActivities, day_);
 }
 
-void ExercisesPage::MakeNetCalories(QVBoxLayout &content) {
-  netCalories_ = new QWidget(this);
-  auto *line = new QHBoxLayout(netCalories_);
-  line->setContentsMargins(0, 0, 0, 0);
-  lblTotalsActivities2 = new ResultText(QStringLiteral("lblTotalsActivities2"), netCalories_);
-  line->addWidget(lblTotalsActivities2, 1);
-  auto *pnlLearnMore =
-      AddCommand(line, QStringLiteral("pnlLearnMore"), tr("&Learn More..."), tr("What net calories are."));
-  content.addWidget(netCalories_);
-  connect(pnlLearnMore, &QPushButton::clicked, this,
-          [this] { session_.boxes.Inform(AboutNetCaloriesTitle(), AboutNetCalories()); });
-}
-
 void ExercisesPage::FollowOthers() {
   connect(&session_.changes, &DataChanges::SettingsChanged, this, &ExercisesPage::ShowTotals);
   connect(&session_.changes, &DataChanges::Changed, this, [this](const DataChange &change) {
@@ -168,9 +154,7 @@ void ExercisesPage::ShowTotals() {
   GuardedQuietly([this] {
     const ExerciseTotalsText totals = Totals();
     totals_->Tell(totals);
-    if (!netCalories_) return;
-    netCalories_->setVisible(!totals.net.isEmpty());
-    lblTotalsActivities2->setText(totals.net);
+    if (netCalories_) netCalories_->Tell(totals.net);
   });
 }
 

@@ -9,8 +9,8 @@ namespace trimlog {
 
 class ExerciseTotalsRow;
 class GridRowEdit;
+class NetCaloriesLine;
 class PageButtons;
-class ResultText;
 struct ExerciseTotalsText;
 
 /// The tab of exercises done or planned: the rows, the day's minutes and calories, the net calories in words.
@@ -32,7 +32,6 @@ class ExercisesPage : public JournalPage {
  private:
   void MakeButtons(PageButtons &buttons);
   void MakeGrid(const JournalParts &parts, QVBoxLayout &content);
-  void MakeNetCalories(QVBoxLayout &content);
   void FollowOthers();
   void OnCell(GridRowEdit &row, const QString &column);
   void OnCellEdited(const QString &column);
@@ -45,8 +44,7 @@ class ExercisesPage : public JournalPage {
 
   BoundGrid *grdActivities = nullptr;
   ExerciseTotalsRow *totals_ = nullptr;
-  QWidget *netCalories_ = nullptr;
-  ResultText *lblTotalsActivities2 = nullptr;
+  NetCaloriesLine *netCalories_ = nullptr;
   QPushButton *cmdDeleteActivity = nullptr;
 };
 
