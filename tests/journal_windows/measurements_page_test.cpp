@@ -318,7 +318,7 @@ TEST_F(MeasurementsTest, ThePictureShowsTheBodyAndThePlaceOfTheBox) {
   window.day.Step(1);
   EXPECT_EQ(picture.Field(), std::nullopt);
   session.Data().Execute(QStringLiteral("UPDATE people SET GenderID = 2;"));
-  window.day.Step(-1);
+  session.Announce({.table = Table::People});
   EXPECT_FALSE(picture.IsMale());
 }
 

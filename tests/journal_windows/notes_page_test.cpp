@@ -1,6 +1,7 @@
 #include "journal/windows/notes_page.h"
 
 #include <QComboBox>
+#include <QElapsedTimer>
 #include <QPlainTextEdit>
 
 #include "journal/windows/day_grid.h"
@@ -60,6 +61,18 @@ TEST_F(NotesTest, AnyTextSurvivesBeingReadAndWrittenOn) {
     EXPECT_EQ(Stored(today), (text + QLatin1Char('!')).toStdString());
     EXPECT_EQ(Commits(), before + 1);
   }
+}
+
+TEST_F(NotesTest, AListOfLongNotesIsPaintedAtOnce) {
+  for (int i = 0; i < 5; ++i) {
+    AddNote(*session, today.addDays(-i), QStringLiteral("A long day, told in many words.\n").repeated(32768));
+  }
+  session->settings.LastDiaryView = 1;
+  QElapsedTimer clock;
+  clock.start();
+  Window window(*session);
+  window.grab();
+  EXPECT_LT(clock.elapsed(), 2000) << "laying out whole notes takes some 7 seconds";
 }
 
 TEST_F(NotesTest, ATextIsSavedWhereverItIsLeftAndAfterAPause) {

@@ -88,6 +88,9 @@ QWidget *MeasurementsPage::MakeSingle() {
   layout->addWidget(picBody);
   layout->addStretch(1);
   connect(boxes_, &MeasurementBoxes::FieldEntered, picBody, &BodyPicture::ShowField);
+  connect(&session_.changes, &DataChanges::Changed, this, [this](const DataChange &change) {
+    if (change.table == Table::People && isVisible()) ShowGender();
+  });
   return single;
 }
 
@@ -158,9 +161,7 @@ void MeasurementsPage::ShowView(JournalView view) { views_->setCurrentIndex(view
 
 void MeasurementsPage::ShowRows() {
   if (day_.IsSingleDate()) {
-    if (picBody) {
-      GuardedQuietly([this] { picBody->ShowGender(ReadBodyProfile(session_).GenderID == male); });
-    }
+    ShowGender();
     boxes_->ShowDay(day_.Date());
   } else {
     const GridSource source = MeasurementsSource(day_.Scope());
@@ -171,6 +172,11 @@ void MeasurementsPage::ShowRows() {
     totals_->ShowTotals();
   }
   UpdateButtons();
+}
+
+void MeasurementsPage::ShowGender() {
+  if (!picBody) return;
+  GuardedQuietly([this] { picBody->ShowGender(ReadBodyProfile(session_).GenderID == male); });
 }
 
 void MeasurementsPage::UpdateButtons() {

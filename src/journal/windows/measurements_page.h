@@ -43,6 +43,7 @@ class MeasurementsPage : public JournalPage {
   void MakeGrid(QWidget *parent);
   void BodyFatFollowsWaist(GridRowEdit &row);
   void OnRowChanged();
+  void ShowGender();
   void UpdateButtons();
   QDate ProposedDate() const;
 

@@ -42,6 +42,18 @@ bool EndsEditing(const QWidget *editor, const QKeyEvent &key) {
   return IsEnter(key) && (!qobject_cast<const QPlainTextEdit *>(editor) || key.modifiers() & Qt::ControlModifier);
 }
 
+/// As much of a text as can be seen in a room: all that it is given is laid out, and a note may be a megabyte.
+QString PartToShow(const QString &text, const QSize &room, const QFontMetrics &metrics) {
+  const int narrowest = std::max(1, metrics.horizontalAdvance(QLatin1Char('i')) / 2);
+  int lines = room.height() / std::max(1, metrics.lineSpacing()) + 1;
+  const qsizetype most = std::min(text.size(), qsizetype{lines} * (room.width() / narrowest + 1));
+  for (qsizetype at = 0; at < most; ++at) {
+    const bool ends = text[at] == QChar::LineSeparator || text[at] == QLatin1Char('\n');
+    if (ends && --lines == 0) return text.left(at);
+  }
+  return text.left(most);
+}
+
 }  // namespace
 
 QColor RefusalColor(const QPalette &palette) {
@@ -72,6 +84,7 @@ void GridDelegate::updateEditorGeometry(QWidget *editor, const QStyleOptionViewI
 void GridDelegate::paint(QPainter *painter, const QStyleOptionViewItem &option, const QModelIndex &index) const {
   QStyleOptionViewItem cell = option;
   initStyleOption(&cell, index);
+  cell.text = PartToShow(cell.text, cell.rect.size(), cell.fontMetrics);
   const bool current = index == grid_->currentIndex();
   const bool refused = !index.data(GridModel::SentenceRole).toString().isEmpty();
   const bool plain = (current && !grid_->RowsMarked()) || refused;  // stands out of a marked row
@@ -95,7 +108,9 @@ bool GridDelegate::helpEvent(QHelpEvent *event, QAbstractItemView *view, const Q
                              const QModelIndex &index) {
   QString text = index.data(GridModel::SentenceRole).toString();
   if (text.isEmpty()) {
-    text = index.data().toString();
+    const QString whole = index.data().toString();
+    text = PartToShow(whole, view->size(), option.fontMetrics);
+    if (text.size() < whole.size()) text += QChar(0x2026);
     const QSize needed = option.fontMetrics.size(0, text);
     const QRect room = view->visualRect(index);
     if (needed.width() <= room.width() - 6 && needed.height() <= room.height()) text.clear();
