@@ -1,11 +1,4 @@
 // What a screen reader finds in every window of the program, walked widget by widget.
-#include <gtest/gtest.h>
-
-#include <QAbstractItemView>
-#include <QAccessible>
-#include <QApplication>
-#include <QComboBox>
-#include <QLabel>
 
 #include "catalogs/windows/exercise_page.h"
 #include "catalogs/windows/frmAddActivity.h"
@@ -23,6 +16,7 @@
 #include "core/windows/profiles/frmPassword.h"
 #include "core/windows/setup/frmSetup.h"
 #include "support/test_session.h"
+#include "support/windows/controls.h"
 #include "tools/windows/frmMedicalDisclaimer.h"
 #include "tools/windows/frmTools.h"
 #include "weightlog/windows/frmData.h"
@@ -39,8 +33,7 @@ struct House {
     FillSelectedNutrientsArray(session->nutrients, session.Data());
     session->settings.ShowSplash = false;
     session->settings.MedicalDisclaimer = true;  // it is a window of its own here
-    session.Data().Execute(QStringLiteral(
-        "INSERT INTO weight_loss ( PersonID, ThisDate, ThisWeight, ThisLoss ) VALUES ( 1, #2/1/2026#, 200, 0 );"));
+    session.Weigh(QDate(2026, 2, 1), 200);
     navigator.ShowHelp = [](const QString &) {};
   }
   TestSession session;
@@ -56,8 +49,7 @@ struct Room {
 
 std::unique_ptr<QWidget> OpenFrame(House &house) {
   ContentForms forms;
-  forms.insert(QStringLiteral("frmData"),
-               [&house](QWidget *parent) { return new frmData(*house.session, house.navigator, parent); });
+  forms.insert("frmData", [&house](QWidget *parent) { return new frmData(*house.session, house.navigator, parent); });
   auto frame =
       std::make_unique<frmMDI>(FrameParts{*house.session, house.navigator, house.hooks, *house.system, forms, {}});
   frame->MDIForm_Load();
@@ -72,32 +64,26 @@ const Room rooms[] = {
      }},
     {"frmPassword",
      [](House &house) -> std::unique_ptr<QWidget> {
-       return std::make_unique<frmPassword>(*house.session, QStringLiteral("1"), true, nullptr);
+       return std::make_unique<frmPassword>(*house.session, "1", true, nullptr);
      }},
     {"frmEditPassword",
      [](House &house) -> std::unique_ptr<QWidget> {
-       return std::make_unique<frmEditPassword>(*house.session, QStringLiteral("1"), QStringLiteral("Ann"), nullptr);
+       return std::make_unique<frmEditPassword>(*house.session, "1", "Ann", nullptr);
      }},
     {"frmCalendar",
      [](House &house) -> std::unique_ptr<QWidget> {
        return std::make_unique<frmCalendar>(*house.session, QDate(2026, 3, 1), nullptr);
      }},
     {"frmMeter",
-     [](House &) -> std::unique_ptr<QWidget> {
-       return std::make_unique<frmMeter>(QStringLiteral("Title"), QStringLiteral("Caption"), 5, nullptr);
-     }},
+     [](House &) -> std::unique_ptr<QWidget> { return std::make_unique<frmMeter>("Title", "Caption", 5, nullptr); }},
     {"frmSplash",
      [](House &house) -> std::unique_ptr<QWidget> {
        return std::make_unique<frmSplash>(*house.session, *house.system, true, nullptr);
      }},
     {"frmReward",
      [](House &house) -> std::unique_ptr<QWidget> {
-       return std::make_unique<frmReward>(*house.session,
-                                          RewardNotice{QStringLiteral("Daily Reward"),
-                                                       QStringLiteral("You have lost 2 pounds"),
-                                                       QStringLiteral("Well done"),
-                                                       {}},
-                                          nullptr);
+       return std::make_unique<frmReward>(
+           *house.session, RewardNotice{"Daily Reward", "You have lost 2 pounds", "Well done", {}}, nullptr);
      }},
     {"frmTools, goal planner",
      [](House &house) -> std::unique_ptr<QWidget> {
@@ -136,17 +122,15 @@ const Room rooms[] = {
      [](House &house) -> std::unique_ptr<QWidget> {
        return std::make_unique<frmDailyValues>(*house.session, nullptr);
      }},
-    {"frmWizard",
-     [](House &house) -> std::unique_ptr<QWidget> {
+    {"frmWizard", [](House &house) -> std::unique_ptr<QWidget> {
        auto wizard = std::make_unique<frmWizard>(*house.session, house.navigator, WizardMode::AddingProfile, nullptr);
        wizard->Form_Load();
        return wizard;
-     }},
-};
+     }}};
 
 /// Qt's own parts of a control: the control speaks for them.
 bool IsPartOfControl(const QWidget *widget) {
-  if (widget->objectName().startsWith(QStringLiteral("qt_"))) return true;
+  if (widget->objectName().startsWith("qt_")) return true;
   const QWidget *parent = widget->parentWidget();
   for (const char *whole : {"QComboBox", "QAbstractSpinBox", "QHeaderView", "QCalendarWidget", "QMenuBar"}) {
     if (parent && parent->inherits(whole)) return true;
@@ -183,16 +167,16 @@ QStringList FaultsOf(QWidget *widget) {
   if (const auto *label = qobject_cast<QLabel *>(widget)) {
     const bool differs =
         !label->text().isEmpty() && !label->accessibleName().isEmpty() && label->accessibleName() != label->text();
-    return differs ? QStringList(QStringLiteral("a label whose name is not its text")) : QStringList();
+    return differs ? QStringList("a label whose name is not its text") : QStringList();
   }
   const QAccessibleInterface *spoken = QAccessible::queryAccessibleInterface(widget);
   if (!spoken) return {};
-  if (qobject_cast<QComboBox *>(widget) && !HasLabel(*spoken)) return {QStringLiteral("a choice without a label")};
+  if (qobject_cast<QComboBox *>(widget) && !HasLabel(*spoken)) return {"a choice without a label"};
   QStringList faults;
   const bool isControl = (widget->focusPolicy() & Qt::TabFocus) && !widget->inherits("QScrollArea") &&
                          !widget->inherits("QStackedWidget") && !widget->inherits("QTabWidget");
   if (isControl && spoken->text(QAccessible::Name).isEmpty() && !HasLabel(*spoken))
-    faults.append(QStringLiteral("a control without a name"));
+    faults.append("a control without a name");
   if (const auto *view = qobject_cast<QAbstractItemView *>(widget)) faults += MuteTicks(*view);
   return faults;
 }
@@ -222,7 +206,7 @@ TEST_P(AccessibleTree, NamesEveryControlAndHidesNoText) {
 }
 
 INSTANTIATE_TEST_SUITE_P(OfTheProgram, AccessibleTree, testing::ValuesIn(rooms), [](const auto &room) {
-  return QString::fromLatin1(room.param.window).remove(QRegularExpression(QStringLiteral("[^A-Za-z]"))).toStdString();
+  return QString::fromLatin1(room.param.window).remove(QRegularExpression("[^A-Za-z]")).toStdString();
 });
 
 }  // namespace

@@ -38,14 +38,12 @@ TEST_F(FoodLists, ShowWhatTheyNameAndNeverRecipes) {
     int rows;
   };
   const int inGroup = session.ValueOf("Count(*) AS N", "meals_list", "MealGroupID=7").toInt();
-  const std::vector<Case> cases = {
-      {{}, 8793},
-      {{.list = food_kind::preLoaded}, 8791},
-      {{.list = food_kind::myFoods}, 2},
-      {{.list = food_kind::myFoods, .group = 7}, 1},
-      {{.group = 7}, inGroup},
-      {{.list = food_kind::preLoaded, .group = 7}, inGroup - 1},
-  };
+  const std::vector<Case> cases = {{{}, 8793},
+                                   {{.list = food_kind::preLoaded}, 8791},
+                                   {{.list = food_kind::myFoods}, 2},
+                                   {{.list = food_kind::myFoods, .group = 7}, 1},
+                                   {{.group = 7}, inGroup},
+                                   {{.list = food_kind::preLoaded, .group = 7}, inGroup - 1}};
   for (const Case &c : cases) {
     EXPECT_EQ(Count(c.selection), c.rows) << c.selection.list << " " << c.selection.group;
     EXPECT_EQ(Listed(c.selection).size(), c.rows) << c.selection.list << " " << c.selection.group;

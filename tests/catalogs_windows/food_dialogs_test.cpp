@@ -8,10 +8,10 @@
 namespace trimlog {
 namespace {
 
-const QString carbs = QStringLiteral("txtAddRec0(2)");
-const QString fat = QStringLiteral("txtAddRec0(3)");
-const QString calories = QStringLiteral("txtAddRec0(1)");
-const QString netCarbs = QStringLiteral("txtAddRec0(33)");
+const QString carbs = "txtAddRec0(2)";
+const QString fat = "txtAddRec0(3)";
+const QString calories = "txtAddRec0(1)";
+const QString netCarbs = "txtAddRec0(33)";
 
 using FoodPageTest = FoodWindowTest;
 

@@ -1,14 +1,5 @@
 #pragma once
 
-#include <gtest/gtest.h>
-
-#include <QCheckBox>
-#include <QComboBox>
-#include <QLabel>
-#include <QLineEdit>
-#include <QPushButton>
-#include <QTest>
-
 #include "catalogs/food_catalog.h"
 #include "core/session/navigator.h"
 #include "platform/windows/grid/bound_grid.h"

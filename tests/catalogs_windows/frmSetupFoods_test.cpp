@@ -1,5 +1,4 @@
 // Food Setup: its lists, its search, its buttons.
-#include <QAccessible>
 
 #include "catalogs/nutrient_selection.h"
 #include "setup_foods_fixture.h"
@@ -90,7 +89,7 @@ TEST_F(SetupFoodsTest, ARefusedCellPutsTheBoxesBack) {
 TEST_F(SetupFoodsTest, ANutrientThatIsNotShownAnyMoreOrdersNothing) {
   const auto show = [this](std::size_t position, int nutrientID) {
     NutrientSelection selection = ReadNutrientSelection(*session);
-    selection[position] = {nutrientID, QStringLiteral("New"), true, {}};
+    selection[position] = {nutrientID, "New", true, {}};
     SaveNutrientSelection(*session, selection);
   };
   Choose("cboSort", "-Protein");
@@ -431,7 +430,7 @@ TEST_F(SetupFoodsTest, ARefusedRowKeepsTheWindowOpen) {
   Choose("cboRecordTypeMeals", 2);
   List().GoToKey(own);
   const int fat = List().Model().ColumnByName("Nut2");
-  EXPECT_FALSE(List().Model().setData(List().Model().index(0, fat), QStringLiteral("-3")));
+  EXPECT_FALSE(List().Model().setData(List().Model().index(0, fat), "-3"));
   Click("cmdOK");
   EXPECT_TRUE(window->isVisible());
   List().UndoRow();

@@ -1,8 +1,5 @@
 #pragma once
 
-#include <QHeaderView>
-#include <QTabWidget>
-
 #include "catalogs/windows/frmSetupFoods.h"
 #include "core/windows/controls/grid_menu.h"
 #include "food_windows_fixture.h"
@@ -20,9 +17,7 @@ class SetupFoodsTest : public FoodWindowTest {
   }
   BoundGrid &List() { return Find<BoundGrid>(*window, "grdMealsList"); }
   BoundGrid &Found() { return Find<BoundGrid>(*window, "grdMealsSearch"); }
-  static QString Name(const BoundGrid &grid, int row) {
-    return grid.Model().FieldOf(row, QStringLiteral("MealDesc")).toString();
-  }
+  static QString Name(const BoundGrid &grid, int row) { return grid.Model().FieldOf(row, "MealDesc").toString(); }
   void Choose(const QString &box, const QVariant &key) { FoodWindowTest::Choose(*window, box, key); }
   QVariant Chosen(const QString &box) { return Find<QComboBox>(*window, box).currentData(); }
   void Click(const QString &button) { FoodWindowTest::Click(*window, button); }
@@ -67,7 +62,7 @@ class SetupFoodsTest : public FoodWindowTest {
     Q_EMIT grid.MenuWanted({});
     GridMenu &menu = *window->findChild<GridMenu *>();
     menu.hide();
-    QAction *action = menu.findChild<QAction *>(QLatin1String(command));
+    QAction *action = menu.findChild<QAction *>(command);
     ASSERT_TRUE(action && action->isEnabled()) << command;
     action->trigger();
   }

@@ -13,24 +13,16 @@ namespace {
 
 const QLocale english(QLocale::English, QLocale::UnitedStates);
 
-QStringList Titles(const WizardPlan &plan) {
-  QStringList titles;
-  for (int step = 1; step <= plan.WizardSteps(); ++step) titles.append(plan.TitleOf(step));
-  return titles;
-}
-
-TEST(WizardPlan, NamesItsStepsByModeAndScreen) {
-  EXPECT_EQ(Titles(WizardPlan(WizardMode::FirstRun, true)),
-            (QStringList{"Introduction to this Wizard (Step 1 of 5)", "Your Profile Information (Step 2 of 5)",
-                         "Your Weight and Diet Information (Step 3 of 5)", "Your Nutrient Selections (Step 4 of 5)",
-                         "Your Color Scheme (Step 5 of 5)"}));
-  EXPECT_EQ(Titles(WizardPlan(WizardMode::FirstRun, false)).last(), "Your Nutrient Selections (Step 4 of 4)");
-  for (const WizardMode mode : {WizardMode::AddingProfile, WizardMode::CompletingProfile}) {
-    const WizardPlan plan(mode, true);
-    EXPECT_EQ(Titles(plan),
-              (QStringList{"Your Profile Information (Step 1 of 2)", "Your Weight Information (Step 2 of 2)"}));
-    EXPECT_EQ(plan.NextCaption(1) + plan.NextCaption(2), "&Next&Finish");
-    EXPECT_THROW(plan.StepAt(3), Error);
+TEST(WizardPlan, NumbersItsStepsByModeAndScreen) {
+  for (const auto &[mode, colors, last] :
+       {std::tuple{WizardMode::FirstRun, true, "Your Color Scheme (Step 5 of 5)"},
+        {WizardMode::FirstRun, false, "Your Nutrient Selections (Step 4 of 4)"},
+        {WizardMode::AddingProfile, true, "Your Weight Information (Step 2 of 2)"},
+        {WizardMode::CompletingProfile, true, "Your Weight Information (Step 2 of 2)"}}) {
+    const WizardPlan plan(mode, colors);
+    EXPECT_EQ(plan.TitleOf(plan.WizardSteps()), last);
+    EXPECT_EQ(plan.NextCaption(1) + plan.NextCaption(plan.WizardSteps()), "&Next&Finish");
+    EXPECT_THROW(plan.StepAt(plan.WizardSteps() + 1), Error);
   }
 }
 
@@ -74,8 +66,8 @@ TEST(WizardNutrients, KeepTickAndTargetInStep) {
     bool ticked;
     const char *shown;
   };
-  const QString tick = QStringLiteral("IsModified");
-  const QString amount = QStringLiteral("Amount");
+  const QString tick = "IsModified";
+  const QString amount = "Amount";
   const std::vector<Case> cases = {{false, "None", {{tick, true}}, true, "(type a value)"},
                                    {true, "(type a value)", {{tick, false}}, false, "None"},
                                    {true, "20", {{tick, false}}, false, "20"},
@@ -85,9 +77,7 @@ TEST(WizardNutrients, KeepTickAndTargetInStep) {
                                    {true, "None", {{amount, "20"}}, true, "20"},
                                    {false, "None", {{amount, ""}}, false, "None"}};
   for (const Case &c : cases) {
-    GridRowEdit row(1, false, [&](const QString &field) {
-      return field == tick ? Value(c.tick) : Value(QString::fromLatin1(c.target));
-    });
+    GridRowEdit row(1, false, [&](const QString &field) { return field == tick ? Value(c.tick) : Value(c.target); });
     for (auto typed = c.typed.begin(); typed != c.typed.end(); ++typed) row.Set(typed.key(), typed.value());
     MatchTickAndTarget(row);
     EXPECT_EQ(row.Get(tick).toBool(), c.ticked) << c.target;
@@ -137,7 +127,7 @@ TEST(WizardNutrients, RecommendTheBandOfAgeAndGender) {
 
 WizardAnswers Answers(const QString &diet) {
   WizardAnswers answers;
-  answers.person = {.PersonName = QStringLiteral("O'Brien \"Bo\""),
+  answers.person = {.PersonName = "O'Brien \"Bo\"",
                     .Goal = 150,
                     .HeightFeet = 5,
                     .HeightInches = 6,
@@ -150,8 +140,7 @@ WizardAnswers Answers(const QString &diet) {
 }
 
 QString TargetOf(TestSession &session, int nutrientID) {
-  return session.ValueOf(QStringLiteral("Amount"), QStringLiteral("temp_meals_search"),
-                         QStringLiteral("MealID=%1").arg(nutrientID));
+  return session.ValueOf("Amount", "temp_meals_search", QStringLiteral("MealID=%1").arg(nutrientID));
 }
 
 TEST(WizardNutrients, FollowTheDiet) {
@@ -166,7 +155,7 @@ TEST(WizardNutrients, FollowTheDiet) {
                                    {"102", 1, "None"}, {"103", 2, "50"},    {"103", 4, "120"},  {"104", 1, "2200"},
                                    {"106", 13, "1.6"}, {"106", 11, "4000"}, {"100", 20, "None"}};
   for (const Case &c : cases) {
-    FillWizardNutrients(*session, Answers(QString::fromLatin1(c.diet)));
+    FillWizardNutrients(*session, Answers(c.diet));
     EXPECT_EQ(TargetOf(session, c.nutrientID), c.target) << c.diet << " nutrient " << c.nutrientID;
     EXPECT_EQ(CountWizardNutrients(*session), 10) << c.diet;
   }
@@ -177,7 +166,7 @@ TEST(WizardNutrients, FollowTheDiet) {
 
 TEST(WizardNutrients, TheCustomizedPlanStartsWithTheChosenNutrient) {
   TestSession session;
-  WizardAnswers answers = Answers(QStringLiteral("108"));
+  WizardAnswers answers = Answers("108");
   answers.nutrientID = 15;
   FillWizardNutrients(*session, answers);
   Recordset rows = session.Data().OpenRecordset(
@@ -188,7 +177,7 @@ TEST(WizardNutrients, TheCustomizedPlanStartsWithTheChosenNutrient) {
 
 TEST(WizardNutrients, RefuseNoneAndMoreThanTen) {
   TestSession session;
-  FillWizardNutrients(*session, Answers(QStringLiteral("100")));
+  FillWizardNutrients(*session, Answers("100"));
   EXPECT_TRUE(CheckWizardNutrients(*session));
   session.Data().Execute("UPDATE temp_meals_search SET IsModified = True WHERE (MealID=15);");
   session.boxes.Expect(
@@ -219,32 +208,28 @@ TEST(WizardFinish, TheFirstRunWritesProfileWeightTargetsAndSelection) {
   TestSession session;
   ForgetProfiles(session);
   EXPECT_TRUE(NeedsWizard(*session));
-  WizardAnswers answers = Answers(QStringLiteral("108"));
+  WizardAnswers answers = Answers("108");
   answers.nutrientID = 15;
   FillWizardNutrients(*session, answers);
   session.Data().Execute("UPDATE temp_meals_search SET Amount = \"77,5\" WHERE (MealID=1);");
   session.Data().Execute("UPDATE temp_meals_search SET Amount = \"1800.5\" WHERE (MealID=2);");
 
   EXPECT_EQ(FinishWizard(*session, answers, WizardMode::FirstRun), "1");
-  EXPECT_EQ(session.ValueOf("PersonName", "people", "PersonID=1"), "O'Brien ''Bo''");
-  EXPECT_EQ(session.ValueOf("Goal", "people", "PersonID=1"), "150");
-  EXPECT_EQ(session.ValueOf("GenderID", "people", "PersonID=1"), "2");
-  EXPECT_EQ(session.ValueOf("BackColor", "people", "PersonID=1"), "16769216");
-  EXPECT_EQ(session.ValueOf("ThisWeight", "weight_loss", "PersonID=1 AND ThisDate=#3/1/2026#"), "185.5");
-  const QString set = session.ValueOf("NutTargetID", "people", "PersonID=1");
-  EXPECT_EQ(session.ValueOf("TargetDesc", "nutrition_targets", "TargetID=" + set), "My Targets");
-  EXPECT_EQ(session.ValueOf("Carbs", "nutrition_targets", "TargetID=" + set), "1800.5");
-  EXPECT_EQ(session.ValueOf("Iron", "nutrition_targets", "TargetID=" + set), "") << "not ticked: no target";
-  EXPECT_EQ(session.ValueOf("NutrientID1", "selected_nutrients", "PersonID=1"), "15");
-  EXPECT_EQ(session.ValueOf("NutDescription1", "selected_nutrients", "PersonID=1"), "Vit C");
+  EXPECT_EQ(session.Rows("SELECT PersonName, Goal, GenderID, BackColor FROM people WHERE PersonID=1;"),
+            "O'Brien ''Bo''|150|2|16769216");
+  EXPECT_EQ(session.Rows("SELECT ThisDate, ThisWeight FROM weight_loss WHERE PersonID=1;"), "2026-03-01|185.5");
+  EXPECT_EQ(session.Rows("SELECT TargetDesc, Carbs, Iron FROM nutrition_targets WHERE TargetID=?;",
+                         {session.ValueOf("NutTargetID", "people", "PersonID=1").toInt()}),
+            "My Targets|1800.5|")
+      << "iron is not ticked: no target";
+  EXPECT_EQ(session.Rows("SELECT NutrientID1, NutDescription1 FROM selected_nutrients WHERE PersonID=1;"), "15|Vit C");
   EXPECT_EQ(session->settings.NutrientID, 15);
 }
 
 TEST(WizardFinish, IsNeededWithoutGoalOrWeights) {
   TestSession session;
   EXPECT_TRUE(NeedsWizard(*session)) << "no weights yet";
-  session.Data().Execute(
-      "INSERT INTO weight_loss ( PersonID, ThisDate, ThisWeight, ThisLoss ) VALUES ( 1, #3/1/2026#, 180, 0 );");
+  session.Weigh(QDate(2026, 3, 1), 180);
   EXPECT_FALSE(NeedsWizard(*session));
   session.Data().Execute("UPDATE people SET Goal = \"\" WHERE (PersonID=1);");
   EXPECT_TRUE(NeedsWizard(*session));
@@ -252,18 +237,20 @@ TEST(WizardFinish, IsNeededWithoutGoalOrWeights) {
 
 TEST(WizardFinish, AFurtherProfileLeavesTheSelectionAlone) {
   TestSession session;
-  FillWizardNutrients(*session, Answers(QStringLiteral("101")));
-  const QString before = session.ValueOf("NutrientID1", "selected_nutrients", "PersonID=1");
-  const QString sets = session.ValueOf("Max(TargetID) AS M", "nutrition_targets");
-  EXPECT_EQ(FinishWizard(*session, Answers(QStringLiteral("101")), WizardMode::AddingProfile), "2");
-  EXPECT_EQ(session.ValueOf("NutrientID1", "selected_nutrients", "PersonID=1"), before);
-  EXPECT_EQ(session.ValueOf("Max(TargetID) AS M", "nutrition_targets"), sets);
+  FillWizardNutrients(*session, Answers("101"));
+  const auto kept = [&session] {
+    return session.Rows("SELECT NutrientID1 FROM selected_nutrients WHERE PersonID=1;") +
+           session.Rows("SELECT Max(TargetID) AS M FROM nutrition_targets;");
+  };
+  const QString before = kept();
+  EXPECT_EQ(FinishWizard(*session, Answers("101"), WizardMode::AddingProfile), "2");
+  EXPECT_EQ(kept(), before);
   EXPECT_EQ(session->settings.NutrientID, 102);
 }
 
 TEST(WizardFinish, CompletesTheProfileInUseAndNobodyElse) {
   TestSession session;
-  session.AddProfile(2, QStringLiteral("Ann"));
+  session.AddProfile(2, "Ann");
   session.Data().Execute("UPDATE people SET Goal=\"\", Password=\"x\", NutTargetID=12 WHERE (PersonID=1);");
   EXPECT_EQ(WizardModeNow(*session), WizardMode::CompletingProfile);
   WizardStart start = StartingAnswers(*session, WizardMode::CompletingProfile);
@@ -272,14 +259,10 @@ TEST(WizardFinish, CompletesTheProfileInUseAndNobodyElse) {
   start.answers.person.Goal = 140;
   start.answers.startingWeight = 181.5;
   EXPECT_EQ(FinishWizard(*session, start.answers, WizardMode::CompletingProfile), "1");
-  EXPECT_EQ(session.ValueOf("Goal", "people", "PersonID=1"), "140");
   EXPECT_EQ(
-      session.ValueOf("Password", "people", "PersonID=1") + session.ValueOf("NutTargetID", "people", "PersonID=1"),
-      "x12");
-  EXPECT_EQ(session.ValueOf("ThisWeight", "weight_loss", "PersonID=1 AND ThisDate=#3/1/2026#"), "181.5");
-  EXPECT_EQ(session.ValueOf("PersonName", "people", "PersonID=2") + session.ValueOf("Goal", "people", "PersonID=2"),
-            "Ann150");
-  EXPECT_EQ(session.ValueOf("Count(*) AS N", "people", "PersonID > 0"), "2");
+      session.Rows("SELECT PersonName, Goal, Password, NutTargetID FROM people WHERE PersonID > 0 ORDER BY PersonID;"),
+      "Test Person|140|x|12; Ann|150||30");
+  EXPECT_EQ(session.Rows("SELECT ThisDate, ThisWeight FROM weight_loss WHERE PersonID=1;"), "2026-03-01|181.5");
   EXPECT_EQ(WizardModeNow(*session), WizardMode::AddingProfile) << "nothing is missing any more";
 
   // With weights and no goal the weights stay.
@@ -290,13 +273,13 @@ TEST(WizardFinish, CompletesTheProfileInUseAndNobodyElse) {
   start.answers.person.Goal = 130;
   FinishWizard(*session, start.answers, WizardMode::CompletingProfile);
   EXPECT_EQ(session.ValueOf("Count(*) AS N", "weight_loss", "PersonID=1"), "1");
-  session->profile.CurrentPersonID = QStringLiteral("-2");
+  session->profile.CurrentPersonID = "-2";
   EXPECT_EQ(WizardModeNow(*session), WizardMode::AddingProfile) << "a sample lacks nothing";
 }
 
 TEST(WizardFinish, WritesAllOrNothing) {
   TestSession session;
-  WizardAnswers answers = Answers(QStringLiteral("101"));
+  WizardAnswers answers = Answers("101");
   session.Data().Execute("DELETE selected_nutrients.*, selected_nutrients.PersonID FROM selected_nutrients;");
   session.Data().Execute("ALTER TABLE selected_nutrients RENAME TO gone;");
   EXPECT_THROW(FinishWizard(*session, answers, WizardMode::FirstRun), Error);

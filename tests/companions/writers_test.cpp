@@ -94,7 +94,7 @@ const std::vector<Writer> &Writers() {
        "activities person -2; meals person -2; notes person -2; measurements person -2; weight_loss person -2", nullptr,
        nullptr, "Error Reseting Data", "An error occurred while resetting the sample data.  ",
        "basMain, ResetSampleProfile"},
-      {"a profile", [](TestSession &s) { AddPerson(*s, {.PersonName = "Zoe"}); }, "people 3"},
+      {"a profile", [](TestSession &s) { AddPerson(*s, {.PersonName = "Zoe"}); }, "people 10"},
       {"the goal's way", [](TestSession &s) { SaveGoalMethod(*s, GoalMethod::ByRate, QDate(2026, 8, 1), "1.5"); },
        "people 1"},
       {"a new food", [](TestSession &s) { AddFood(*s, Food(0)); }, "meals_list 8792"},
@@ -112,36 +112,53 @@ const std::vector<Writer> &Writers() {
          FillWizardNutrients(*s, Answers());
          FinishWizard(*s, Answers(), WizardMode::FirstRun);
        },
-       "people 3; weight_loss person 3 2026-02-28; nutrition_targets 2; selected_nutrients 1"},
+       "people 10; weight_loss person 10 2026-02-28; nutrition_targets 2; selected_nutrients 1"},
       {"the wizard for one more", [](TestSession &s) { FinishWizard(*s, Answers(), WizardMode::AddingProfile); },
-       "people 3; weight_loss person 3 2026-02-28"},
+       "people 10; weight_loss person 10 2026-02-28"},
       {"the administrator",
        [](TestSession &s) {
          s->edition.BizEd = true;
          CreateAdminProfile(*s);
        },
-       "people; weight_loss"},
-  };
+       "people; weight_loss"}};
   return writers;
 }
 
 class WritersTest : public ::testing::Test {
  protected:
+  /// Person 9 with a weight, a note and a reward, the food beside those that are written, and another target set: what
+  /// no writer may touch.
+  static QString Bystanders(TestSession &session) {
+    return session.Rows("SELECT people.* FROM people WHERE PersonID=9;") +
+           session.Rows("SELECT ThisWeight, ThisLoss FROM weight_loss WHERE PersonID=9;") +
+           session.Rows("SELECT Notes FROM notes WHERE PersonID=9;") +
+           session.Rows("SELECT rewards.* FROM rewards WHERE PersonID=9;") +
+           session.Rows("SELECT meals_list.* FROM meals_list WHERE MealID=11;") +
+           session.Rows("SELECT nutrition_targets.* FROM nutrition_targets WHERE TargetID=101;") +
+           session.Rows("SELECT selected_nutrients.* FROM selected_nutrients WHERE PersonID<>1;");
+  }
   static void Prepare(TestSession &session, const Writer &writer) {
+    session.AddProfile(9, "Cid");
+    session.Weigh(QDate(2026, 3, 2), 160, 9);
+    session.Data().Execute(
+        "INSERT INTO notes ( PersonID, RecordID, ThisDate, Notes ) VALUES ( 9, 1, #3/1/2026#, \"n\" );");
+    session.Data().Execute("INSERT INTO rewards ( PersonID, RewardType, RewardWeight ) VALUES ( 9, 1, 7 );");
     session.AddProfile(2, "Ann");
     if (writer.asked) session.boxes.Expect(writer.asked, "Are you sure you want to continue?", BoxButton::Yes);
   }
 };
 
-TEST_F(WritersTest, EachAnnouncesWhatItWrote) {
+TEST_F(WritersTest, EachAnnouncesWhatItWroteAndTouchesNothingElse) {
   for (const Writer &writer : Writers()) {
     SCOPED_TRACE(writer.what);
     TestSession session;
     Prepare(session, writer);
     if (writer.success) session.boxes.Expect(writer.success, "");
     HeardChanges heard(*session);
+    const QString before = Bystanders(session);
     writer.act(session);
     EXPECT_EQ(heard.Take(), writer.told);
+    EXPECT_EQ(Bystanders(session), before);
     EXPECT_TRUE(session.LogLines().isEmpty());
   }
 }

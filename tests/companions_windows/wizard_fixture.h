@@ -1,13 +1,5 @@
 #pragma once
 
-#include <gtest/gtest.h>
-
-#include <QApplication>
-#include <QDialog>
-#include <QLabel>
-#include <QLineEdit>
-#include <QTest>
-
 #include "companions/windows/frmWizard.h"
 #include "platform/store/recordset.h"
 #include "platform/windows/grid/bound_grid.h"
@@ -80,27 +72,22 @@ class WizardTest : public testing::Test {
     });
     return StartWiz(*session, navigator, force, nullptr);
   }
-  void Weigh(double weight) {
-    session.Data().Execute(QStringLiteral("INSERT INTO weight_loss ( PersonID, ThisDate, ThisWeight, ThisLoss ) "
-                                          "VALUES ( 1, #3/1/2026#, ?, 0 );"),
-                           {weight});
-  }
+  void Weigh(double weight) { session.Weigh(QDate(2026, 3, 1), weight); }
   void ExpectLeaveQuestion(BoxButton answer) {
-    session.boxes.Expect(QStringLiteral("Trimlog Pro Configuration Wizard"),
-                         QStringLiteral("What you have entered so far will be lost.  Do you want to leave the wizard?"),
-                         answer);
+    session.boxes.Expect("Trimlog Pro Configuration Wizard",
+                         "What you have entered so far will be lost.  Do you want to leave the wizard?", answer);
   }
   static QString TextOf(QWidget &wizard, const char *name) {
-    return Find<QWidget>(wizard, QString::fromLatin1(name)).property("text").toString();
+    return Find<QWidget>(wizard, name).property("text").toString();
   }
   static QString Title(QWidget &wizard) { return TextOf(wizard, "lblTitle"); }
   QString Person(const QString &field, int personID) {
-    return session.ValueOf(field, QStringLiteral("people"), QStringLiteral("PersonID=%1").arg(personID));
+    return session.ValueOf(field, "people", QStringLiteral("PersonID=%1").arg(personID));
   }
-  QString Count(const QString &table, const QString &where = QStringLiteral("1=1")) {
+  QString Count(const QString &table, const QString &where = "1=1") {
     return session.Data()
         .OpenRecordset(QStringLiteral("SELECT Count(*) AS N FROM %1 WHERE %2;").arg(table, where))
-        .Text(QStringLiteral("N"));
+        .Text("N");
   }
 
   TestSession session;

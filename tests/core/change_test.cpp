@@ -59,20 +59,20 @@ TEST(ChangeTest, WhatFailsAfterwardsIsLoggedAndTakesNothingBack) {
   TestSession session;
   HeardChanges heard(*session);
   Change change(*session);
-  session.Data().Execute(QStringLiteral("UPDATE people SET people.Goal = \"99\" WHERE (people.PersonID=1);"));
-  change.Afterwards([] { throw Error(error_number::other, QStringLiteral("not read")); });
+  session.Data().Execute("UPDATE people SET people.Goal = \"99\" WHERE (people.PersonID=1);");
+  change.Afterwards([] { throw Error(error_number::other, "not read"); });
   change.Announce({.table = Table::People, .keys = {1}});
   change.Commit();
   EXPECT_EQ(heard.Take(), "people 1");
-  EXPECT_EQ(session.ValueOf(QStringLiteral("Goal"), QStringLiteral("people"), QStringLiteral("PersonID=1")), "99");
-  EXPECT_EQ(session.LogLines(), QStringList{QStringLiteral("2026-03-01 12:00:00 - Change, Commit, not read")});
+  EXPECT_EQ(session.ValueOf("Goal", "people", "PersonID=1"), "99");
+  EXPECT_EQ(session.LogLines(), QStringList{"2026-03-01 12:00:00 - Change, Commit, not read"});
 }
 
 TEST(DataChangeTest, ConcernsThePersonsWhoseRowsItMayHold) {
-  const QString ann = QStringLiteral("2");
+  const QString ann = "2";
   EXPECT_TRUE((DataChange{.table = Table::Notes}).Concerns(ann));
   EXPECT_TRUE((DataChange{.table = Table::Notes, .personID = ann}).Concerns(ann));
-  EXPECT_FALSE((DataChange{.table = Table::Notes, .personID = QStringLiteral("1")}).Concerns(ann));
+  EXPECT_FALSE((DataChange{.table = Table::Notes, .personID = "1"}).Concerns(ann));
   EXPECT_TRUE((DataChange{.table = Table::People}).Concerns(ann));
   EXPECT_TRUE((DataChange{.table = Table::People, .keys = {1, 2}}).Concerns(ann));
   EXPECT_FALSE((DataChange{.table = Table::People, .keys = {1, 3}}).Concerns(ann));

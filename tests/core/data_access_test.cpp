@@ -10,15 +10,13 @@ namespace {
 
 class DataAccess : public testing::Test {
  protected:
-  void Run(const char *statement) { file.database->Execute(QString::fromLatin1(statement)); }
+  void Run(const char *statement) { file.database->Execute(statement); }
   std::string Next(const char *table, const char *person = "") {
-    return GetNextID(*file.database, QString::fromLatin1(table), QString::fromLatin1(person)).toStdString();
+    return GetNextID(*file.database, table, person).toStdString();
   }
   std::string Get(const char *field, const char *table, const char *where = "", const char *alias = "",
                   const Params &params = {}) {
-    return GetDataValue(*file.database, QString::fromLatin1(field), QString::fromLatin1(table),
-                        QString::fromLatin1(where), QString::fromLatin1(alias), params)
-        .toStdString();
+    return GetDataValue(*file.database, field, table, where, alias, params).toStdString();
   }
 
   FreshFile file;
@@ -33,28 +31,25 @@ TEST_F(DataAccess, OneValueAsPlainText) {
   struct Case {
     const char *field, *table, *where, *alias, *value;
   };
-  for (const Case &c : {
-           Case{"PersonName", "people", "people.PersonID=1", "", "Ann O'Brien"},
-           Case{"people.PersonName", "people", "", "", "Ann O'Brien"},
-           Case{"HeightFeet", "people", "PersonID=1", "", "1.75"},
-           Case{"BirthDate", "people", "PersonID=1", "", "1990-04-07"},
-           Case{"IsModified", "meals_list", "MealID=3", "", "-1"},
-           Case{"Max(MealID) AS Highest", "meals_list", "", "Highest", "3"},
-           Case{"Max(MealID) AS Highest", "meals_list", "MealID>3", "Highest", ""},
-           Case{"PersonName", "people", "PersonID=2", "", ""},
-           Case{"Password", "people", "PersonID=1", "", ""},
-           Case{"NoSuchColumn", "people", "PersonID=1", "", ""},
-           Case{"PersonName", "no_such_table", "", "", ""},
-           Case{"PersonName", "people", "this is (no criterion", "", ""},
-           Case{"Max(MealID) AS Highest", "meals_list", "", "Lowest", ""},
-       }) {
+  for (const Case &c :
+       {Case{"PersonName", "people", "people.PersonID=1", "", "Ann O'Brien"},
+        Case{"people.PersonName", "people", "", "", "Ann O'Brien"},
+        Case{"HeightFeet", "people", "PersonID=1", "", "1.75"},
+        Case{"BirthDate", "people", "PersonID=1", "", "1990-04-07"},
+        Case{"IsModified", "meals_list", "MealID=3", "", "-1"},
+        Case{"Max(MealID) AS Highest", "meals_list", "", "Highest", "3"},
+        Case{"Max(MealID) AS Highest", "meals_list", "MealID>3", "Highest", ""},
+        Case{"PersonName", "people", "PersonID=2", "", ""}, Case{"Password", "people", "PersonID=1", "", ""},
+        Case{"NoSuchColumn", "people", "PersonID=1", "", ""}, Case{"PersonName", "no_such_table", "", "", ""},
+        Case{"PersonName", "people", "this is (no criterion", "", ""},
+        Case{"Max(MealID) AS Highest", "meals_list", "", "Lowest", ""}}) {
     EXPECT_EQ(Get(c.field, c.table, c.where, c.alias), c.value) << c.field << ' ' << c.table << ' ' << c.where;
   }
   EXPECT_EQ(Get("PersonName", "people", "GenderID=? AND ((people.PersonID)=1) ", "", {2}), "Ann O'Brien");
   EXPECT_EQ(Get("PersonName", "people", "GenderID=? AND ((people.PersonID)=-1) ", "", {2}), "");
   EXPECT_EQ(Get("PersonName", "people", "PersonName=\"=1", "", {}), "") << "a text that is not closed";
-  EXPECT_EQ(Get("PersonID", "people", "PersonName=?", "", {QStringLiteral("ann o'brien")}), "1");
-  EXPECT_EQ(Get("PersonID", "people", "PersonName=?", "", {QStringLiteral("x\" OR \"\"=\"")}), "");
+  EXPECT_EQ(Get("PersonID", "people", "PersonName=?", "", {"ann o'brien"}), "1");
+  EXPECT_EQ(Get("PersonID", "people", "PersonName=?", "", {"x\" OR \"\"=\""}), "");
 }
 
 TEST_F(DataAccess, NextKeys) {
@@ -73,9 +68,9 @@ TEST_F(DataAccess, NextKeys) {
   EXPECT_EQ(Next("notes", "-2"), "1") << "another person's notes do not count";
   EXPECT_EQ(Next("other_daily_data", "-2"), "4");
   EXPECT_EQ(Next("meals_list"), "70001");
-  EXPECT_EQ(GetNextIDExt(*file.database, QStringLiteral("notes"), QStringLiteral("1")).toStdString(), "42");
-  EXPECT_THROW(GetNextIDExt(*file.database, QStringLiteral("nutrition_targets")), Error);
-  EXPECT_THROW(GetNextIDExt(*file.database, QStringLiteral("other_daily_data"), QStringLiteral("1")), Error);
+  EXPECT_EQ(GetNextIDExt(*file.database, "notes", "1"), "42");
+  EXPECT_THROW(GetNextIDExt(*file.database, "nutrition_targets"), Error);
+  EXPECT_THROW(GetNextIDExt(*file.database, "other_daily_data", "1"), Error);
   EXPECT_THROW(Next("uom"), Error);
 }
 

@@ -11,7 +11,7 @@ namespace trimlog {
 namespace {
 
 QStringList Ticked(const QString &text) {
-  static const QRegularExpression word(QStringLiteral("`([^`]+)`( to `(\\D+)(\\d+)`)?"));
+  static const QRegularExpression word("`([^`]+)`( to `(\\D+)(\\d+)`)?");
   QStringList names;
   for (auto match = word.globalMatch(text); match.hasNext();) {
     const auto found = match.next();
@@ -23,14 +23,13 @@ QStringList Ticked(const QString &text) {
 
 /// Columns with their declared types, by table, as docs/data-file.md tells them.
 QHash<QString, QHash<QString, QString>> ToldTables() {
-  QFile file(SourceDir() + QStringLiteral("/docs/data-file.md"));
+  QFile file(SourceDir() + "/docs/data-file.md");
   EXPECT_TRUE(file.open(QIODevice::ReadOnly));
   QHash<QString, QHash<QString, QString>> told;
   QStringList tables;
   const QStringList lines = QString::fromUtf8(file.readAll()).split(QLatin1Char('\n'));
   for (const QString &line : lines) {
-    if (line.startsWith(QLatin1Char('#')))
-      tables = line.startsWith(QLatin1String("### `")) ? Ticked(line) : QStringList();
+    if (line.startsWith(QLatin1Char('#'))) tables = line.startsWith("### `") ? Ticked(line) : QStringList();
     const QStringList cells = line.split(QLatin1Char('|'));
     for (const QString &table : tables) {
       auto &columns = told[table];
@@ -54,7 +53,7 @@ TEST(DataFileDocument, TellsEveryTableAndColumnOfTheFile) {
       EXPECT_TRUE(columns.contains(column)) << table.name.toStdString() << '.' << column.toStdString();
     }
     for (const SchemaColumn &column : table.columns) {
-      EXPECT_EQ(columns.take(column.name).toStdString(), DeclaredType(column.type, column.length).toStdString())
+      EXPECT_EQ(columns.take(column.name), DeclaredType(column.type, column.length))
           << table.name.toStdString() << '.' << column.name.toStdString();
     }
     EXPECT_TRUE(columns.isEmpty()) << table.name.toStdString() << " has no " << columns.keys().join(u' ').toStdString();

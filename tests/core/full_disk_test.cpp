@@ -24,21 +24,18 @@ TEST(FullDiskTest, TheDataFileKeepsWhatItHadAndGoesOnLater) {
   HeardChanges heard(*session);
   const auto write = [&session] {
     Change change(*session);
-    session.AddProfile(2, QStringLiteral("Ann"));
-    session.Data().Execute(
-        QStringLiteral("INSERT INTO notes ( PersonID, RecordID, ThisDate, Notes ) VALUES ( 2, 1, #3/1/2026#, ? );"),
-        {QString(4000000, QLatin1Char('x'))});
+    session.AddProfile(2, "Ann");
+    session.Data().Execute("INSERT INTO notes ( PersonID, RecordID, ThisDate, Notes ) VALUES ( 2, 1, #3/1/2026#, ? );",
+                           {QString(4000000, QLatin1Char('x'))});
     change.Announce({.table = Table::People, .keys = {2}});
     change.Commit();
   };
-  const FailureExit exit{QStringLiteral("m"), QStringLiteral("p"), QStringLiteral("Error Saving"),
-                         QStringLiteral("Not saved.")};
+  const FailureExit exit{"m", "p", "Error Saving", "Not saved."};
   {
     const FullDisk full(static_cast<rlim_t>(QFileInfo(session->DataFilePath()).size()));
-    session.boxes.Expect(QStringLiteral("Error Saving"), QStringLiteral("Not saved."));
+    session.boxes.Expect("Error Saving", "Not saved.");
     EXPECT_FALSE(Guarded(*session, exit, write));
-    EXPECT_EQ(session.ValueOf(QStringLiteral("PersonName"), QStringLiteral("people"), QStringLiteral("PersonID=2")),
-              "");
+    EXPECT_EQ(session.ValueOf("PersonName", "people", "PersonID=2"), "");
   }
   EXPECT_EQ(heard.Take(), "");
   EXPECT_EQ(session.LogLines().size(), 1);
@@ -49,20 +46,20 @@ TEST(FullDiskTest, TheDataFileKeepsWhatItHadAndGoesOnLater) {
 
 TEST(FullDiskTest, SettingsAndLogKeepWhatTheyHad) {
   TestSession session;
-  const QString path = session.directory.filePath(QStringLiteral("Trimlog.ini"));
+  const QString path = session.directory.filePath("Trimlog.ini");
   const auto settings = OpenSettingsFile(path);
-  ASSERT_TRUE(settings->SaveSettingString(settingsRoot, QStringLiteral("UomID"), QStringLiteral("2")));
+  ASSERT_TRUE(settings->SaveSettingString(settingsRoot, "UomID", "2"));
   const QByteArray before = Content(path);
-  LogError(*session, QStringLiteral("m"), QStringLiteral("p"), QStringLiteral("first"));
+  LogError(*session, "m", "p", "first");
   const QStringList lines = session.LogLines();
   {
     const FullDisk full(10);
-    EXPECT_FALSE(settings->SaveSettingString(settingsRoot, QStringLiteral("UserName"), QStringLiteral("Ann")));
-    LogError(*session, QStringLiteral("m"), QStringLiteral("p"), QStringLiteral("second"));
+    EXPECT_FALSE(settings->SaveSettingString(settingsRoot, "UserName", "Ann"));
+    LogError(*session, "m", "p", "second");
   }
   EXPECT_EQ(Content(path), before);
   EXPECT_EQ(session.LogLines(), lines);
-  EXPECT_TRUE(settings->SaveSettingString(settingsRoot, QStringLiteral("UomID"), QStringLiteral("1")));
+  EXPECT_TRUE(settings->SaveSettingString(settingsRoot, "UomID", "1"));
   EXPECT_TRUE(Content(path).contains("UserName=Ann")) << "written with the next that the disk takes";
 }
 

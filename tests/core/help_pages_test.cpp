@@ -24,7 +24,7 @@ class HelpPagesTest : public ::testing::Test {
           "<table><tr><td>Enter</td><td>next day</td></tr></table>");
   }
   void Write(const char *name, const QByteArray &body) {
-    QFile file(folder_ + QLatin1String(name) + QStringLiteral(".html"));
+    QFile file(folder_ + QLatin1String(name) + ".html");
     ASSERT_TRUE(file.open(QIODevice::WriteOnly));
     file.write("<!doctype html><html><head><title>x</title></head><body>" + body + "</body></html>");
   }
@@ -48,9 +48,9 @@ TEST_F(HelpPagesTest, ATopicIsAPageAndAPlaceOnIt) {
                                     {"weights", "weights.html"},
                                     {"weights#keys", "weights.html#keys"},
                                     {"nowhere#keys", "index.html"}}) {
-    EXPECT_EQ(HelpAddress(folder_, QLatin1String(topic)).toString().toStdString(), path.toStdString() + page) << topic;
+    EXPECT_EQ(HelpAddress(folder_, topic).toString().toStdString(), path.toStdString() + page) << topic;
   }
-  EXPECT_TRUE(HelpAddress(folder_ + QStringLiteral("none/"), QStringLiteral("weights")).isEmpty());
+  EXPECT_TRUE(HelpAddress(folder_ + "none/", "weights").isEmpty());
 }
 
 TEST_F(HelpPagesTest, ASearchFindsThePagesThatHoldAllWords) {
@@ -65,8 +65,7 @@ TEST_F(HelpPagesTest, ASearchFindsThePagesThatHoldAllWords) {
       {"enter \"next", "weights#keys"},
       {"weight food", ""},
       {"(", ""},
-      {"  ", ""},
-  };
+      {"  ", ""}};
   for (const auto &[typed, found] : searches) EXPECT_EQ(Found(typed).toStdString(), found) << typed;
 }
 
@@ -75,23 +74,23 @@ TEST_F(HelpPagesTest, WhatIsTypedAndFoundIsNeverMarkup) {
     const QString words = QString::fromUtf8(typed);
     return SearchPage(words, SearchHelp(ReadHelpPages(folder_), SearchWords(words)), HelpAddress(folder_, {}));
   };
-  EXPECT_TRUE(page("fat").contains(QStringLiteral("Percent of sugar &amp; <b>fat</b> &lt;total&gt;.")));
-  EXPECT_TRUE(page("fat").contains(QStringLiteral("1 page was found for <b>fat</b>.")));
-  EXPECT_TRUE(page("weight").contains(QStringLiteral("2 pages were found")));
-  EXPECT_TRUE(page("<i>no").contains(QStringLiteral("No page was found for <b>&lt;i&gt;no</b>")));
-  EXPECT_TRUE(page(" ").contains(QStringLiteral("Type a word")));
+  EXPECT_TRUE(page("fat").contains("Percent of sugar &amp; <b>fat</b> &lt;total&gt;."));
+  EXPECT_TRUE(page("fat").contains("1 page was found for <b>fat</b>."));
+  EXPECT_TRUE(page("weight").contains("2 pages were found"));
+  EXPECT_TRUE(page("<i>no").contains("No page was found for <b>&lt;i&gt;no</b>"));
+  EXPECT_TRUE(page(" ").contains("Type a word"));
 }
 
 TEST(HelpFiles, AreSearchedAsTheyAreShipped) {
-  const std::vector<HelpSection> sections = ReadHelpPages(SourceDir() + QStringLiteral("/help/"));
+  const std::vector<HelpSection> sections = ReadHelpPages(SourceDir() + "/help/");
   const auto first = [&](const char *typed) {
-    const std::vector<HelpSection> found = SearchHelp(sections, SearchWords(QLatin1String(typed)));
+    const std::vector<HelpSection> found = SearchHelp(sections, SearchWords(typed));
     return found.empty() ? QString() : found.front().address.fileName();
   };
-  EXPECT_EQ(first("net calories").toStdString(), "netcalories.html");
-  EXPECT_EQ(first("password").toStdString(), "profiles.html");
-  EXPECT_EQ(first("wizard").toStdString(), "wizard.html");
-  EXPECT_EQ(HelpTopicOf(u"RewardsPage").toStdString(), "options#rewards");
+  EXPECT_EQ(first("net calories"), "netcalories.html");
+  EXPECT_EQ(first("password"), "profiles.html");
+  EXPECT_EQ(first("wizard"), "wizard.html");
+  EXPECT_EQ(HelpTopicOf(u"RewardsPage"), "options#rewards");
 }
 
 }  // namespace

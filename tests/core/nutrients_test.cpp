@@ -21,9 +21,8 @@ TEST(NutrientVocabulary, EveryNutrientHasItsColumnAndPattern) {
       {"Alcohol", "0.000"},       {"CalFromFat", "0"},        {"CalFromFatPct", "0"},  {"CalFromProtein", "0"},
       {"CalFromProteinPct", "0"}, {"CalFromCarb", "0"},       {"CalFromCarbPct", "0"}, {"Custom1", "0.00"},
       {"Custom2", "0.00"},        {"Custom3", "0.00"},        {"Custom4", "0.00"},     {"Custom5", "0.00"},
-      {"NetCarbs", "0"},          {"SugarAlcohols", "0.000"}, {"TransFat", "0.000"},
-  };
-  const QStringList columns = session.Data().ColumnNames(QStringLiteral("meals"));
+      {"NetCarbs", "0"},          {"SugarAlcohols", "0.000"}, {"TransFat", "0.000"}};
+  const QStringList columns = session.Data().ColumnNames("meals");
   for (int i = 0; i < nutrientCount; ++i) {
     const QString &field = nutrients.NutrientDefs[i].fieldName;
     EXPECT_EQ(field.toStdString(), expected[i].first) << "NutrientID " << i + 1;
@@ -31,44 +30,43 @@ TEST(NutrientVocabulary, EveryNutrientHasItsColumnAndPattern) {
     EXPECT_TRUE(columns.contains(field)) << expected[i].first;
     EXPECT_FALSE(nutrients.NutrientDefs[i].description.isEmpty()) << expected[i].first;
   }
-  EXPECT_EQ(nutrients.NutrientDefs[34].descriptionPlusUnit.toStdString(), "Trans Fat (g)");
-  EXPECT_EQ(GetNutrientFormat(QStringLiteral("WaterConsumed")).toStdString(), "0.00");
+  EXPECT_EQ(nutrients.NutrientDefs[34].descriptionPlusUnit, "Trans Fat (g)");
+  EXPECT_EQ(GetNutrientFormat("WaterConsumed"), "0.00");
 }
 
 TEST(NutrientVocabulary, AnIdBeyondTheVocabularyLeavesTheDefinitionsAsTheyWere) {
   TestSession session;
   Nutrients nutrients;
   FillNutrientDefinitions(nutrients, session.Data());
-  session.Data().Execute(
-      QStringLiteral("INSERT INTO nutrients ( NutrientID, NutFieldName ) VALUES ( 36, \"Caffeine\" );"));
+  session.Data().Execute("INSERT INTO nutrients ( NutrientID, NutFieldName ) VALUES ( 36, \"Caffeine\" );");
   try {
     FillNutrientDefinitions(nutrients, session.Data());
     FAIL() << "36 was taken";
   } catch (const Error &error) {
     EXPECT_EQ(error.Number(), error_number::outOfBounds);
   }
-  EXPECT_EQ(nutrients.NutrientDefs[0].fieldName.toStdString(), "Calories");
+  EXPECT_EQ(nutrients.NutrientDefs[0].fieldName, "Calories");
 }
 
 TEST(NutrientVocabulary, TheSelectionInForceIsTheOneOfTheFile) {
   TestSession session;
-  session->profile.CurrentPersonID = QStringLiteral("-1");  // the selection is not per profile
-  session.Data().Execute(QStringLiteral(
+  session->profile.CurrentPersonID = "-1";  // the selection is not per profile
+  session.Data().Execute(
       "UPDATE selected_nutrients SET NutrientID1=35, NutDescription1=\"My Trans Fat\", NutTotal1=True, "
       "NutrientID2=0, NutDescription2=\"\", NutTotal2=False, NutrientID3=28, NutDescription3=\"Caffeine\", "
-      "NutTotal3=False, NutrientID4=77 WHERE PersonID=1;"));
+      "NutTotal3=False, NutrientID4=77 WHERE PersonID=1;");
   Nutrients nutrients;
   FillSelectedNutrientsArray(nutrients, session.Data());
   const auto &selected = nutrients.SelectedNutrients;
   EXPECT_EQ(selected[0].NutrientID, 35);
-  EXPECT_EQ(selected[0].description.toStdString(), "My Trans Fat");
+  EXPECT_EQ(selected[0].description, "My Trans Fat");
   EXPECT_TRUE(selected[0].NutTotal);
-  EXPECT_EQ(selected[0].descriptionPlusUnit.toStdString(), "Trans Fat (g)");
+  EXPECT_EQ(selected[0].descriptionPlusUnit, "Trans Fat (g)");
   EXPECT_EQ(selected[1].NutrientID, 0);
-  EXPECT_EQ(selected[1].descriptionPlusUnit.toStdString(), "");
-  EXPECT_EQ(selected[2].description.toStdString(), "Caffeine");
+  EXPECT_EQ(selected[1].descriptionPlusUnit, "");
+  EXPECT_EQ(selected[2].description, "Caffeine");
   EXPECT_FALSE(selected[2].NutTotal);
-  EXPECT_EQ(selected[3].descriptionPlusUnit.toStdString(), "") << "an id that the vocabulary does not know";
+  EXPECT_EQ(selected[3].descriptionPlusUnit, "") << "an id that the vocabulary does not know";
 }
 
 TEST(NutrientTargetValues, FollowTheTargetSet) {
@@ -76,8 +74,8 @@ TEST(NutrientTargetValues, FollowTheTargetSet) {
   Nutrients nutrients;
   FillNutrientDefinitions(nutrients, session.Data());
   session.Data().Execute(
-      QStringLiteral("UPDATE nutrition_targets SET Calories=1234, Fat=Null, Iron=0, TransFat=1.5 "
-                     "WHERE TargetID=30;"));
+      "UPDATE nutrition_targets SET Calories=1234, Fat=Null, Iron=0, TransFat=1.5 "
+      "WHERE TargetID=30;");
   FillNutrientTargets(nutrients, session.Data(), 30);
   EXPECT_EQ(nutrients.NutrientTargets[0], 1234);
   EXPECT_EQ(nutrients.NutrientTargets[2], -1) << "a blank is no target";
@@ -87,7 +85,7 @@ TEST(NutrientTargetValues, FollowTheTargetSet) {
   FillNutrientTargets(nutrients, session.Data(), 0);
   for (const double target : nutrients.NutrientTargets) EXPECT_EQ(target, -1);
 
-  const QString first = session.ValueOf(QStringLiteral("Calories"), QStringLiteral("nutrition_targets"));
+  const QString first = session.ValueOf("Calories", "nutrition_targets");
   FillNutrientTargets(nutrients, session.Data(), 250);  // a set that is gone: the first one
   EXPECT_EQ(nutrients.NutrientTargets[0], first.toDouble());
 }

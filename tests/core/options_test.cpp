@@ -11,7 +11,7 @@ namespace {
 
 TEST(NutrientChoices, HoldTheThreeCalorieFiguresAndEveryNutrientOnce) {
   TestSession session;
-  session->nutrients.SelectedNutrients[3] = {nutrient_id::firstCustom, QStringLiteral("Caffeine"), true, {}};
+  session->nutrients.SelectedNutrients[3] = {nutrient_id::firstCustom, "Caffeine", true, {}};
   const QList<OptionChoice> choices = NutrientChoices(session->nutrients);
   ASSERT_EQ(choices.size(), nutrientCount + 2);
   std::map<int, std::string> byID;
@@ -35,7 +35,7 @@ TEST(Options, AreStoredAndTakenOverTogether) {
   edited.LineWidth[3] = 8;
   edited.DefaultDiaryTab = 0;
   StoreOptions(*session, edited);
-  EXPECT_EQ(session->UomDisplay.toStdString(), "Kg");
+  EXPECT_EQ(session->UomDisplay, "Kg");
   EXPECT_EQ(session->settings.LineWidth[3], 8);
   EXPECT_EQ(announced, 1);
   Settings fresh;
@@ -47,10 +47,10 @@ TEST(Options, AreStoredAndTakenOverTogether) {
 
 TEST(Options, TheNutrientIsReadAfreshFromTheStore) {
   TestSession session;
-  session.store->SaveSettingString(settingsRoot, QStringLiteral("NutrientID"), QStringLiteral("4"));
+  session.store->SaveSettingString(settingsRoot, "NutrientID", "4");
   RereadNutrientID(*session);
   EXPECT_EQ(session->settings.NutrientID, 4);
-  session.store->SaveSettingString(settingsRoot, QStringLiteral("NutrientID"), QStringLiteral("many"));
+  session.store->SaveSettingString(settingsRoot, "NutrientID", "many");
   RereadNutrientID(*session);
   EXPECT_EQ(session->settings.NutrientID, 4);
 }
@@ -63,7 +63,7 @@ TEST(Options, TheQuickJournalGoesBackBesideTheFrame) {
   const std::pair<const char *, int> stored[] = {
       {"QDLeft", 100 + 9525 - 8235}, {"QDTop", 200 + 7095 - 2760}, {"QDWidth", 8235}, {"QDHeight", 2760}};
   for (const auto &[name, value] : stored) {
-    EXPECT_EQ(session.store->GetSettingLong(settingsRoot, QString::fromLatin1(name), -1), value) << name;
+    EXPECT_EQ(session.store->GetSettingLong(settingsRoot, name, -1), value) << name;
   }
 }
 
@@ -85,17 +85,16 @@ TEST(ConfirmGoal, AsksOnlyForWhatIsNoGoal) {
       SCOPED_TRACE(row.goal);
       TestSession session;
       if (row.asks) {
-        session.boxes.Expect(
-            QStringLiteral("Invalid Goal"),
-            QStringLiteral("The goal that you entered is invalid.  Are you sure that you want to continue?"),
-            yes ? BoxButton::Yes : BoxButton::No);
+        session.boxes.Expect("Invalid Goal",
+                             "The goal that you entered is invalid.  Are you sure that you want to continue?",
+                             yes ? BoxButton::Yes : BoxButton::No);
       }
-      EXPECT_EQ(ConfirmGoal(*session, QString::fromLatin1(row.goal)), !row.asks || yes);
+      EXPECT_EQ(ConfirmGoal(*session, row.goal), !row.asks || yes);
       if (!row.asks) break;
     }
   }
   TestSession comma{QLocale(QLocale::German, QLocale::Germany)};
-  EXPECT_TRUE(ConfirmGoal(*comma, QStringLiteral("93,5")));
+  EXPECT_TRUE(ConfirmGoal(*comma, "93,5"));
 }
 
 }  // namespace

@@ -53,32 +53,29 @@ TEST(ChangePassword, FollowsItsRulesInOrder) {
       {"quotes and SQL", "a\"b", Entry("A\"B", "x\"); DELETE", "x\"); DELETE"), PasswordOutcome::Changed,
        "Password Changed", changed, "x\"); DELETE"},
       {"letters beyond ASCII", "äöü", Entry("ÄÖÜ", "ÉCLAIR", "éclair"), PasswordOutcome::Changed, "Password Changed",
-       changed, "ÉCLAIR"},
-  };
+       changed, "ÉCLAIR"}};
   for (const PasswordCase &row : cases) {
     SCOPED_TRACE(row.name);
     TestSession session;
-    session.AddProfile(2, QStringLiteral("Ann"));
-    session.Data().Execute(QStringLiteral("UPDATE people SET Password = ? WHERE PersonID=1;"),
-                           {QString::fromUtf8(row.stored)});
-    session.boxes.Expect(QString::fromLatin1(row.title), QString::fromLatin1(row.text));
-    EXPECT_EQ(ChangePassword(*session, QStringLiteral("1"), row.entry), row.outcome);
+    session.AddProfile(2, "Ann");
+    session.Data().Execute("UPDATE people SET Password = ? WHERE PersonID=1;", {QString::fromUtf8(row.stored)});
+    session.boxes.Expect(row.title, row.text);
+    EXPECT_EQ(ChangePassword(*session, "1", row.entry), row.outcome);
     ASSERT_EQ(session.boxes.Shown().size(), 1u);
     EXPECT_EQ(session.boxes.Shown().front().text.toStdString(), row.text);
     EXPECT_EQ(session.boxes.Shown().front().icon,
               row.outcome == PasswordOutcome::Changed ? BoxIcon::Information : BoxIcon::Critical);
-    EXPECT_EQ(StoredPassword(*session, QStringLiteral("1")).toStdString(), row.storedAfter);
-    EXPECT_EQ(StoredPassword(*session, QStringLiteral("2")).toStdString(), "") << "another profile's password";
+    EXPECT_EQ(StoredPassword(*session, "1").toStdString(), row.storedAfter);
+    EXPECT_EQ(StoredPassword(*session, "2"), "") << "another profile's password";
   }
 }
 
 TEST(ChangePassword, AFailureAppendsItsDescription) {
   TestSession session;
-  session.Data().Execute(QStringLiteral("ALTER TABLE people DROP COLUMN Password;"));
-  session.boxes.Expect(QStringLiteral("Error Changing Password"),
-                       QStringLiteral("An error occurred while changing your password.  "));
-  EXPECT_EQ(ChangePassword(*session, QStringLiteral("1"), Entry("", "x", "x")), PasswordOutcome::Failed);
-  EXPECT_FALSE(session.boxes.Shown().front().text.endsWith(QStringLiteral("password.  ")));
+  session.Data().Execute("ALTER TABLE people DROP COLUMN Password;");
+  session.boxes.Expect("Error Changing Password", "An error occurred while changing your password.  ");
+  EXPECT_EQ(ChangePassword(*session, "1", Entry("", "x", "x")), PasswordOutcome::Failed);
+  EXPECT_FALSE(session.boxes.Shown().front().text.endsWith("password.  "));
 }
 
 }  // namespace

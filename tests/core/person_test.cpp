@@ -71,20 +71,18 @@ TEST(Person, IsCheckedFieldByField) {
     const char *title;
     bool signIn = false;
   };
-  const Case cases[] = {
-      {{.PersonName = "  "}, "Name Required"},
-      {{.PersonName = "Bo", .HeightFeet = 5, .HeightInches = -1}, "Invalid Height"},
-      {{.PersonName = "Bo", .Goal = 1e300}, "Invalid Goal"},
-      {{.PersonName = "Bo", .Goal = -1}, ""},
-      {{.PersonName = "Bo", .BirthDate = QDate(2026, 3, 2)}, "Invalid Birth Date"},
-      {{.PersonName = "Bo", .HeightFeet = 5, .BirthDate = QDate(2026, 3, 1)}, ""},
-      {{.PersonName = "Bo"}, ""},
-      {{.PersonName = "Bo"}, "Profile ID Required", true},
-      {{.PersonName = "Bo", .UserID = QString(26, 'x')}, "Profile ID Too Long", true},
-      {{.PersonName = "Bo", .UserID = "x", .Password = QString(26, 'x')}, "Password Too Long", true},
-      {{.PersonName = "Bo", .UserID = "bO"}, "Profile ID Already Exists", true},
-      {{.PersonName = "Bo", .UserID = "b", .Password = QString(25, 'x')}, "", true},
-  };
+  const Case cases[] = {{{.PersonName = "  "}, "Name Required"},
+                        {{.PersonName = "Bo", .HeightFeet = 5, .HeightInches = -1}, "Invalid Height"},
+                        {{.PersonName = "Bo", .Goal = 1e300}, "Invalid Goal"},
+                        {{.PersonName = "Bo", .Goal = -1}, ""},
+                        {{.PersonName = "Bo", .BirthDate = QDate(2026, 3, 2)}, "Invalid Birth Date"},
+                        {{.PersonName = "Bo", .HeightFeet = 5, .BirthDate = QDate(2026, 3, 1)}, ""},
+                        {{.PersonName = "Bo"}, ""},
+                        {{.PersonName = "Bo"}, "Profile ID Required", true},
+                        {{.PersonName = "Bo", .UserID = QString(26, 'x')}, "Profile ID Too Long", true},
+                        {{.PersonName = "Bo", .UserID = "x", .Password = QString(26, 'x')}, "Password Too Long", true},
+                        {{.PersonName = "Bo", .UserID = "bO"}, "Profile ID Already Exists", true},
+                        {{.PersonName = "Bo", .UserID = "b", .Password = QString(25, 'x')}, "", true}};
   for (const Case &c : cases) {
     session->edition.BizEd = c.signIn;
     const auto complaint = CheckNewPerson(*session, c.person);

@@ -10,16 +10,11 @@ namespace trimlog {
 namespace {
 
 std::string PeopleField(TestSession &session, const char *field, int personID) {
-  return session
-      .ValueOf(QString::fromLatin1(field), QStringLiteral("people"), QStringLiteral("PersonID=%1").arg(personID))
-      .toStdString();
+  return session.ValueOf(field, "people", QStringLiteral("PersonID=%1").arg(personID)).toStdString();
 }
 
 int RowsOf(TestSession &session, const char *table, int personID) {
-  return session
-      .ValueOf(QStringLiteral("Count(*) AS HowMany"), QString::fromLatin1(table),
-               QStringLiteral("PersonID=%1").arg(personID))
-      .toInt();
+  return session.ValueOf("Count(*) AS HowMany", table, QStringLiteral("PersonID=%1").arg(personID)).toInt();
 }
 
 TEST(ApplyProfile, TakesColourTargetsAndStanding) {
@@ -44,20 +39,19 @@ TEST(ApplyProfile, TakesColourTargetsAndStanding) {
       {"nobody on many colours", "0", "", 16777216, false, 0x123456, 30, "0"},
       {"nobody on few colours", "0", "", 256, false, 0xC0FFFF, 30, "0"},
       {"nobody in login mode", "0", "", 256, true, 0x123456, 30, "0"},
-      {"an old sample number is never the last real one", "-4", "", 16777216, false, 0x123456, 30, "1"},
-  };
+      {"an old sample number is never the last real one", "-4", "", 16777216, false, 0x123456, 30, "1"}};
   for (const Case &row : cases) {
     SCOPED_TRACE(row.name);
     TestSession session;
-    session.AddProfile(7, QStringLiteral("Ann"));
-    session.Data().Execute(QStringLiteral("UPDATE people SET NutTargetID=Null WHERE PersonID < 0;"));
-    if (*row.stored) session.Data().Execute(QString::fromLatin1(row.stored));
+    session.AddProfile(7, "Ann");
+    session.Data().Execute("UPDATE people SET NutTargetID=Null WHERE PersonID < 0;");
+    if (*row.stored) session.Data().Execute(row.stored);
     session.machine.colors = row.colours;
     session->edition.BizEdLoginMode = row.loginMode;
     session->profile.BackColor = 0x123456;
     session->profile.FirstWeightDate = session->profile.LastWeightDate = session->windows.RememberedDate =
         QDate(2026, 1, 1);
-    ApplyProfile(*session, {}, QString::fromLatin1(row.personID));
+    ApplyProfile(*session, {}, row.personID);
     EXPECT_EQ(session->profile.CurrentPersonID.toStdString(), row.personID);
     EXPECT_EQ(session->profile.BackColor, row.backColor);
     EXPECT_EQ(session->profile.NutTargetID, row.targetSet);
@@ -69,40 +63,39 @@ TEST(ApplyProfile, TakesColourTargetsAndStanding) {
 
 TEST(ApplyProfile, ReadsTargetsBeforeRewardsAndStatisticsLast) {
   TestSession session;
-  session.AddProfile(7, QStringLiteral("Ann"));
-  session.Data().Execute(QStringLiteral("UPDATE people SET NutTargetID=10 WHERE PersonID=7;"));
-  const QString expected =
-      session.ValueOf(QStringLiteral("Calories"), QStringLiteral("nutrition_targets"), QStringLiteral("TargetID=10"));
+  session.AddProfile(7, "Ann");
+  session.Data().Execute("UPDATE people SET NutTargetID=10 WHERE PersonID=7;");
+  const QString expected = session.ValueOf("Calories", "nutrition_targets", "TargetID=10");
   QStringList order;
   RoomHooks hooks;
   hooks.LoadRewardSettings = [&] {
     EXPECT_DOUBLE_EQ(session->nutrients.NutrientTargets[0], expected.toDouble());
-    order.append(QStringLiteral("rewards of ") + session->profile.CurrentPersonID);
+    order.append("rewards of " + session->profile.CurrentPersonID);
   };
   hooks.UpdateStats = [&] {
     EXPECT_GT(session->nutrients.SelectedNutrients[0].NutrientID, 0);
-    order.append(QStringLiteral("statistics"));
+    order.append("statistics");
   };
-  ApplyProfile(*session, hooks, QStringLiteral("7"));
-  EXPECT_EQ(order.join(QStringLiteral(", ")).toStdString(), "rewards of 7, statistics");
+  ApplyProfile(*session, hooks, "7");
+  EXPECT_EQ(order.join(", "), "rewards of 7, statistics");
 }
 
 std::string MenuOf(TestSession &session) {
   QStringList lines;
   for (const ProfileMenuEntry &entry : ProfilesMenuEntries(*session, FillProfilesArray(*session))) {
-    lines.append(entry.caption + (entry.PersonID.isEmpty() ? QString() : QStringLiteral("=") + entry.PersonID) +
-                 (entry.checked ? QStringLiteral("*") : QString()));
+    lines.append(entry.caption + (entry.PersonID.isEmpty() ? QString() : "=" + entry.PersonID) +
+                 (entry.checked ? "*" : QString()));
   }
   return lines.join(QLatin1Char('|')).toStdString();
 }
 
 TEST(ProfilesMenu, ListsNamesSamplesAndCommands) {
   TestSession session;
-  session.AddProfile(12, QStringLiteral("Tom & Ann"));
-  session.AddProfile(3, QStringLiteral("abel"));
+  session.AddProfile(12, "Tom & Ann");
+  session.AddProfile(3, "abel");
   const std::string tail = "-|&Create a New Profile...|&Edit Profiles...";
   EXPECT_EQ(MenuOf(session), "abel=3|Test Person=1*|Tom && Ann=12|-|Sample Profile 1=-2|Sample Profile 2=-1|" + tail);
-  session->profile.CurrentPersonID = QStringLiteral("-1");
+  session->profile.CurrentPersonID = "-1";
   EXPECT_EQ(MenuOf(session), "abel=3|Test Person=1|Tom && Ann=12|-|Sample Profile 1=-2|Sample Profile 2=-1*|" + tail);
   session->edition.BizEd = true;
   EXPECT_EQ(MenuOf(session), "Select &Profile...|Profile &Administrator...");
@@ -112,46 +105,43 @@ TEST(ProfilesMenu, ListsNamesSamplesAndCommands) {
 
 TEST(ProfilesMenu, EachSampleHasItsOwnWelcome) {
   TestSession session;
-  session.boxes.Expect(QStringLiteral("Welcome to Sample Profile 1"),
-                       QStringLiteral("This sample profile demonstrates a one month period of weight loss, while also "
-                                      "logging meals, exercises, measurements, and notes in the Journal."));
+  session.boxes.Expect("Welcome to Sample Profile 1",
+                       "This sample profile demonstrates a one month period of weight loss, while also "
+                       "logging meals, exercises, measurements, and notes in the Journal.");
   session.boxes.Expect(
-      QStringLiteral("Welcome to Sample Profile 2"),
-      QStringLiteral("This sample profile demonstrates weight loss over a 7 month period of time.  This is an example "
-                     "of using Trimlog Pro at its simplest level, with no journal entries.  The weight loss charts are "
-                     "interesting to see here, since they contain several months of data."));
-  ShowSampleWelcome(*session, QStringLiteral("-2"));
-  ShowSampleWelcome(*session, QStringLiteral("-1"));
-  ShowSampleWelcome(*session, QStringLiteral("1"));
+      "Welcome to Sample Profile 2",
+      "This sample profile demonstrates weight loss over a 7 month period of time.  This is an example "
+      "of using Trimlog Pro at its simplest level, with no journal entries.  The weight loss charts are "
+      "interesting to see here, since they contain several months of data.");
+  ShowSampleWelcome(*session, "-2");
+  ShowSampleWelcome(*session, "-1");
+  ShowSampleWelcome(*session, "1");
 }
 
 void AddWeightAndNote(TestSession &session, int personID) {
-  session.Data().Execute(QStringLiteral("INSERT INTO weight_loss ( PersonID, ThisDate, ThisWeight, ThisLoss ) VALUES ( "
-                                        "?, #2/1/2026#, 180, 0 );"),
-                         {personID});
+  session.Weigh(QDate(2026, 2, 1), 180, personID);
   session.Data().Execute(
-      QStringLiteral("INSERT INTO notes ( PersonID, RecordID, ThisDate, Notes ) VALUES ( ?, 1, #2/1/2026#, \"n\" );"),
-      {personID});
+      "INSERT INTO notes ( PersonID, RecordID, ThisDate, Notes ) VALUES ( ?, 1, #2/1/2026#, \"n\" );", {personID});
 }
 
 TEST(ResetWeightLossData, DeletesThoseOfProfileOneWhicheverIsLoaded) {
   TestSession session;
-  session.AddProfile(2, QStringLiteral("Ann"));
-  session->profile.CurrentPersonID = QStringLiteral("2");
+  session.AddProfile(2, "Ann");
+  session->profile.CurrentPersonID = "2";
   AddWeightAndNote(session, 1);
   AddWeightAndNote(session, 2);
-  const QString title = QStringLiteral("Reset Weight Loss Data");
-  const QString question = QStringLiteral(
+  const QString title = "Reset Weight Loss Data";
+  const QString question =
       "This action will delete all weight loss data that you have previously recorded.  Once this data is deleted you "
-      "cannot get it back.  Are you sure you want to continue?");
+      "cannot get it back.  Are you sure you want to continue?";
   session.boxes.Expect(title, question, BoxButton::No);
-  session.boxes.Expect({}, QStringLiteral("Action canceled.  No data was deleted."));
+  session.boxes.Expect({}, "Action canceled.  No data was deleted.");
   EXPECT_FALSE(ResetWeightLossData(*session));
   EXPECT_EQ(session.boxes.Shown().front().defaultButton, BoxButton::No);
   EXPECT_EQ(RowsOf(session, "weight_loss", 1), 1);
 
   session.boxes.Expect(title, question, BoxButton::Yes);
-  session.boxes.Expect({}, QStringLiteral("All weight loss data has been deleted successfully."));
+  session.boxes.Expect({}, "All weight loss data has been deleted successfully.");
   EXPECT_TRUE(ResetWeightLossData(*session));
   EXPECT_EQ(RowsOf(session, "weight_loss", 1) + RowsOf(session, "notes", 1), 0);
   EXPECT_EQ(RowsOf(session, "weight_loss", 2) + RowsOf(session, "notes", 2), 2);
@@ -159,7 +149,7 @@ TEST(ResetWeightLossData, DeletesThoseOfProfileOneWhicheverIsLoaded) {
 
 TEST(AdminProfile, MovesTheFirstProfileWithItsDataAndIsMadeOnce) {
   TestSession session;
-  session.AddProfile(5, QStringLiteral("Ann"));
+  session.AddProfile(5, "Ann");
   AddWeightAndNote(session, 1);
   CreateAdminProfile(*session);
   EXPECT_EQ(PeopleField(session, "PersonName", 1), "Test Person") << "without the Profile Administrator";
@@ -168,20 +158,14 @@ TEST(AdminProfile, MovesTheFirstProfileWithItsDataAndIsMadeOnce) {
   CreateAdminProfile(*session);
   EXPECT_EQ(PeopleField(session, "PersonName", 6), "Test Person");
   EXPECT_EQ(RowsOf(session, "notes", 6), 1);
-  const std::pair<const char *, const char *> admin[] = {
-      {"PersonName", "Administrator"}, {"UserID", "admin"},       {"Password", "kvr7gates"}, {"Goal", "120"},
-      {"GoalMethodID", "2"},           {"HeightInches", "3"},     {"HeightFeet", "5"},       {"GenderID", "2"},
-      {"BackColor", "16769216"},       {"GoalMethodLbsWeek", "2"}};
-  for (const auto &[field, value] : admin) EXPECT_EQ(PeopleField(session, field, 1), value) << field;
+  EXPECT_EQ(session.Rows("SELECT PersonName, UserID, Password, Goal, GoalMethodID, GoalMethodLbsWeek, HeightFeet, "
+                         "HeightInches, GenderID, BackColor FROM people WHERE PersonID=1;"),
+            "Administrator|admin|kvr7gates|120|2|2|5|3|2|16769216");
   EXPECT_EQ(PeopleField(session, "UserID", -2), "sample1");
   EXPECT_EQ(PeopleField(session, "UserID", -1), "sample2");
-  EXPECT_EQ(session
-                .ValueOf(QStringLiteral("ThisWeight"), QStringLiteral("weight_loss"),
-                         QStringLiteral("PersonID=1 AND ThisDate=#3/1/2026#"))
-                .toStdString(),
-            "120");
+  EXPECT_EQ(session.ValueOf("ThisWeight", "weight_loss", "PersonID=1 AND ThisDate=#3/1/2026#"), "120");
 
-  session.Data().Execute(QStringLiteral("UPDATE people SET Password=\"mine\" WHERE PersonID=1;"));
+  session.Data().Execute("UPDATE people SET Password=\"mine\" WHERE PersonID=1;");
   CreateAdminProfile(*session);
   EXPECT_EQ(PeopleField(session, "Password", 1), "mine");
   EXPECT_EQ(RowsOf(session, "weight_loss", 1), 1);
@@ -190,43 +174,38 @@ TEST(AdminProfile, MovesTheFirstProfileWithItsDataAndIsMadeOnce) {
 TEST(AdminProfile, AFailureLeavesThePeopleAsTheyWere) {
   TestSession session;
   session->edition.BizEd = true;
-  session.Data().Execute(QStringLiteral("DROP TABLE weight_loss;"));
+  session.Data().Execute("DROP TABLE weight_loss;");
   EXPECT_ANY_THROW(CreateAdminProfile(*session));
   EXPECT_EQ(PeopleField(session, "PersonName", 1), "Test Person");
 }
 
 TEST(ProfileToStandOn, FindsAProfileThatIsStillThere) {
   TestSession session;
-  session.AddProfile(4, QStringLiteral("Ann"));
-  session.AddProfile(9, QStringLiteral("Bob"));
-  EXPECT_EQ(ProfileToStandOn(*session).toStdString(), "1");
-  session->profile.CurrentPersonID = session->profile.LastRealPersonID = QStringLiteral("9");
-  session.Data().Execute(QStringLiteral("DELETE people.* FROM people WHERE PersonID IN (1, 9);"));
-  EXPECT_EQ(ProfileToStandOn(*session).toStdString(), "4");
-  EXPECT_EQ(session->profile.LastRealPersonID.toStdString(), "4");
-  session->profile.CurrentPersonID = QStringLiteral("-1");
-  EXPECT_EQ(ProfileToStandOn(*session).toStdString(), "-1");
-  session->profile.CurrentPersonID = QStringLiteral("4");
-  session.Data().Execute(QStringLiteral("DELETE people.* FROM people WHERE PersonID > 0;"));
-  EXPECT_EQ(ProfileToStandOn(*session).toStdString(), "-2");
-  EXPECT_EQ(session->profile.LastRealPersonID.toStdString(), "")
-      << "what is stored at exit must not name a deleted profile";
+  session.AddProfile(4, "Ann");
+  session.AddProfile(9, "Bob");
+  EXPECT_EQ(ProfileToStandOn(*session), "1");
+  session->profile.CurrentPersonID = session->profile.LastRealPersonID = "9";
+  session.Data().Execute("DELETE people.* FROM people WHERE PersonID IN (1, 9);");
+  EXPECT_EQ(ProfileToStandOn(*session), "4");
+  EXPECT_EQ(session->profile.LastRealPersonID, "4");
+  session->profile.CurrentPersonID = "-1";
+  EXPECT_EQ(ProfileToStandOn(*session), "-1");
+  session->profile.CurrentPersonID = "4";
+  session.Data().Execute("DELETE people.* FROM people WHERE PersonID > 0;");
+  EXPECT_EQ(ProfileToStandOn(*session), "-2");
+  EXPECT_EQ(session->profile.LastRealPersonID, "") << "what is stored at exit must not name a deleted profile";
 }
 
-TEST(StoreBackColor, KeepsTheColourOfOneProfileAndSaysSo) {
+TEST(StoreBackColor, TheLoadedProfilesColourIsInForce) {
   TestSession session;
-  session.AddProfile(4, QStringLiteral("Ann"));
-  const QString said =
-      QStringLiteral("Your color scheme changes will completely take effect the next time you log on.");
-  session.boxes.Expect(QStringLiteral("Color Scheme Changed."), said);
-  StoreBackColor(*session, QStringLiteral("4"), 0xE0FFE0);
-  EXPECT_EQ(PeopleField(session, "BackColor", 4), std::to_string(0xE0FFE0));
-  EXPECT_EQ(PeopleField(session, "BackColor", 1), "");
-  EXPECT_EQ(session->profile.BackColor, 0xFFE0C0u) << "another profile is loaded";
-  session.boxes.Expect(QStringLiteral("Color Scheme Changed."), said);
-  StoreBackColor(*session, QStringLiteral("1"), 0xE0FFE0);
-  EXPECT_EQ(session->profile.BackColor, 0xE0FFE0u);
+  session.AddProfile(4, "Ann");
+  for (const auto &[person, inForce] : {std::pair{"4", 0xFFE0C0u}, {"1", 0xE0FFE0u}}) {
+    session.boxes.Expect("Color Scheme Changed.",
+                         "Your color scheme changes will completely take effect the next time you log on.");
+    StoreBackColor(*session, person, 0xE0FFE0);
+    EXPECT_EQ(session->profile.BackColor, inForce);
+  }
+  EXPECT_EQ(session.Rows("SELECT BackColor FROM people WHERE PersonID > 0;"), "14745568; 14745568");
 }
-
 }  // namespace
 }  // namespace trimlog

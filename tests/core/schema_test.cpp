@@ -10,39 +10,36 @@ namespace trimlog {
 
 namespace {
 
-const QStringList personTables = {QStringLiteral("weight_loss"),
-                                  QStringLiteral("notes"),
-                                  QStringLiteral("measurements"),
-                                  QStringLiteral("meals"),
-                                  QStringLiteral("activities"),
-                                  QStringLiteral("other_daily_data"),
-                                  QStringLiteral("rewards"),
-                                  QStringLiteral("serava_journal"),
-                                  QStringLiteral("weight_loss_sample"),
-                                  QStringLiteral("notes_sample"),
-                                  QStringLiteral("measurements_sample"),
-                                  QStringLiteral("meals_sample"),
-                                  QStringLiteral("activities_sample")};
+const QStringList personTables = {"weight_loss",
+                                  "notes",
+                                  "measurements",
+                                  "meals",
+                                  "activities",
+                                  "other_daily_data",
+                                  "rewards",
+                                  "serava_journal",
+                                  "weight_loss_sample",
+                                  "notes_sample",
+                                  "measurements_sample",
+                                  "meals_sample",
+                                  "activities_sample"};
 
 /// One row of a table whose keys and relations point to person `person`, food 1, exercise 1, recipe 2.
 void AddRow(Database &database, const QString &name, int person) {
   const SchemaTable &table = FindSchemaTable(name);
-  const QHash<QString, Value> known = {
-      {QStringLiteral("PersonID"), person}, {QStringLiteral("RecordID"), 1},
-      {QStringLiteral("MealID"), 1},        {QStringLiteral("RecipeID"), 2},
-      {QStringLiteral("ActivityID"), 1},    {QStringLiteral("ThisDate"), QDate(2026, 3, 1)}};
+  const QHash<QString, Value> known = {{"PersonID", person}, {"RecordID", 1},   {"MealID", 1},
+                                       {"RecipeID", 2},      {"ActivityID", 1}, {"ThisDate", QDate(2026, 3, 1)}};
   QStringList columns;
   QStringList marks;
   Params values;
   for (const SchemaColumn &column : table.columns) {
     if (!known.contains(column.name)) continue;
     columns.append(column.name);
-    marks.append(QStringLiteral("?"));
+    marks.append("?");
     values.append(known.value(column.name));
   }
-  database.Execute(QStringLiteral("INSERT INTO %1 ( %2 ) VALUES ( %3 );")
-                       .arg(name, columns.join(QStringLiteral(", ")), marks.join(QStringLiteral(", "))),
-                   values);
+  database.Execute(
+      QStringLiteral("INSERT INTO %1 ( %2 ) VALUES ( %3 );").arg(name, columns.join(", "), marks.join(", ")), values);
 }
 
 /// People 5 and 6 with one row in every table of people's data, food 1 in recipe 2, exercise 1.
@@ -61,7 +58,7 @@ class FullFile : public FreshFile {
       AddRow(*database, table, 5);
       AddRow(*database, table, 6);
     }
-    AddRow(*database, QStringLiteral("recipe_detail"), 0);
+    AddRow(*database, "recipe_detail", 0);
   }
 };
 
@@ -69,15 +66,15 @@ class FullFile : public FreshFile {
 
 TEST(Schema, APersonsRowsGoWithThePersonAndFollowANewNumber) {
   FullFile file;
-  file.database->Execute(QStringLiteral("UPDATE people SET people.PersonID = 9 WHERE ((people.PersonID)=5);"));
+  file.database->Execute("UPDATE people SET people.PersonID = 9 WHERE ((people.PersonID)=5);");
   for (const QString &table : personTables) {
-    EXPECT_EQ(file.Count(table, QStringLiteral("PersonID=9")), 1) << table.toStdString();
-    EXPECT_EQ(file.Count(table, QStringLiteral("PersonID=5")), 0) << table.toStdString();
+    EXPECT_EQ(file.Count(table, "PersonID=9"), 1) << table.toStdString();
+    EXPECT_EQ(file.Count(table, "PersonID=5"), 0) << table.toStdString();
   }
-  file.database->Execute(QStringLiteral("DELETE people.* FROM people WHERE ((people.PersonID)=9);"));
+  file.database->Execute("DELETE people.* FROM people WHERE ((people.PersonID)=9);");
   for (const QString &table : personTables) {
-    EXPECT_EQ(file.Count(table, QStringLiteral("PersonID=9")), 0) << table.toStdString();
-    EXPECT_EQ(file.Count(table, QStringLiteral("PersonID=6")), 1) << table.toStdString();
+    EXPECT_EQ(file.Count(table, "PersonID=9"), 0) << table.toStdString();
+    EXPECT_EQ(file.Count(table, "PersonID=6"), 1) << table.toStdString();
   }
 }
 
@@ -88,17 +85,16 @@ TEST(Schema, EntriesGoWithTheirFoodTheirRecipeAndTheirExercise) {
     QStringList emptied;
     QStringList kept;
   };
-  const QString meals = QStringLiteral("meals");
-  const QString activities = QStringLiteral("activities");
-  const QString recipeDetail = QStringLiteral("recipe_detail");
+  const QString meals = "meals";
+  const QString activities = "activities";
+  const QString recipeDetail = "recipe_detail";
   const std::vector<Case> cases = {
-      {"food", "meals_list WHERE MealID=1", {meals, QStringLiteral("meals_sample"), recipeDetail}, {activities}},
+      {"food", "meals_list WHERE MealID=1", {meals, "meals_sample", recipeDetail}, {activities}},
       {"recipe", "meals_list WHERE MealID=2", {recipeDetail}, {meals, activities}},
-      {"exercise", "activities_list WHERE ActivityID=1", {activities, QStringLiteral("activities_sample")}, {meals}},
-  };
+      {"exercise", "activities_list WHERE ActivityID=1", {activities, "activities_sample"}, {meals}}};
   for (const Case &c : cases) {
     FullFile file;
-    file.database->Execute(QStringLiteral("DELETE FROM ") + QString::fromLatin1(c.parent));
+    file.database->Execute(QStringLiteral("DELETE FROM ") + c.parent);
     for (const QString &table : c.emptied) EXPECT_EQ(file.Count(table), 0) << c.what << ' ' << table.toStdString();
     for (const QString &table : c.kept) EXPECT_GT(file.Count(table), 0) << c.what << ' ' << table.toStdString();
   }
@@ -106,10 +102,10 @@ TEST(Schema, EntriesGoWithTheirFoodTheirRecipeAndTheirExercise) {
 
 TEST(Schema, OnlyRewardsMayBeWrittenBeforeTheirPerson) {
   FreshFile file;
-  file.database->Execute(QStringLiteral("INSERT INTO meals_list ( MealID ) VALUES ( 1 );"));
-  file.database->Execute(QStringLiteral("INSERT INTO activities_list ( ActivityID ) VALUES ( 1 );"));
+  file.database->Execute("INSERT INTO meals_list ( MealID ) VALUES ( 1 );");
+  file.database->Execute("INSERT INTO activities_list ( ActivityID ) VALUES ( 1 );");
   for (const QString &table : personTables) {
-    if (table == QLatin1String("rewards")) {
+    if (table == "rewards") {
       EXPECT_NO_THROW(AddRow(*file.database, table, 1));
     } else {
       EXPECT_THROW(AddRow(*file.database, table, 1), Error) << table.toStdString();
@@ -126,22 +122,24 @@ TEST(Schema, KeysRefuseASecondRow) {
 
 TEST(Schema, AnEntryIsNotPlannedUnlessItSaysSo) {
   FullFile file;
-  EXPECT_EQ(file.Count(QStringLiteral("meals"), QStringLiteral("IsPlanned=False")), 2);
-  EXPECT_EQ(file.Count(QStringLiteral("activities"), QStringLiteral("IsPlanned=False")), 2);
+  EXPECT_EQ(file.Count("meals", "IsPlanned=False"), 2);
+  EXPECT_EQ(file.Count("activities", "IsPlanned=False"), 2);
 }
 
 TEST(Schema, SavedQueriesSumADaysEatenAndBurnedCalories) {
   FreshFile file;
   Database &database = *file.database;
-  database.Execute(QStringLiteral("INSERT INTO people ( PersonID ) VALUES ( 1 );"));
-  database.Execute(QStringLiteral("INSERT INTO people ( PersonID ) VALUES ( 2 );"));
+  database.Execute("INSERT INTO people ( PersonID ) VALUES ( 1 );");
+  database.Execute("INSERT INTO people ( PersonID ) VALUES ( 2 );");
   const auto eat = [&database](int person, int record, int day, const Value &calories, bool planned) {
-    database.Execute(QStringLiteral("INSERT INTO meals ( PersonID, RecordID, ThisDate, Calories, IsPlanned ) "
-                                    "VALUES ( ?, ?, ?, ?, ? );"),
-                     {person, record, QDate(2026, 3, day), calories, planned});
-    database.Execute(QStringLiteral("INSERT INTO activities ( PersonID, RecordID, ThisDate, Calories, IsPlanned ) "
-                                    "VALUES ( ?, ?, ?, ?, ? );"),
-                     {person, record, QDate(2026, 3, day), calories, planned});
+    database.Execute(
+        "INSERT INTO meals ( PersonID, RecordID, ThisDate, Calories, IsPlanned ) "
+        "VALUES ( ?, ?, ?, ?, ? );",
+        {person, record, QDate(2026, 3, day), calories, planned});
+    database.Execute(
+        "INSERT INTO activities ( PersonID, RecordID, ThisDate, Calories, IsPlanned ) "
+        "VALUES ( ?, ?, ?, ?, ? );",
+        {person, record, QDate(2026, 3, day), calories, planned});
   };
   eat(1, 1, 1, 900, true);  // the day's first row is a plan
   eat(1, 2, 1, 100, false);
@@ -151,15 +149,14 @@ TEST(Schema, SavedQueriesSumADaysEatenAndBurnedCalories) {
   eat(2, 1, 1, 70, false);
   for (const auto &[query, column] :
        {std::pair{"qryCalorieSumMeals", "CaloriesEaten"}, std::pair{"qryCalorieSumActivities", "CaloriesBurned"}}) {
-    Recordset rows = database.OpenRecordset(
-        QStringLiteral("SELECT %1.* FROM %1 ORDER BY PersonID, ThisDate;").arg(QString::fromLatin1(query)));
+    Recordset rows =
+        database.OpenRecordset(QStringLiteral("SELECT %1.* FROM %1 ORDER BY PersonID, ThisDate;").arg(query));
     QStringList found;
     for (; !rows.Eof(); rows.MoveNext()) {
-      found.append(rows.Text(QStringLiteral("PersonID")) + QLatin1Char(' ') + rows.Text(QStringLiteral("ThisDate")) +
-                   QLatin1Char(' ') + rows.Text(QString::fromLatin1(column)));
+      found.append(rows.Text("PersonID") + QLatin1Char(' ') + rows.Text("ThisDate") + QLatin1Char(' ') +
+                   rows.Text(column));
     }
-    EXPECT_EQ(found.join(QStringLiteral("; ")).toStdString(), "1 2026-03-01 350.5; 1 2026-03-03 ; 2 2026-03-01 70")
-        << query;
+    EXPECT_EQ(found.join("; "), "1 2026-03-01 350.5; 1 2026-03-03 ; 2 2026-03-01 70") << query;
   }
 }
 

@@ -2,167 +2,118 @@
 
 #include <gtest/gtest.h>
 
+#include "core/bare_session.h"
 #include "core/settings/window_position.h"
 #include "core/start/edition.h"
 #include "platform/error.h"
-#include "support/test_session.h"
 
 namespace trimlog {
 namespace {
 
-constexpr int saved = 1;  // by SaveControlValues
-constexpr int unsaved = 0;
-
 struct Row {
-  const char *name;
+  QString name;
   const char *fallback;
   const char *other;    // another value that it takes
   QStringList refused;  // values that count as missing
-  int whenSaved;
+  bool saved = true;    // by SaveControlValues
 };
 
-QStringList Bad(std::initializer_list<const char *> texts) {
-  QStringList list = {QString(), QStringLiteral("abc"), QStringLiteral("1.5"), QStringLiteral("99999999999")};
-  for (const char *text : texts) list.append(QLatin1String(text));
-  return list;
-}
-const QStringList badBoolean = Bad({"1", "true", "-1 ", "00", "False"});
-const QStringList badWhole = Bad({"32768", "-32769"});
-
 std::vector<Row> Table() {
-  std::vector<Row> rows = {
-      {"UomID", "1", "2", Bad({"0", "3"}), saved},
-      {"OpenToday", "-1", "0", badBoolean, saved},
-      {"ShowLoss", "0", "-1", badBoolean, saved},
-      {"ColorCoding", "-1", "0", badBoolean, saved},
-      {"LossFactor", "1", "-1", Bad({"0", "2", "-2"}), saved},
-      {"ShowCalories", "-1", "0", badBoolean, saved},
-      {"NutrientID", "102", "35", Bad({"0", "36", "100", "103"}), saved},
-      {"BodyMeasDefault", "1", "8", Bad({"0", "9"}), saved},
-      {"LinkDisclaimer", "0", "-1", badBoolean, saved},
-      {"RecalcCalories", "-1", "0", badBoolean, saved},
-      {"ShowSplash", "-1", "0", badBoolean, saved},
-      {"ConfirmDeletes", "-1", "0", badBoolean, saved},
-      {"ConfirmMealsUpdates", "2", "0", Bad({"3", "-1"}), saved},
-      {"ConfirmExerciseUpdates", "2", "1", Bad({"3", "-1"}), saved},
-      {"SmartDates", "-1", "0", badBoolean, saved},
-      {"BodyFat", "-1", "0", badBoolean, saved},
-      {"NetCaloriesBMR", "-1", "0", badBoolean, saved},
-      {"PersonID", "1", "17", {QString()}, unsaved},
-      {"NotesLines", "3", "10", Bad({"0", "4", "11"}), unsaved},
-      {"DefaultDiaryTab", "1", "0", Bad({"4", "-1"}), saved},
-      {"LastDiaryView", "2", "1", Bad({"0", "3"}), unsaved},
-      {"LastPlannerView", "2", "1", Bad({"0", "3"}), unsaved},
-      {"ShowTutorial", "-1", "0", badBoolean, unsaved},
-      {"UserName", "Unknown User", "Smith, \"J\"", {QString()}, unsaved},
-      {"MedicalDisclaimer", "0", "-1", badBoolean, saved},
-      {"FastFoodDisclaimer", "0", "-1", badBoolean, unsaved},
-      {"LastRecordTypeMeals", "-1", "-3", Bad({"7", "4", "-4"}), unsaved},
+  const auto bad = [](QStringList list) {
+    return list << QString() << "abc"
+                << "1.5"
+                << "99999999999";
   };
-  static const char *const perChart[6][4] = {
-      {"ShowGridlines1", "ShowGridlines2", "ShowGridlines3", "ShowGridlines4"},
-      {"ShowDataLabels1", "ShowDataLabels2", "ShowDataLabels3", "ShowDataLabels4"},
-      {"PlotPoints1", "PlotPoints2", "PlotPoints3", "PlotPoints4"},
-      {"LineWidth1", "LineWidth2", "LineWidth3", "LineWidth4"},
-      {"LineColor1", "LineColor2", "LineColor3", "LineColor4"},
-      {"PointColor1", "PointColor2", "PointColor3", "PointColor4"}};
-  for (int chart = 0; chart < 4; ++chart) {
-    rows.push_back({perChart[0][chart], "-1", "0", badBoolean, saved});
-    rows.push_back({perChart[1][chart], "0", "-1", badBoolean, saved});
-    rows.push_back({perChart[2][chart], "-1", "0", badBoolean, saved});
-    rows.push_back({perChart[3][chart], "1", "5", badWhole, saved});
-    rows.push_back({perChart[4][chart], "16711680", "255", Bad({"-1", "16777216"}), saved});
-    rows.push_back({perChart[5][chart], "0", "16777215", Bad({"-1", "16777216"}), saved});
+  const QStringList badBoolean = bad({"1", "true", "-1 ", "00", "False"});
+  const QStringList badColour = bad({"-1", "16777216"});
+  std::vector<Row> rows = {{"UomID", "1", "2", bad({"0", "3"})},
+                           {"LossFactor", "1", "-1", bad({"0", "2", "-2"})},
+                           {"NutrientID", "102", "35", bad({"0", "36", "100", "103"})},
+                           {"BodyMeasDefault", "1", "8", bad({"0", "9"})},
+                           {"ConfirmMealsUpdates", "2", "0", bad({"3", "-1"})},
+                           {"ConfirmExerciseUpdates", "2", "1", bad({"3", "-1"})},
+                           {"DefaultDiaryTab", "1", "0", bad({"4", "-1"})},
+                           {"PersonID", "1", "17", {QString()}, false},
+                           {"NotesLines", "3", "10", bad({"0", "4", "11"}), false},
+                           {"LastDiaryView", "2", "1", bad({"0", "3"}), false},
+                           {"LastPlannerView", "2", "1", bad({"0", "3"}), false},
+                           {"UserName", "Unknown User", "Smith, \"J\"", {QString()}, false},
+                           {"LastRecordTypeMeals", "-1", "-3", bad({"7", "4", "-4"}), false},
+                           {"ShowTutorial", "-1", "0", badBoolean, false},
+                           {"FastFoodDisclaimer", "0", "-1", badBoolean, false}};
+  for (const char *on : {"OpenToday", "ColorCoding", "ShowCalories", "RecalcCalories", "ShowSplash", "ConfirmDeletes",
+                         "SmartDates", "BodyFat", "NetCaloriesBMR"}) {
+    rows.push_back({on, "-1", "0", badBoolean});
+  }
+  for (const char *off : {"ShowLoss", "LinkDisclaimer", "MedicalDisclaimer"}) {
+    rows.push_back({off, "0", "-1", badBoolean});
+  }
+  for (int chart = 1; chart <= 4; ++chart) {
+    const QString n = QString::number(chart);
+    rows.push_back({"ShowGridlines" + n, "-1", "0", badBoolean});
+    rows.push_back({"ShowDataLabels" + n, "0", "-1", badBoolean});
+    rows.push_back({"PlotPoints" + n, "-1", "0", badBoolean});
+    rows.push_back({"LineWidth" + n, "1", "5", bad({"32768", "-32769"})});
+    rows.push_back({"LineColor" + n, "16711680", "255", badColour});
+    rows.push_back({"PointColor" + n, "0", "16777215", badColour});
   }
   return rows;
 }
 
 class SettingsTable : public ::testing::Test {
  protected:
-  QString InStore(const char *name) const { return store->GetSettingString(settingsRoot, QLatin1String(name)); }
-  void Put(const char *name, const QString &text) { store->SaveSettingString(settingsRoot, QLatin1String(name), text); }
-  QString InMember(const char *name) const { return StoredValue(settings, QLatin1String(name)); }
+  QString InStore(const Row &row) const { return store->GetSettingString(settingsRoot, row.name); }
+  void Put(const Row &row, const QString &text) { store->SaveSettingString(settingsRoot, row.name, text); }
+  void Expect(const Row &row, const QString &member, const QString &stored) const {
+    EXPECT_EQ(StoredValue(settings, row.name), member) << row.name;
+    EXPECT_EQ(InStore(row), stored) << row.name;
+  }
 
   std::unique_ptr<SettingsStore> store = MemorySettings();
   Settings settings;
 };
 
-TEST_F(SettingsTable, AnEmptyStoreIsFilledWithTheDefaults) {
-  LoadControlValues(settings, *store, true);
-  for (const Row &row : Table()) {
-    EXPECT_EQ(InStore(row.name).toStdString(), row.fallback) << row.name;
-    EXPECT_EQ(InMember(row.name).toStdString(), row.fallback) << row.name;
-  }
+TEST_F(SettingsTable, HasDefaultsTakesGoodValuesAndNoBadOnes) {
   EXPECT_EQ(static_cast<size_t>(SettingRows().size()), Table().size()) << "a row that this test does not know";
-}
-
-TEST_F(SettingsTable, AGoodValueIsTakenAndStays) {
-  for (const Row &row : Table()) Put(row.name, QLatin1String(row.other));
   LoadControlValues(settings, *store, true);
-  for (const Row &row : Table()) {
-    EXPECT_EQ(InMember(row.name).toStdString(), row.other) << row.name;
-    EXPECT_EQ(InStore(row.name).toStdString(), row.other) << row.name;
-  }
-}
-
-TEST_F(SettingsTable, ABadValueCountsAsMissing) {
+  for (const Row &row : Table()) Expect(row, row.fallback, row.fallback);
+  for (const Row &row : Table()) Put(row, row.other);
+  LoadControlValues(settings, *store, true);
+  for (const Row &row : Table()) Expect(row, row.other, row.other);
   for (const Row &row : Table()) {
     for (const QString &bad : row.refused) {
-      Put(row.name, QLatin1String(row.other));
+      SCOPED_TRACE(bad.toStdString());
+      Put(row, row.other);
       LoadControlValues(settings, *store, false);
-      Put(row.name, bad);
+      Put(row, bad);
       LoadControlValues(settings, *store, false);
-      EXPECT_EQ(InMember(row.name).toStdString(), row.other)
-          << row.name << " keeps what it had at '" << bad.toStdString() << "'";
-      EXPECT_EQ(InStore(row.name), bad) << row.name;
-
+      Expect(row, row.other, bad);  // keeps what it had
       LoadControlValues(settings, *store, true);
-      EXPECT_EQ(InMember(row.name).toStdString(), row.fallback) << row.name << " at '" << bad.toStdString() << "'";
-      EXPECT_EQ(InStore(row.name).toStdString(), row.fallback) << row.name;
+      Expect(row, row.fallback, row.fallback);
     }
   }
 }
 
 TEST_F(SettingsTable, SavingWritesWhatTheOptionsWindowEditsAndNothingElse) {
-  for (const Row &row : Table()) Put(row.name, QLatin1String(row.other));
+  for (const Row &row : Table()) Put(row, row.other);
   LoadControlValues(settings, *store, false);
   store = MemorySettings();
   SaveControlValues(settings, *store);
+  for (const Row &row : Table()) EXPECT_EQ(InStore(row), row.saved ? row.other : "") << row.name;
   for (const Row &row : Table()) {
-    EXPECT_EQ(InStore(row.name).toStdString(), row.whenSaved == saved ? row.other : "") << row.name;
+    SaveSetting(settings, *store, row.name);
+    EXPECT_EQ(InStore(row), row.other) << row.name;
   }
-  for (const Row &row : Table()) {
-    SaveSetting(settings, *store, QLatin1String(row.name));
-    EXPECT_EQ(InStore(row.name).toStdString(), row.other) << row.name;
-  }
-  EXPECT_THROW(SaveSetting(settings, *store, QStringLiteral("ShowLosses")), Error);
+  EXPECT_THROW(SaveSetting(settings, *store, "ShowLosses"), Error);
 }
 
-class Geometry : public ::testing::Test {
+class Geometry : public ::testing::Test, public BareSession {
  protected:
-  Geometry() : session({folder.path(), *store, clock, machine, boxes, printing, QLocale::c()}) {}
-  void Put(const char *name, const char *text) {
-    store->SaveSettingString(settingsRoot, QLatin1String(name), QLatin1String(text));
-  }
-  QString InStore(const char *name) const {
-    return store->GetSettingString(settingsRoot, QLatin1String(name), QStringLiteral("none"));
-  }
   void Read(WindowGroup group) { WindowPosition(session, false, group, QSize(19200, 15360)); }
-
-  QTemporaryDir folder;
-  std::unique_ptr<SettingsStore> store = MemorySettings();
-  FixedClock clock{QDateTime(QDate(2026, 3, 1), QTime(12, 0))};
-  RecordingMachine machine;
-  QueuedBoxes boxes;
-  RecordingPrinting printing;
-  Session session;
 };
 
 void ExpectPlace(const WindowPlace &place, int left, int top, int width, int height) {
-  EXPECT_EQ(place.Left, left);
-  EXPECT_EQ(place.Top, top);
-  EXPECT_EQ(place.Width, width);
-  EXPECT_EQ(place.Height, height);
+  EXPECT_EQ((std::array{place.Left, place.Top, place.Width, place.Height}), (std::array{left, top, width, height}));
 }
 
 TEST_F(Geometry, DefaultsAreCentredAndFollowTheFrame) {
@@ -172,7 +123,7 @@ TEST_F(Geometry, DefaultsAreCentredAndFollowTheFrame) {
   }
   ExpectPlace(session.windows.framePlace, 4837, 4132, 9525, 7095);
   ExpectPlace(session.windows.quickJournalPlace, 4837 + 9525 - 8235, 4132 + 7095 - 2760, 8235, 2760);
-  EXPECT_EQ(InStore("Left"), QStringLiteral("none")) << "a start writes no geometry";
+  EXPECT_EQ(Setting("Left"), "none") << "a start writes no geometry";
 
   Put("Width", "12000");
   Put("Left", "-300");
@@ -195,10 +146,10 @@ TEST_F(Geometry, EachGroupIsWrittenAloneAndReadBack) {
   session.windows.frameWindowState = 2;
   session.windows.quickJournalPlace = {30, 40, 8300, 2800};
   WindowPosition(session, true, WindowGroup::Frame);
-  EXPECT_EQ(InStore("QDLeft"), QStringLiteral("none"));
+  EXPECT_EQ(Setting("QDLeft"), "none");
   WindowPosition(session, true, WindowGroup::QuickJournalSize);
-  EXPECT_EQ(InStore("QDLeft"), QStringLiteral("none"));
-  EXPECT_EQ(InStore("QDWidth"), QStringLiteral("8300"));
+  EXPECT_EQ(Setting("QDLeft"), "none");
+  EXPECT_EQ(Setting("QDWidth"), "8300");
   WindowPosition(session, true, WindowGroup::QuickJournalPosition);
 
   session.windows.framePlace = {};
@@ -230,21 +181,21 @@ TEST_F(Geometry, EditionFlags) {
   }
   session.edition.BizEdLoginMode = session.edition.SeravaEdition = false;
   Put("BizTitle", "Weight Club");
-  EXPECT_EQ(ApplicationTitle(session), QStringLiteral("Trimlog Pro 2.7"));
+  EXPECT_EQ(ApplicationTitle(session), "Trimlog Pro 2.7");
   session.edition.SeravaEdition = true;
-  EXPECT_EQ(ApplicationTitle(session), QStringLiteral("Trimlog Pro SERAVA Edition 2.7"));
+  EXPECT_EQ(ApplicationTitle(session), "Trimlog Pro SERAVA Edition 2.7");
   session.edition.BizEdLoginMode = true;
-  EXPECT_EQ(ApplicationTitle(session), QStringLiteral("Weight Club"));
+  EXPECT_EQ(ApplicationTitle(session), "Weight Club");
   Put("BizTitle", "");
-  EXPECT_EQ(ApplicationTitle(session), QStringLiteral("Trimlog Pro SERAVA Edition 2.7"));
-  const QString handheld = settingsRoot + QStringLiteral("\\PPC");
+  EXPECT_EQ(ApplicationTitle(session), "Trimlog Pro SERAVA Edition 2.7");
+  const QString handheld = settingsRoot + "\\PPC";
   LoadHandheldSettings(session);
   EXPECT_FALSE(session.edition.HandheldSupport);
-  store->SaveSettingString(handheld, QStringLiteral("DaysHistory"), QStringLiteral("0"));
+  store->SaveSettingString(handheld, "DaysHistory", "0");
   LoadHandheldSettings(session);
   EXPECT_TRUE(session.edition.HandheldSupport) << "any text counts";
   for (const auto &[text, on] : {std::pair{"", true}, {"maybe", true}, {"-1", true}, {"0", false}}) {
-    store->SaveSettingString(handheld, QStringLiteral("ActiveSyncOnExit"), QLatin1String(text));
+    store->SaveSettingString(handheld, "ActiveSyncOnExit", text);
     EXPECT_EQ(ActiveSyncOnExit(session), on) << text;
   }
 }

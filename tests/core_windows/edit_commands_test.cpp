@@ -1,49 +1,41 @@
 #include "core/windows/frame/edit_commands.h"
 
-#include <gtest/gtest.h>
-
-#include <QApplication>
-#include <QClipboard>
-#include <QComboBox>
-#include <QLineEdit>
-#include <QPlainTextEdit>
-#include <QSpinBox>
-
 #include "platform/windows/grid/bound_grid.h"
 #include "support/test_session.h"
+#include "support/windows/controls.h"
 
 namespace trimlog {
 namespace {
 
 QString Clipboard() { return QApplication::clipboard()->text(); }
-void SetClipboard(const char *text) { QApplication::clipboard()->setText(QString::fromLatin1(text)); }
+void SetClipboard(const char *text) { QApplication::clipboard()->setText(text); }
 
 TEST(EditCommands, WorkOnTheSelectionOfATextField) {
-  QLineEdit field(QStringLiteral("182.5 lbs"));
+  QLineEdit field("182.5 lbs");
   field.setSelection(0, 5);
   RunEditCommand(EditCommand::Copy, &field);
-  EXPECT_EQ(Clipboard(), QStringLiteral("182.5"));
+  EXPECT_EQ(Clipboard(), "182.5");
   RunEditCommand(EditCommand::Cut, &field);
-  EXPECT_EQ(field.text(), QStringLiteral(" lbs"));
+  EXPECT_EQ(field.text(), " lbs");
   RunEditCommand(EditCommand::Undo, &field);
-  EXPECT_EQ(field.text(), QStringLiteral("182.5 lbs"));
+  EXPECT_EQ(field.text(), "182.5 lbs");
   SetClipboard("90");
   field.selectAll();
   RunEditCommand(EditCommand::Paste, &field);
-  EXPECT_EQ(field.text(), QStringLiteral("90"));
+  EXPECT_EQ(field.text(), "90");
 }
 
 TEST(EditCommands, ReadOnlyFieldsAreOnlyCopiedFrom) {
-  QLineEdit field(QStringLiteral("30.5"));
+  QLineEdit field("30.5");
   field.setReadOnly(true);
   field.selectAll();
   SetClipboard("before");
   RunEditCommand(EditCommand::Cut, &field);
   RunEditCommand(EditCommand::Paste, &field);
-  EXPECT_EQ(field.text(), QStringLiteral("30.5"));
-  EXPECT_EQ(Clipboard(), QStringLiteral("before"));
+  EXPECT_EQ(field.text(), "30.5");
+  EXPECT_EQ(Clipboard(), "before");
   RunEditCommand(EditCommand::Copy, &field);
-  EXPECT_EQ(Clipboard(), QStringLiteral("30.5"));
+  EXPECT_EQ(Clipboard(), "30.5");
   EXPECT_FALSE(CanRunEditCommand(EditCommand::Paste, &field));
   EXPECT_TRUE(CanRunEditCommand(EditCommand::Copy, &field));
 }
@@ -51,11 +43,11 @@ TEST(EditCommands, ReadOnlyFieldsAreOnlyCopiedFrom) {
 TEST(EditCommands, ReachTheFieldInsideOtherControls) {
   QComboBox combo;
   combo.setEditable(true);
-  combo.setEditText(QStringLiteral("Lunch"));
+  combo.setEditText("Lunch");
   QSpinBox spin;
   spin.setRange(0, 999);
   spin.setValue(42);
-  QPlainTextEdit notes(QStringLiteral("walked"));
+  QPlainTextEdit notes("walked");
   for (QWidget *control : QWidgetList{&combo, &spin, &notes}) {
     SetClipboard("");
     QMetaObject::invokeMethod(control == &combo ? combo.lineEdit() : control, "selectAll");
@@ -66,28 +58,25 @@ TEST(EditCommands, ReachTheFieldInsideOtherControls) {
 
 TEST(EditCommands, OnAGridMeanTheActiveCell) {
   TestSession session;
-  BoundGrid grid(QStringLiteral("grdPeople"), QStringLiteral("Profiles"), session->locale);
-  grid.SetColumns({{.name = QStringLiteral("PersonName"), .field = QStringLiteral("PersonName"), .editable = true},
-                   {.name = QStringLiteral("Goal"), .field = QStringLiteral("Goal")}});
-  ASSERT_TRUE(grid.Open(session.Data(), {.table = QStringLiteral("people"),
-                                         .key = QStringLiteral("PersonID"),
-                                         .where = QStringLiteral("(people.PersonID > 0)")}));
+  BoundGrid grid("grdPeople", "Profiles", session->locale);
+  grid.SetColumns({{.name = "PersonName", .field = "PersonName", .editable = true}, {.name = "Goal", .field = "Goal"}});
+  ASSERT_TRUE(grid.Open(session.Data(), {.table = "people", .key = "PersonID", .where = "(people.PersonID > 0)"}));
   EXPECT_TRUE(grid.GoToKey(1));
   const auto text = [&grid](int column) { return grid.model()->index(0, column).data().toString(); };
 
   grid.setCurrentIndex(grid.model()->index(0, 0));
   RunEditCommand(EditCommand::Cut, &grid);
-  EXPECT_EQ(Clipboard(), QStringLiteral("Test Person"));
+  EXPECT_EQ(Clipboard(), "Test Person");
   EXPECT_EQ(text(0), QString());
   RunEditCommand(EditCommand::Paste, &grid);
-  EXPECT_EQ(text(0), QStringLiteral("Test Person"));
+  EXPECT_EQ(text(0), "Test Person");
 
   SetClipboard("99");
   grid.setCurrentIndex(grid.model()->index(0, 1));
   RunEditCommand(EditCommand::Paste, &grid);
   RunEditCommand(EditCommand::Copy, &grid);
-  EXPECT_EQ(text(1), QStringLiteral("150"));
-  EXPECT_EQ(Clipboard(), QStringLiteral("150"));
+  EXPECT_EQ(text(1), "150");
+  EXPECT_EQ(Clipboard(), "150");
   EXPECT_FALSE(CanRunEditCommand(EditCommand::Paste, &grid));
 }
 

@@ -1,6 +1,5 @@
 #include "core/windows/controls/figure_field.h"
-
-#include <gtest/gtest.h>
+#include "support/windows/controls.h"
 
 namespace trimlog {
 namespace {

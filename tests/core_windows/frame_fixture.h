@@ -1,13 +1,8 @@
 #pragma once
 
-#include <gtest/gtest.h>
-
-#include <QApplication>
-#include <QLineEdit>
-#include <QVBoxLayout>
-
 #include "core/windows/frame/frmMDI.h"
 #include "support/test_session.h"
+#include "support/windows/controls.h"
 
 namespace trimlog {
 
@@ -24,7 +19,7 @@ class TestForm : public ContentWindow {
     auto *layout = new QVBoxLayout(this);
     for (const char *field : {"txtData(1)", "txtData(2)"}) {
       auto *edit = new QLineEdit(this);
-      edit->setObjectName(QString::fromLatin1(field));
+      edit->setObjectName(field);
       layout->addWidget(edit);
     }
     Note("made");
@@ -40,16 +35,16 @@ class TestForm : public ContentWindow {
   void GotoDate(const QDate &date) override { Note(qPrintable(date.toString(Qt::ISODate))); }
   WindowCommands Commands() override {
     WindowCommands commands;
-    if (objectName() != QStringLiteral("frmData")) return commands;
+    if (objectName() != "frmData") return commands;
     for (const char *name : {"mnuFilePrint", "mnuEditDeleteWeight", "mnuEditGotoPrevious", "mnuEditGotoNext"}) {
-      commands.insert(QString::fromLatin1(name), [this, name] { Note(name); });
+      commands.insert(name, [this, name] { Note(name); });
     }
     return commands;
   }
   void PrepareForPrinting(bool on) override { Note(on ? "paper" : "screen"); }
 
  private:
-  void Note(const char *what) { behaviour_.calls.append(objectName() + QLatin1Char(':') + QLatin1String(what)); }
+  void Note(const char *what) { behaviour_.calls.append(objectName() + QLatin1Char(':') + what); }
   Behaviour &behaviour_;
 };
 
@@ -60,7 +55,7 @@ class FrameTest : public ::testing::Test {
     session->settings.ShowSplash = false;
     session->settings.ShowTutorial = false;
     session->windows.framePlace = {1500, 1500, 9525, 7095};
-    for (const char *name : {"frmData", "frmDiary", "frmGraphs"}) Offer(QString::fromLatin1(name));
+    for (const char *name : {"frmData", "frmDiary", "frmGraphs"}) Offer(name);
   }
 
   void Offer(const QString &name) {
@@ -74,7 +69,7 @@ class FrameTest : public ::testing::Test {
     behaviour.calls.clear();
     return *frame;
   }
-  QAction *Action(const char *name) { return frame->Menus().Action(QString::fromLatin1(name)); }
+  QAction *Action(const char *name) { return frame->Menus().Action(name); }
   void Choose(const char *name) {
     Action(name)->trigger();
     QApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
@@ -88,7 +83,7 @@ class FrameTest : public ::testing::Test {
   }
   template <typename Widget>
   Widget *Find(const char *name) {
-    return frame->findChild<Widget *>(QString::fromLatin1(name));
+    return frame->findChild<Widget *>(name);
   }
 
   TestSession session;

@@ -1,13 +1,3 @@
-#include <gtest/gtest.h>
-
-#include <QApplication>
-#include <QLineEdit>
-#include <QMessageBox>
-#include <QTest>
-#include <QTextBrowser>
-#include <QToolButton>
-#include <QWindow>
-
 #include "core/windows/controls/frmCalendar.h"
 #include "core/windows/controls/theme.h"
 #include "core/windows/frame/frmSplash.h"
@@ -25,9 +15,9 @@ namespace {
 
 class HelpWindow : public ::testing::Test {
  protected:
-  HelpWindow() : folder(session->programDirectory + QStringLiteral("/help/")) {
+  HelpWindow() : folder(session->programDirectory + "/help/") {
     QDir().mkpath(folder);
-    const QDir shipped(SourceDir() + QStringLiteral("/help"));
+    const QDir shipped(SourceDir() + "/help");
     for (const QString &page : shipped.entryList(QDir::Files))
       EXPECT_TRUE(QFile::copy(shipped.filePath(page), folder + page));
   }
@@ -46,7 +36,7 @@ class HelpWindow : public ::testing::Test {
     if (!source.isLocalFile()) return source.toString().toStdString();
     return (source.fileName() + (source.hasFragment() ? u'#' + source.fragment() : QString())).toStdString();
   }
-  static QTextBrowser &Browser() { return Find<QTextBrowser>(*Help(), QStringLiteral("brwPage")); }
+  static QTextBrowser &Browser() { return Find<QTextBrowser>(*Help(), "brwPage"); }
   /// Keys arrive as they do from the screen: at the window, where a dialog may shut them out.
   static void Press(QWidget &window, int key, Qt::KeyboardModifiers modifiers = Qt::NoModifier) {
     QTest::keyClick(window.windowHandle(), static_cast<Qt::Key>(key), modifiers);
@@ -57,7 +47,7 @@ class HelpWindow : public ::testing::Test {
     for (const char *letter = text; *letter; ++letter) QTest::keyClick(Help()->windowHandle(), *letter);
   }
   static void Click(const char *name) {
-    const auto &button = Find<QToolButton>(*Help(), QLatin1String(name));
+    const auto &button = Find<QToolButton>(*Help(), name);
     QTest::mouseClick(Help()->windowHandle(), Qt::LeftButton, {},
                       button.mapTo(button.window(), button.rect().center()));
     QApplication::processEvents();
@@ -79,7 +69,7 @@ TEST_F(HelpWindow, F1OpensThePageThatFits) {
   frmSetup options(*session, navigator, {}, nullptr);
   frmCalendar calendar(*session, QDate(2026, 3, 1), nullptr);
   frmSplash about(*session, *system, true, nullptr);
-  QMessageBox box(QMessageBox::Question, QStringLiteral("Sure?"), QStringLiteral("Really?"), QMessageBox::Ok, &options);
+  QMessageBox box(QMessageBox::Question, "Sure?", "Really?", QMessageBox::Ok, &options);
   QDialog unknown;
   options.ShowTab(SetupTab::Colors);
   const std::pair<QWidget *, const char *> windows[] = {{&options, "options.html#colors"},
@@ -98,7 +88,7 @@ TEST_F(HelpWindow, F1OpensThePageThatFits) {
   // The button that has the focus does not matter, the tab that is shown does.
   ShowAndActivate(options);
   options.ShowTab(SetupTab::Other);
-  Find<QPushButton>(options, QStringLiteral("cmdOK")).setFocus();
+  Find<QPushButton>(options, "cmdOK").setFocus();
   Press(options, Qt::Key_F1);
   EXPECT_EQ(Page(), "options.html#other");
   Press(options, Qt::Key_F1, Qt::ShiftModifier);
@@ -106,18 +96,18 @@ TEST_F(HelpWindow, F1OpensThePageThatFits) {
 }
 
 TEST_F(HelpWindow, BackForwardHomeAndSearchByKeys) {
-  desk.Show(QStringLiteral("tools"));
+  desk.Show("tools");
   ASSERT_TRUE(QTest::qWaitForWindowActive(Help()));
-  EXPECT_FALSE(Find<QToolButton>(*Help(), QStringLiteral("cmdBack")).isEnabled());
+  EXPECT_FALSE(Find<QToolButton>(*Help(), "cmdBack").isEnabled());
   Press(Qt::Key_Tab);  // to the first link
   Press(Qt::Key_Return);
   EXPECT_EQ(Page(), "35.html");
-  EXPECT_EQ(Help()->windowTitle().toStdString(), "Planning for your goal - Trimlog Pro Help");
+  EXPECT_EQ(Help()->windowTitle(), "Planning for your goal - Trimlog Pro Help");
   Press(Qt::Key_F, Qt::ControlModifier);
   Type("net calories");
   Press(Qt::Key_Return);
   EXPECT_EQ(Page(), "search:net calories");
-  EXPECT_TRUE(Browser().toPlainText().contains(QStringLiteral("pages were found for net calories")));
+  EXPECT_TRUE(Browser().toPlainText().contains("pages were found for net calories"));
   Press(Qt::Key_Tab);
   Press(Qt::Key_Return);
   EXPECT_EQ(Page(), "netcalories.html");
@@ -142,7 +132,7 @@ TEST_F(HelpWindow, IsUsableAboveDialogsAndOutlivesThem) {
   desk.Show({});
   WhenModal([this](QWidget &outer) {
     Click("cmdHome");  // the dialog came after the help
-    Find<QLineEdit>(*Help(), QStringLiteral("txtSearch")).setFocus();
+    Find<QLineEdit>(*Help(), "txtSearch").setFocus();
     Type("weight");
     Press(Qt::Key_Return);
     EXPECT_EQ(Page(), "search:weight");
@@ -155,8 +145,7 @@ TEST_F(HelpWindow, IsUsableAboveDialogsAndOutlivesThem) {
       Press(Qt::Key_Left, Qt::AltModifier);
       EXPECT_EQ(Page(), "search:weight");
     });
-    QMessageBox(QMessageBox::Question, QStringLiteral("Sure?"), QStringLiteral("Really?"), QMessageBox::Ok, &outer)
-        .exec();
+    QMessageBox(QMessageBox::Question, "Sure?", "Really?", QMessageBox::Ok, &outer).exec();
     QApplication::processEvents();
     Click("cmdHome");
     EXPECT_EQ(Page(), "index.html");
@@ -170,22 +159,22 @@ TEST_F(HelpWindow, IsUsableAboveDialogsAndOutlivesThem) {
 }
 
 TEST_F(HelpWindow, OnlyTheWebGoesToTheBrowserOfTheWeb) {
-  QFile page(folder + QStringLiteral("web.html"));
+  QFile page(folder + "web.html");
   ASSERT_TRUE(page.open(QIODevice::WriteOnly));
   page.write("<html><body><p><a href=\"https://www.corvane.example/a?b=1\">Web</a></p></body></html>");
   page.close();
-  desk.Show(QStringLiteral("web"));
+  desk.Show("web");
   ASSERT_TRUE(QTest::qWaitForWindowActive(Help()));
   Press(Qt::Key_Tab);
   Press(Qt::Key_Return);
-  EXPECT_EQ(session.machine.opened, QStringList{QStringLiteral("https://www.corvane.example/a?b=1")});
+  EXPECT_EQ(session.machine.opened, QStringList{"https://www.corvane.example/a?b=1"});
   EXPECT_EQ(Page(), "web.html");
 }
 
 TEST_F(HelpWindow, ProgramsWithoutTheirHelpSaySo) {
   ASSERT_TRUE(QDir(folder).removeRecursively());
-  session.boxes.Expect(QStringLiteral("Trimlog Pro Help"), QStringLiteral("The help file could not be found."));
-  desk.Show(QStringLiteral("tools"));
+  session.boxes.Expect("Trimlog Pro Help", "The help file could not be found.");
+  desk.Show("tools");
   EXPECT_EQ(Help(), nullptr);
 }
 

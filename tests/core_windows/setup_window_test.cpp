@@ -1,15 +1,3 @@
-#include <gtest/gtest.h>
-
-#include <QAccessible>
-#include <QCheckBox>
-#include <QLabel>
-#include <QLineEdit>
-#include <QPushButton>
-#include <QRadioButton>
-#include <QTabBar>
-#include <QTabWidget>
-#include <QTest>
-
 #include "core/profiles/profiles.h"
 #include "core/windows/controls/choice_combo.h"
 #include "core/windows/controls/colour_combo.h"
@@ -46,7 +34,7 @@ class SetupWindow : public ::testing::Test {
     auto &button = The<QAbstractButton>(name);
     QTest::mouseClick(&button, Qt::LeftButton, {}, QPoint(5, button.height() / 2));
   }
-  void Press(const char *name) { QTest::mouseClick(&The<QPushButton>(QString::fromLatin1(name)), Qt::LeftButton); }
+  void Press(const char *name) { QTest::mouseClick(&The<QPushButton>(name), Qt::LeftButton); }
   std::string Stored(const QString &valueName) {
     return session.store->GetSettingString(settingsRoot, valueName).toStdString();
   }
@@ -58,14 +46,12 @@ class SetupWindow : public ::testing::Test {
     return all;
   }
   std::string Person(const char *field, int personID) {
-    return session
-        .ValueOf(QString::fromLatin1(field), QStringLiteral("people"), QStringLiteral("PersonID=%1").arg(personID))
-        .toStdString();
+    return session.ValueOf(field, "people", QStringLiteral("PersonID=%1").arg(personID)).toStdString();
   }
   /// Types into a cell of the current row and leaves the cell.
   void TypeCell(const char *column, const QString &text) {
-    auto &grid = The<BoundGrid>(QStringLiteral("grdPeople"));
-    const int place = grid.Model().ColumnByName(QString::fromLatin1(column));
+    auto &grid = The<BoundGrid>("grdPeople");
+    const int place = grid.Model().ColumnByName(column);
     grid.setCurrentIndex(grid.Model().index(grid.currentIndex().row(), place));
     QTest::keyClick(&grid, Qt::Key_F2);
     auto *editor = grid.viewport()->findChild<QLineEdit *>();
@@ -84,50 +70,36 @@ class SetupWindow : public ::testing::Test {
   std::unique_ptr<frmSetup> window;
 };
 
-struct CheckCase {
-  SetupTab tab;
-  QString control;
-  QString valueName;
-};
-
-QList<CheckCase> Checks() {
-  QList<CheckCase> cases;
+// Each control is tried alone, so that one wired to another's setting shows.
+TEST_F(SetupWindow, EveryTickLoadsAndStoresItsOwnSetting) {
+  std::vector<std::pair<SetupTab, QString>> ticks = {{SetupTab::Other, "ShowSplash"}};
   for (const char *name : {"OpenToday", "ShowLoss", "ColorCoding", "ShowCalories"}) {
-    cases.append({SetupTab::Calendar, QStringLiteral("chk") + QLatin1String(name), QString::fromLatin1(name)});
+    ticks.push_back({SetupTab::Calendar, name});
+  }
+  for (const char *name : {"ConfirmDeletes", "SmartDates", "BodyFat", "NetCaloriesBMR"}) {
+    ticks.push_back({SetupTab::Journal, name});
   }
   for (int chart = 1; chart <= 4; ++chart) {
     for (const char *name : {"ShowGridlines", "ShowDataLabels", "PlotPoints"}) {
-      cases.append({SetupTab::Charts, QStringLiteral("chk%1(%2)").arg(QLatin1String(name)).arg(chart),
-                    QLatin1String(name) + QString::number(chart)});
+      ticks.push_back({SetupTab::Charts, name + QString::number(chart)});
     }
   }
-  for (const char *name : {"ConfirmDeletes", "SmartDates", "BodyFat", "NetCaloriesBMR"}) {
-    cases.append({SetupTab::Journal, QStringLiteral("chk") + QLatin1String(name), QString::fromLatin1(name)});
-  }
-  cases.append({SetupTab::Other, QStringLiteral("chkShowSplash"), QStringLiteral("ShowSplash")});
-  return cases;
-}
-
-// Each control is tried alone, so that one wired to another's setting shows.
-TEST_F(SetupWindow, EveryTickLoadsAndStoresItsOwnSetting) {
-  for (const CheckCase &row : Checks()) {
-    SCOPED_TRACE(row.control.toStdString());
+  for (const auto &[tab, name] : ticks) {
+    SCOPED_TRACE(name.toStdString());
+    const QString control =
+        tab == SetupTab::Charts ? QStringLiteral("chk%1(%2)").arg(name.chopped(1), name.right(1)) : "chk" + name;
     const QMap<QString, QString> before = AllStored();
-    Open(row.tab);
-    EXPECT_EQ(The<QCheckBox>(row.control).isChecked(), before[row.valueName] == QStringLiteral("-1"));
-    Click(row.control);
-    Press("cmdCancel");
-    EXPECT_EQ(AllStored(), before);
-
-    Open(row.tab);
-    Click(row.control);
-    Press("cmdOK");
-    EXPECT_FALSE(window->isVisible());
     QMap<QString, QString> expected = before;
-    expected[row.valueName] =
-        before[row.valueName] == QStringLiteral("-1") ? QStringLiteral("0") : QStringLiteral("-1");
-    EXPECT_EQ(AllStored(), expected);
-    EXPECT_EQ(StoredValue(session->settings, row.valueName), expected[row.valueName]);
+    for (const char *leave : {"cmdCancel", "cmdOK"}) {
+      Open(tab);
+      EXPECT_EQ(The<QCheckBox>(control).isChecked(), before[name] == "-1");
+      Click(control);
+      if (QString(leave) == "cmdOK") expected[name] = before[name] == "-1" ? "0" : "-1";
+      Press(leave);
+      EXPECT_FALSE(window->isVisible());
+      EXPECT_EQ(AllStored(), expected);
+      EXPECT_EQ(StoredValue(session->settings, name), expected[name]);
+    }
   }
 }
 
@@ -139,42 +111,28 @@ TEST_F(SetupWindow, EveryChoiceStoresItsOwnSetting) {
     QString valueName;
     QString stored;
   };
-  QList<Case> cases = {
-      {SetupTab::Calendar, QStringLiteral("cboNutrientID"), QStringLiteral("Protein (g)"), QStringLiteral("NutrientID"),
-       QStringLiteral("4")},
-      {SetupTab::Calendar, QStringLiteral("cboNutrientID"), QStringLiteral("Calories Burned (kcal)"),
-       QStringLiteral("NutrientID"), QStringLiteral("101")},
-      {SetupTab::Calendar, QStringLiteral("cboUomID"), QStringLiteral("Metric (Kilograms and Meters)"),
-       QStringLiteral("UomID"), QStringLiteral("2")},
-      {SetupTab::Journal, QStringLiteral("cboDefaultDiaryTab"), QStringLiteral("Body Measurements"),
-       QStringLiteral("DefaultDiaryTab"), QStringLiteral("3")},
-  };
+  QList<Case> cases = {{SetupTab::Calendar, "cboNutrientID", "Protein (g)", "NutrientID", "4"},
+                       {SetupTab::Calendar, "cboNutrientID", "Calories Burned (kcal)", "NutrientID", "101"},
+                       {SetupTab::Calendar, "cboUomID", "Metric (Kilograms and Meters)", "UomID", "2"},
+                       {SetupTab::Journal, "cboDefaultDiaryTab", "Body Measurements", "DefaultDiaryTab", "3"}};
   for (int chart = 1; chart <= 4; ++chart) {
     const QString of = QStringLiteral("(%1)").arg(chart);
     const QString n = QString::number(chart);
-    cases.append({SetupTab::Charts, QStringLiteral("cboLineWidth") + of, QStringLiteral("Huge"),
-                  QStringLiteral("LineWidth") + n, QStringLiteral("8")});
-    cases.append({SetupTab::Charts, QStringLiteral("cboLineColor") + of, QStringLiteral("Red"),
-                  QStringLiteral("LineColor") + n, QStringLiteral("255")});
-    cases.append({SetupTab::Charts, QStringLiteral("cboPointColor") + of, QStringLiteral("Green"),
-                  QStringLiteral("PointColor") + n, QString::number(0x00C000)});
+    cases.append({SetupTab::Charts, "cboLineWidth" + of, "Huge", "LineWidth" + n, "8"});
+    cases.append({SetupTab::Charts, "cboLineColor" + of, "Red", "LineColor" + n, "255"});
+    cases.append({SetupTab::Charts, "cboPointColor" + of, "Green", "PointColor" + n, QString::number(0x00C000)});
   }
   for (int type = 8; type >= 1; --type) {
     cases.append({SetupTab::Charts,
                   QStringLiteral("optBodyType(%1)").arg(type - 1),
                   {},
-                  QStringLiteral("BodyMeasDefault"),
+                  "BodyMeasDefault",
                   QString::number(type)});
   }
   for (int answer = 0; answer <= 2; ++answer) {
     const QString n = QString::number(answer);
-    cases.append(
-        {SetupTab::Journal, QStringLiteral("optConfirmMealUpdates") + n, {}, QStringLiteral("ConfirmMealsUpdates"), n});
-    cases.append({SetupTab::Journal,
-                  QStringLiteral("optConfirmExerciseUpdates") + n,
-                  {},
-                  QStringLiteral("ConfirmExerciseUpdates"),
-                  n});
+    cases.append({SetupTab::Journal, "optConfirmMealUpdates" + n, {}, "ConfirmMealsUpdates", n});
+    cases.append({SetupTab::Journal, "optConfirmExerciseUpdates" + n, {}, "ConfirmExerciseUpdates", n});
   }
   for (const Case &row : cases) {
     SCOPED_TRACE(row.control.toStdString());
@@ -211,35 +169,35 @@ TEST_F(SetupWindow, ValuesThatNoListKnowsSurviveOk) {
 }
 
 TEST_F(SetupWindow, TheCalendarsLastNutrientIsReadFromTheStore) {
-  session.store->SaveSettingString(settingsRoot, QStringLiteral("NutrientID"), QStringLiteral("5"));
+  session.store->SaveSettingString(settingsRoot, "NutrientID", "5");
   Open(SetupTab::Calendar);
-  EXPECT_EQ(The<ChoiceCombo>(QStringLiteral("cboNutrientID")).ChosenValue(), 5);
+  EXPECT_EQ(The<ChoiceCombo>("cboNutrientID").ChosenValue(), 5);
 }
 
 TEST_F(SetupWindow, AnotherUnitSystemRenamesTheProfileColumnsAtOnce) {
   Open(SetupTab::Calendar);
   const auto caption = [this](const char *column) {
-    const GridModel &model = The<BoundGrid>(QStringLiteral("grdPeople")).Model();
-    return model.headerData(model.ColumnByName(QString::fromLatin1(column)), Qt::Horizontal).toString().toStdString();
+    const GridModel &model = The<BoundGrid>("grdPeople").Model();
+    return model.headerData(model.ColumnByName(column), Qt::Horizontal).toString().toStdString();
   };
   EXPECT_EQ(caption("Goal"), "Goal (lbs.)");
-  The<ChoiceCombo>(QStringLiteral("cboUomID")).SetValue(2);
+  The<ChoiceCombo>("cboUomID").SetValue(2);
   EXPECT_EQ(caption("Goal"), "Goal (kg.)");
   EXPECT_EQ(caption("HeightFeet"), "Ht (m.)");
   EXPECT_EQ(caption("HeightInches"), "Ht (cm.)");
   Press("cmdOK");
-  EXPECT_EQ(session->UomDisplay.toStdString(), "Kg");
+  EXPECT_EQ(session->UomDisplay, "Kg");
   EXPECT_EQ(Person("Goal", 1), "150") << "nothing stored is converted";
 }
 
 TEST_F(SetupWindow, AProfileIsChangedInPlaceAndCancelKeepsIt) {
-  session.AddProfile(2, QStringLiteral("Ann"));
+  session.AddProfile(2, "Ann");
   HeardChanges heard(*session);
   Open(SetupTab::Profiles);
-  auto &grid = The<BoundGrid>(QStringLiteral("grdPeople"));
+  auto &grid = The<BoundGrid>("grdPeople");
   EXPECT_EQ(grid.CurrentKey(), 1) << "the loaded profile is the current row";
-  TypeCell("PersonName", QStringLiteral("O'Brien \"Bob\""));
-  TypeCell("Goal", QStringLiteral("142.5"));
+  TypeCell("PersonName", "O'Brien \"Bob\"");
+  TypeCell("Goal", "142.5");
   EXPECT_TRUE(grid.CommitRow());
   Press("cmdCancel");
   EXPECT_EQ(Person("PersonName", 1), "O'Brien \"Bob\"");
@@ -250,11 +208,11 @@ TEST_F(SetupWindow, AProfileIsChangedInPlaceAndCancelKeepsIt) {
 
 TEST_F(SetupWindow, TheGenderIsChosenFromItsList) {
   Open(SetupTab::Profiles);
-  auto &grid = The<BoundGrid>(QStringLiteral("grdPeople"));
-  grid.setCurrentIndex(grid.Model().index(0, grid.Model().ColumnByName(QStringLiteral("Gender"))));
-  EXPECT_EQ(grid.currentIndex().data().toString().toStdString(), "Female");
+  auto &grid = The<BoundGrid>("grdPeople");
+  grid.setCurrentIndex(grid.Model().index(0, grid.Model().ColumnByName("Gender")));
+  EXPECT_EQ(grid.currentIndex().data().toString(), "Female");
   QTest::keyClick(&grid, Qt::Key_F2);
-  QTest::keyClick(&The<QComboBox>(QStringLiteral("ddnGenders")), Qt::Key_Up);
+  QTest::keyClick(&The<QComboBox>("ddnGenders"), Qt::Key_Up);
   EXPECT_TRUE(grid.CommitRow());
   EXPECT_EQ(Person("GenderID", 1), "1");
 }
@@ -275,13 +233,13 @@ TEST_F(SetupWindow, RefusedValuesStayInViewAndKeepTheWindowOpen) {
     SCOPED_TRACE(row.typed);
     const std::string before = Person(row.column, 1);
     Open(SetupTab::Profiles);
-    TypeCell(row.column, QString::fromLatin1(row.typed));
-    session.boxes.Expect(QStringLiteral("Invalid Profile"), QString::fromLatin1(row.sentence));
+    TypeCell(row.column, row.typed);
+    session.boxes.Expect("Invalid Profile", row.sentence);
     Press("cmdOK");
     EXPECT_TRUE(window->isVisible());
     EXPECT_FALSE(session.boxes.Shown().back().text.isEmpty());
-    auto &grid = The<BoundGrid>(QStringLiteral("grdPeople"));
-    const int column = grid.Model().ColumnByName(QString::fromLatin1(row.column));
+    auto &grid = The<BoundGrid>("grdPeople");
+    const int column = grid.Model().ColumnByName(row.column);
     const QModelIndex cell = grid.Model().index(grid.currentIndex().row(), column);
     EXPECT_EQ(cell.data().toString().toDouble(), QString::fromLatin1(row.typed).toDouble());
     EXPECT_FALSE(cell.data(GridModel::SentenceRole).toString().isEmpty());
@@ -291,18 +249,18 @@ TEST_F(SetupWindow, RefusedValuesStayInViewAndKeepTheWindowOpen) {
 }
 
 TEST_F(SetupWindow, AnInvalidGoalIsAskedAboutBeforeTheWindowIsLeft) {
-  const QString title = QStringLiteral("Invalid Goal");
-  const QString text = QStringLiteral("The goal that you entered is invalid.  Are you sure that you want to continue?");
+  const QString title = "Invalid Goal";
+  const QString text = "The goal that you entered is invalid.  Are you sure that you want to continue?";
   for (const char *goal : {"0", "-3", "abc"}) {
     SCOPED_TRACE(goal);
-    session.Data().Execute(QStringLiteral("UPDATE people SET Goal=\"150\" WHERE PersonID=1;"));
+    session.Data().Execute("UPDATE people SET Goal=\"150\" WHERE PersonID=1;");
     Open(SetupTab::Profiles);
-    TypeCell("Goal", QString::fromLatin1(goal));
+    TypeCell("Goal", goal);
     window->ShowTab(SetupTab::Journal);
     session.boxes.Expect(title, text, BoxButton::No);
     Press("cmdOK");
     EXPECT_TRUE(window->isVisible());
-    EXPECT_EQ(The<QTabWidget>(QStringLiteral("SSTab1")).currentIndex(), 0) << "the field comes into view";
+    EXPECT_EQ(The<QTabWidget>("SSTab1").currentIndex(), 0) << "the field comes into view";
     session.boxes.Expect(title, text, BoxButton::Yes);
     Press("cmdOK");
     EXPECT_FALSE(window->isVisible());
@@ -310,34 +268,31 @@ TEST_F(SetupWindow, AnInvalidGoalIsAskedAboutBeforeTheWindowIsLeft) {
 }
 
 TEST_F(SetupWindow, DeletingAsksInItsOwnWordsAndStandsOnWhatIsLeft) {
-  session.AddProfile(2, QStringLiteral("Ann"));
-  session.AddProfile(3, QStringLiteral("Bob"));
-  session.AddProfile(4, QStringLiteral("Cid"));
-  session.Data().Execute(
-      QStringLiteral("INSERT INTO weight_loss ( PersonID, ThisDate, ThisWeight ) VALUES ( 1, #2/1/2026#, 180 );"));
-  const QString title = QStringLiteral("Warning: Delete Profile?");
-  const QString one = QStringLiteral(
+  session.AddProfile(2, "Ann");
+  session.AddProfile(3, "Bob");
+  session.AddProfile(4, "Cid");
+  session.Weigh(QDate(2026, 2, 1), 180);
+  const QString title = "Warning: Delete Profile?";
+  const QString one =
       "When you delete this profile from the list, all data and journal entries for this profile will also be deleted. "
       " "
-      "Are you sure you want to continue?");
-  const QString several = QStringLiteral(
+      "Are you sure you want to continue?";
+  const QString several =
       "When you delete these profiles from the list, all data and journal entries for these profiles will also be "
-      "deleted.  Are you sure you want to continue?");
+      "deleted.  Are you sure you want to continue?";
   Open(SetupTab::Profiles);
-  auto &grid = The<BoundGrid>(QStringLiteral("grdPeople"));
+  auto &grid = The<BoundGrid>("grdPeople");
   session.boxes.Expect(title, one, BoxButton::No);
   Press("cmdDeleteProfile");
   EXPECT_EQ(Person("PersonName", 1), "Test Person");
 
   session.boxes.Expect(title, one, BoxButton::Yes);
-  refused = {QStringLiteral("2")};  // Ann has a password and nobody gives it
+  refused = {"2"};  // Ann has a password and nobody gives it
   Press("cmdDeleteProfile");
   EXPECT_EQ(Person("PersonName", 1), "");
-  EXPECT_EQ(session.ValueOf(QStringLiteral("ThisWeight"), QStringLiteral("weight_loss"), QStringLiteral("PersonID=1"))
-                .toStdString(),
-            "");
+  EXPECT_EQ(session.ValueOf("ThisWeight", "weight_loss", "PersonID=1"), "");
   EXPECT_EQ(loaded.join(u' ').toStdString(), "2 -2");
-  EXPECT_EQ(session->profile.CurrentPersonID.toStdString(), "-2");
+  EXPECT_EQ(session->profile.CurrentPersonID, "-2");
 
   loaded.clear();
   grid.MarkRows({3, 4});
@@ -349,40 +304,40 @@ TEST_F(SetupWindow, DeletingAsksInItsOwnWordsAndStandsOnWhatIsLeft) {
   session.boxes.Expect(title, one, BoxButton::Yes);
   grid.GoToKey(2);
   Press("cmdDeleteProfile");
-  EXPECT_FALSE(The<QPushButton>(QStringLiteral("cmdDeleteProfile")).isEnabled());
-  EXPECT_FALSE(The<QPushButton>(QStringLiteral("cmdPassword")).isEnabled());
+  EXPECT_FALSE(The<QPushButton>("cmdDeleteProfile").isEnabled());
+  EXPECT_FALSE(The<QPushButton>("cmdPassword").isEnabled());
   Press("cmdOK");  // no profile, no goal to ask about
   EXPECT_FALSE(window->isVisible());
 }
 
 TEST_F(SetupWindow, NewProfileIsThereOnlyWithItsDoor) {
   Open(SetupTab::Profiles);
-  EXPECT_FALSE(The<QPushButton>(QStringLiteral("cmdNewProfile")).isEnabled());
+  EXPECT_FALSE(The<QPushButton>("cmdNewProfile").isEnabled());
   navigator.CreateProfile = [this](QWidget *owner) {
     EXPECT_TRUE(owner);
-    session.AddProfile(8, QStringLiteral("Zoe"));
+    session.AddProfile(8, "Zoe");
     session.Announce({.table = Table::People, .keys = {8}});
     return true;
   };
   Open(SetupTab::Profiles);
   Press("cmdNewProfile");
-  EXPECT_EQ(The<BoundGrid>(QStringLiteral("grdPeople")).Model().RecordCount(), 2);
-  EXPECT_EQ(The<BoundGrid>(QStringLiteral("grdPeopleColors")).Model().RecordCount(), 2);
+  EXPECT_EQ(The<BoundGrid>("grdPeople").Model().RecordCount(), 2);
+  EXPECT_EQ(The<BoundGrid>("grdPeopleColors").Model().RecordCount(), 2);
 }
 
 TEST_F(SetupWindow, AColourIsStoredForTheProfileOfTheRow) {
-  session.AddProfile(2, QStringLiteral("Ann"));
+  session.AddProfile(2, "Ann");
   Open(SetupTab::Colors);
-  auto &list = The<ColourCombo>(QStringLiteral("cboBackColor"));
+  auto &list = The<ColourCombo>("cboBackColor");
   EXPECT_EQ(list.Colour(), 0xFFE0C0u);
-  The<BoundGrid>(QStringLiteral("grdPeopleColors")).GoToKey(2);
-  session.boxes.Expect(QStringLiteral("Color Scheme Changed."), QStringLiteral("the next time you log on."));
+  The<BoundGrid>("grdPeopleColors").GoToKey(2);
+  session.boxes.Expect("Color Scheme Changed.", "the next time you log on.");
   QTest::keyClick(&list, Qt::Key_Down);
   EXPECT_EQ(Person("BackColor", 2), std::to_string(0xE0FFFF));
   EXPECT_EQ(Person("BackColor", 1), "");
-  EXPECT_EQ(The<BoundGrid>(QStringLiteral("grdPeopleColors")).CurrentKey(), 2);
+  EXPECT_EQ(The<BoundGrid>("grdPeopleColors").CurrentKey(), 2);
   session.machine.colors = 256;
-  session.boxes.Expect(QStringLiteral("Color Scheme Changed."), QStringLiteral("the next time you log on."));
+  session.boxes.Expect("Color Scheme Changed.", "the next time you log on.");
   Press("cmdResetBackColor");
   EXPECT_EQ(Person("BackColor", 2), std::to_string(0xC0FFFF));
   EXPECT_EQ(list.Colour(), 0xC0FFFFu);
@@ -390,27 +345,27 @@ TEST_F(SetupWindow, AColourIsStoredForTheProfileOfTheRow) {
 
 TEST_F(SetupWindow, TheSignOfLossesIsStoredAtOnce) {
   Open(SetupTab::Colors);
-  EXPECT_TRUE(The<QRadioButton>(QStringLiteral("optShowPositive")).isChecked());
-  Click(QStringLiteral("optShowNegative"));
-  EXPECT_EQ(Stored(QStringLiteral("LossFactor")), "-1");
+  EXPECT_TRUE(The<QRadioButton>("optShowPositive").isChecked());
+  Click("optShowNegative");
+  EXPECT_EQ(Stored("LossFactor"), "-1");
   Press("cmdCancel");
   EXPECT_EQ(session->settings.LossFactor, -1);
   Open(SetupTab::Colors);
-  EXPECT_TRUE(The<QRadioButton>(QStringLiteral("optShowNegative")).isChecked());
-  EXPECT_EQ(The<QLabel>(QStringLiteral("lblLossFactorNote")).text().toStdString(),
+  EXPECT_TRUE(The<QRadioButton>("optShowNegative").isChecked());
+  EXPECT_EQ(The<QLabel>("lblLossFactorNote").text(),
             "This setting affects the calendar, weekly loss, monthly loss, and charts.");
-  Click(QStringLiteral("optShowPositive"));
+  Click("optShowPositive");
   Press("cmdOK");
-  EXPECT_EQ(Stored(QStringLiteral("LossFactor")), "1") << "OK keeps what the option stored";
+  EXPECT_EQ(Stored("LossFactor"), "1") << "OK keeps what the option stored";
 }
 
 TEST_F(SetupWindow, TabGoesThroughThePageBeforeOk) {
   for (const SetupTab tab : {SetupTab::Calendar, SetupTab::Charts, SetupTab::Colors, SetupTab::Journal}) {
     Open(tab);
     QApplication::setActiveWindow(window.get());
-    The<QTabWidget>(QStringLiteral("SSTab1")).tabBar()->setFocus();
+    The<QTabWidget>("SSTab1").tabBar()->setFocus();
     QStringList visited;
-    while (visited.size() < 60 && !visited.contains(QStringLiteral("cmdCancel"))) {
+    while (visited.size() < 60 && !visited.contains("cmdCancel")) {
       QTest::keyClick(window->focusWidget(), Qt::Key_Tab);
       visited.append(window->focusWidget()->objectName());
     }
@@ -423,7 +378,7 @@ TEST_F(SetupWindow, EveryListHasALabelThatTellsIt) {
   Open(SetupTab::Charts);
   QStringList told;
   for (QComboBox *list : window->findChildren<QComboBox *>()) {
-    if (list->objectName().startsWith(QStringLiteral("ddn"))) continue;
+    if (list->objectName().startsWith("ddn")) continue;
     QString label;
     for (const auto &[relative, relation] :
          QAccessible::queryAccessibleInterface(list)->relations(QAccessible::Label)) {
@@ -440,8 +395,8 @@ TEST_F(SetupWindow, WindowsGoBackToTheirPlace) {
   Press("cmdResetMain");
   EXPECT_EQ(framesReset, 1);
   Press("cmdResetQJ");
-  EXPECT_EQ(Stored(QStringLiteral("QDWidth")), "8235");
-  EXPECT_EQ(Stored(QStringLiteral("QDHeight")), "2760");
+  EXPECT_EQ(Stored("QDWidth"), "8235");
+  EXPECT_EQ(Stored("QDHeight"), "2760");
 }
 
 }  // namespace

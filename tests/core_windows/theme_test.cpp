@@ -1,14 +1,5 @@
 #include "core/windows/controls/theme.h"
-
-#include <gtest/gtest.h>
-
-#include <QApplication>
-#include <QComboBox>
-#include <QDialogButtonBox>
-#include <QHelpEvent>
-#include <QLabel>
-#include <QScopeGuard>
-#include <QToolTip>
+#include "support/windows/controls.h"
 
 #include "core/windows/controls/theme_style.h"
 
@@ -90,7 +81,7 @@ TEST(Theme, APanelFollowsTheDesktopAndPaper) {
   QApplication::setPalette(light);
   QWidget window;
   auto *panel = new QWidget(&window);
-  auto *label = new QLabel(QStringLiteral("Name"), panel);
+  auto *label = new QLabel("Name", panel);
   const auto colour = [label](QPalette::ColorRole role) { return label->palette().color(role); };
   for (const quint32 kept : {0xFFE0C0U, 0x400000U}) {
     PaintPanel(panel, kept);
@@ -109,7 +100,7 @@ TEST(Theme, APanelFollowsTheDesktopAndPaper) {
 }
 
 TEST(Theme, ButtonsOfDialogsShowNoPictures) {
-  ThemeStyle style(QStringLiteral("Fusion"));
+  ThemeStyle style("Fusion");
   QDialogButtonBox buttons;
   buttons.setStyle(&style);
   buttons.setStandardButtons(QDialogButtonBox::Ok | QDialogButtonBox::Cancel | QDialogButtonBox::Help);
@@ -119,8 +110,8 @@ TEST(Theme, ButtonsOfDialogsShowNoPictures) {
 // The application's style meets every widget, the tool tip's too, which Qt makes by itself.
 TEST(Theme, ShowsNamesAsTheyStandInLabelsAndToolTips) {
   QApplication::setStyle(new ThemeStyle);
-  const auto asBefore = qScopeGuard([] { QApplication::setStyle(QStringLiteral("Fusion")); });
-  const QString name = QStringLiteral("<b>Ann</b>");
+  const auto asBefore = qScopeGuard([] { QApplication::setStyle("Fusion"); });
+  const QString name = "<b>Ann</b>";
   QLabel label(name);
   label.show();
   EXPECT_EQ(label.textFormat(), Qt::PlainText);
@@ -144,7 +135,7 @@ TEST(Theme, ShowsNamesAsTheyStandInLabelsAndToolTips) {
 
 TEST(Theme, TheWheelLeavesABoxAloneThatIsScrolledPast) {
   QApplication::setStyle(new ThemeStyle);
-  const auto asBefore = qScopeGuard([] { QApplication::setStyle(QStringLiteral("Fusion")); });
+  const auto asBefore = qScopeGuard([] { QApplication::setStyle("Fusion"); });
   QComboBox box;
   box.show();
   EXPECT_EQ(box.focusPolicy(), Qt::StrongFocus) << "the wheel would focus it";

@@ -16,7 +16,7 @@ std::vector<std::pair<QDate, double>> WeightsOf(ShippedFile &file, int person) {
   Recordset rows = file.Rows(
       QStringLiteral("SELECT ThisDate, ThisWeight FROM weight_loss WHERE PersonID=%1 ORDER BY ThisDate;").arg(person));
   for (; !rows.Eof(); rows.MoveNext()) {
-    weights.emplace_back(rows.Field(QStringLiteral("ThisDate")).toDate(), rows.Number(QStringLiteral("ThisWeight")));
+    weights.emplace_back(rows.Field("ThisDate").toDate(), rows.Number("ThisWeight"));
   }
   return weights;
 }
@@ -31,11 +31,11 @@ int Decimals(const QString &pattern) {
 TEST(SampleProfiles, StandLiveAsTheyStandPristine) {
   ShippedFile file;
   for (const char *name : {"weight_loss", "notes", "measurements", "meals", "activities"}) {
-    const QString table = QString::fromLatin1(name);
-    const QString order = FindSchemaTable(table).key.join(QStringLiteral(", "));
-    const QString all = QStringLiteral("SELECT * FROM %1 ORDER BY %2");
+    const QString table = name;
+    const QString order = FindSchemaTable(table).key.join(", ");
+    const QString all = "SELECT * FROM %1 ORDER BY %2";
     Recordset live = file.Rows(all.arg(table, order));
-    Recordset pristine = file.Rows(all.arg(table + QStringLiteral("_sample"), order));
+    Recordset pristine = file.Rows(all.arg(table + "_sample", order));
     ASSERT_GT(live.RecordCount(), 0) << name;
     ASSERT_EQ(live.RecordCount(), pristine.RecordCount()) << name;
     EXPECT_EQ(live.FieldNames(), pristine.FieldNames()) << name;
@@ -47,14 +47,13 @@ TEST(SampleProfiles, StandLiveAsTheyStandPristine) {
 
 TEST(SampleProfiles, EachDaysLossIsTheWeightBeforeItMinusItsOwn) {
   ShippedFile file;
-  Recordset rows = file.Rows(QStringLiteral("SELECT weight_loss.* FROM weight_loss ORDER BY PersonID, ThisDate;"));
+  Recordset rows = file.Rows("SELECT weight_loss.* FROM weight_loss ORDER BY PersonID, ThisDate;");
   std::map<int, double> last;
   for (; !rows.Eof(); rows.MoveNext()) {
-    const int person = rows.Integer(QStringLiteral("PersonID"));
-    const double weight = rows.Number(QStringLiteral("ThisWeight"));
+    const int person = rows.Integer("PersonID");
+    const double weight = rows.Number("ThisWeight");
     const double before = last.contains(person) ? last[person] : weight;
-    EXPECT_NEAR(rows.Number(QStringLiteral("ThisLoss")), before - weight, 1e-9)
-        << rows.Text(QStringLiteral("ThisDate")).toStdString();
+    EXPECT_NEAR(rows.Number("ThisLoss"), before - weight, 1e-9) << rows.Text("ThisDate").toStdString();
     last[person] = weight;
   }
 }
@@ -62,22 +61,20 @@ TEST(SampleProfiles, EachDaysLossIsTheWeightBeforeItMinusItsOwn) {
 TEST(SampleProfiles, EveryEntryHoldsItsFoodsNutrientsTimesTheServings) {
   ShippedFile file;
   std::vector<std::pair<QString, int>> columns;
-  Recordset nutrients = file.Rows(QStringLiteral("SELECT nutrients.* FROM nutrients WHERE NutrientID<>0;"));
+  Recordset nutrients = file.Rows("SELECT nutrients.* FROM nutrients WHERE NutrientID<>0;");
   for (; !nutrients.Eof(); nutrients.MoveNext()) {
-    columns.emplace_back(nutrients.Text(QStringLiteral("NutFieldName")),
-                         Decimals(nutrients.Text(QStringLiteral("NutFormat"))));
+    columns.emplace_back(nutrients.Text("NutFieldName"), Decimals(nutrients.Text("NutFormat")));
   }
   ASSERT_EQ(columns.size(), 35u);
-  Recordset entries = file.Rows(QStringLiteral("SELECT meals_sample.* FROM meals_sample;"));
+  Recordset entries = file.Rows("SELECT meals_sample.* FROM meals_sample;");
   for (; !entries.Eof(); entries.MoveNext()) {
-    const Recordset food = file.Rows(QStringLiteral("SELECT meals_list.* FROM meals_list WHERE MealID=?;"),
-                                     {entries.Field(QStringLiteral("MealID"))});
-    const double servings = entries.Text(QStringLiteral("Amount")).toDouble();
+    const Recordset food = file.Rows("SELECT meals_list.* FROM meals_list WHERE MealID=?;", {entries.Field("MealID")});
+    const double servings = entries.Text("Amount").toDouble();
     ASSERT_GT(servings, 0);
     for (const auto &[column, decimals] : columns) {
-      const double factor = column.endsWith(QLatin1String("Pct")) ? 1 : servings;
+      const double factor = column.endsWith("Pct") ? 1 : servings;
       ASSERT_DOUBLE_EQ(entries.Number(column), RoundHalfAway(food.Number(column) * factor, decimals))
-          << column.toStdString() << " of " << food.Text(QStringLiteral("MealDesc")).toStdString();
+          << column.toStdString() << " of " << food.Text("MealDesc").toStdString();
     }
   }
 }
@@ -94,11 +91,11 @@ TEST(SampleProfiles, TheFirstIsOneBelievableMonthWithAJournal) {
 
   std::map<QDate, std::set<int>> mealsOfDay;
   std::map<QDate, double> caloriesOfDay;
-  Recordset meals = file.Rows(QStringLiteral("SELECT meals.* FROM meals WHERE PersonID=-2;"));
+  Recordset meals = file.Rows("SELECT meals.* FROM meals WHERE PersonID=-2;");
   for (; !meals.Eof(); meals.MoveNext()) {
-    const QDate day = meals.Field(QStringLiteral("ThisDate")).toDate();
-    mealsOfDay[day].insert(meals.Integer(QStringLiteral("MealTypeID")));
-    caloriesOfDay[day] += meals.Number(QStringLiteral("Calories"));
+    const QDate day = meals.Field("ThisDate").toDate();
+    mealsOfDay[day].insert(meals.Integer("MealTypeID"));
+    caloriesOfDay[day] += meals.Number("Calories");
   }
   EXPECT_GE(mealsOfDay.size(), 28u);
   for (const auto &[day, kinds] : mealsOfDay) {
@@ -107,24 +104,19 @@ TEST(SampleProfiles, TheFirstIsOneBelievableMonthWithAJournal) {
   for (const auto &[day, calories] : caloriesOfDay) {
     EXPECT_TRUE(calories > 1200 && calories < 1900) << day.toString(Qt::ISODate).toStdString() << ' ' << calories;
   }
-  const int activeDays =
-      file.Rows(QStringLiteral("SELECT DISTINCT ThisDate FROM activities WHERE PersonID=-2;")).RecordCount();
+  const int activeDays = file.Rows("SELECT DISTINCT ThisDate FROM activities WHERE PersonID=-2;").RecordCount();
   EXPECT_NEAR(activeDays, 15, 2);
-  EXPECT_EQ(file.Count(QStringLiteral("measurements WHERE PersonID=-2")), 5);
-  EXPECT_GE(file.Count(QStringLiteral("notes WHERE PersonID=-2")), 8);
-  EXPECT_EQ(file.Count(QStringLiteral("other_daily_data WHERE PersonID=-2")), 31);
+  EXPECT_EQ(file.Count("measurements WHERE PersonID=-2"), 5);
+  EXPECT_GE(file.Count("notes WHERE PersonID=-2"), 8);
+  EXPECT_EQ(file.Count("other_daily_data WHERE PersonID=-2"), 31);
 }
 
 TEST(SampleProfiles, ExerciseCaloriesFollowTheDaysWeightAndTheMinutes) {
   ShippedFile file;
   // Brisk walking burns 154 for 150 lb in the listed 30 minutes; on the 1st she weighs 158.2 lb.
-  EXPECT_EQ(
-      file.Text(QStringLiteral("Calories"), QStringLiteral("activities WHERE PersonID=-2 AND ThisDate=#10/1/2026#")),
-      "162");
+  EXPECT_EQ(file.Text("Calories", "activities WHERE PersonID=-2 AND ThisDate=#10/1/2026#"), "162");
   // No weight on the 4th: moderate walking burns the listed 125, twice in an hour.
-  EXPECT_EQ(
-      file.Text(QStringLiteral("Calories"), QStringLiteral("activities WHERE PersonID=-2 AND ThisDate=#10/4/2026#")),
-      "250");
+  EXPECT_EQ(file.Text("Calories", "activities WHERE PersonID=-2 AND ThisDate=#10/4/2026#"), "250");
 }
 
 TEST(SampleProfiles, TheSecondIsSevenMonthsOfWeightsOnly) {
@@ -139,7 +131,7 @@ TEST(SampleProfiles, TheSecondIsSevenMonthsOfWeightsOnly) {
   }
   EXPECT_GE(longestPause, 10) << "holidays without a scale";
   for (const char *table : {"notes", "measurements", "meals", "activities", "other_daily_data"}) {
-    EXPECT_EQ(file.Count(QString::fromLatin1(table) + QStringLiteral(" WHERE PersonID=-1")), 0) << table;
+    EXPECT_EQ(file.Count(QString::fromLatin1(table) + " WHERE PersonID=-1"), 0) << table;
   }
 }
 

@@ -14,14 +14,12 @@ namespace trimlog {
 class ShippedFile {
  public:
   explicit ShippedFile(const char *name = "tlg.dat") {
-    const QString copy = directory_.filePath(QStringLiteral("copy.dat"));
-    EXPECT_TRUE(QFile::copy(ShippedDir() + QLatin1Char('/') + QString::fromLatin1(name), copy));
+    const QString copy = directory_.filePath("copy.dat");
+    EXPECT_TRUE(QFile::copy(ShippedDir() + QLatin1Char('/') + name, copy));
     database = Database::Open(copy);
   }
   Recordset Rows(const QString &sql, const Params &params = {}) { return database->OpenRecordset(sql, params); }
-  int Count(const QString &tableAndWhere) {
-    return Rows(QStringLiteral("SELECT Count(*) AS N FROM ") + tableAndWhere).Integer(QStringLiteral("N"));
-  }
+  int Count(const QString &tableAndWhere) { return Rows("SELECT Count(*) AS N FROM " + tableAndWhere).Integer("N"); }
   std::string Text(const QString &column, const QString &tableAndWhere) {
     return Rows(QStringLiteral("SELECT %1 FROM %2").arg(column, tableAndWhere)).Text(column).toStdString();
   }

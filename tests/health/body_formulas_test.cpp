@@ -13,12 +13,6 @@ constexpr int kilograms = 2;
 constexpr int male = 1;
 constexpr int female = 2;
 
-void AddWeight(TestSession &session, const QDate &date, double weight) {
-  session.Data().Execute(
-      QStringLiteral("INSERT INTO weight_loss ( PersonID, ThisDate, ThisWeight, ThisLoss ) VALUES ( 1, ?, ?, 0 );"),
-      {date, weight});
-}
-
 TEST(BodyMassIndex, IsWeightOverSquaredHeightRoundedToEven) {
   struct Case {
     double weight, feet, inches;
@@ -33,8 +27,7 @@ TEST(BodyMassIndex, IsWeightOverSquaredHeightRoundedToEven) {
       {98, 2, 0, kilograms, 24},     // 24.5, to the even 24
       {98.04, 2, 0, kilograms, 25},  // 24.51
       {70, 1, 70, kilograms, 24},    // 70 / 2.89 = 24.22
-      {0, 5, 6, pounds, 0},
-  };
+      {0, 5, 6, pounds, 0}};
   for (const Case &c : cases) {
     EXPECT_EQ(CalcBMI(c.weight, c.feet, c.inches, c.UomID), c.bmi) << c.weight << " at " << c.feet << ", " << c.inches;
   }
@@ -81,7 +74,7 @@ TEST(BodyMassIndex, TakesTheHeightOfTheProfile) {
   EXPECT_EQ(WeightForBMI(*session, 23), 143);
   EXPECT_EQ(WeightForBMI(*session, 25, 4, 3), 93);
   session->settings.UomID = kilograms;
-  session.Data().Execute(QStringLiteral("UPDATE people SET HeightFeet=1, HeightInches=70 WHERE PersonID=1;"));
+  session.Data().Execute("UPDATE people SET HeightFeet=1, HeightInches=70 WHERE PersonID=1;");
   EXPECT_EQ(CalcBMI(*session, 70), 24);
   EXPECT_EQ(WeightForBMI(*session, 21), 61);
 }
@@ -94,25 +87,22 @@ TEST(WholeSpans, CountCompletedOnes) {
     QDate to;
     const char *count;
   };
-  const Case cases[] = {
-      {QDate(1990, 3, 1), WholeSpan::Years, today, "36"},  // the birthday itself counts
-      {QDate(1990, 3, 2), WholeSpan::Years, today, "35"},
-      {QDate(1990, 2, 28), WholeSpan::Years, today, "36"},
-      {QDate(1990, 12, 1), WholeSpan::Years, today, "35"},
-      {QDate(1990, 3, 1), WholeSpan::Years, QDate(), "36"},  // no end: today
-      {QDate(2025, 6, 1), WholeSpan::Years, today, "0"},
-      {QDate(2030, 1, 1), WholeSpan::Years, today, "0"},  // in the future
-      {QDate(), WholeSpan::Years, today, "0"},
-      {QDate(1850, 5, 5), WholeSpan::Years, today, "175"},
-      {QDate(2025, 12, 31), WholeSpan::Months, today, "2"},  // 28 February is not the 31st day
-      {QDate(2026, 2, 1), WholeSpan::Months, today, "1"},
-      {QDate(2026, 2, 2), WholeSpan::Months, today, "0"},
-      {QDate(2024, 2, 28), WholeSpan::Days, QDate(2024, 3, 1), "2"},  // a leap year
-      {QDate(2026, 3, 2), WholeSpan::Days, today, "0"},
-  };
+  const Case cases[] = {{QDate(1990, 3, 1), WholeSpan::Years, today, "36"},  // the birthday itself counts
+                        {QDate(1990, 3, 2), WholeSpan::Years, today, "35"},
+                        {QDate(1990, 2, 28), WholeSpan::Years, today, "36"},
+                        {QDate(1990, 12, 1), WholeSpan::Years, today, "35"},
+                        {QDate(1990, 3, 1), WholeSpan::Years, QDate(), "36"},  // no end: today
+                        {QDate(2025, 6, 1), WholeSpan::Years, today, "0"},
+                        {QDate(2030, 1, 1), WholeSpan::Years, today, "0"},  // in the future
+                        {QDate(), WholeSpan::Years, today, "0"},
+                        {QDate(1850, 5, 5), WholeSpan::Years, today, "175"},
+                        {QDate(2025, 12, 31), WholeSpan::Months, today, "2"},  // 28 February is not the 31st day
+                        {QDate(2026, 2, 1), WholeSpan::Months, today, "1"},
+                        {QDate(2026, 2, 2), WholeSpan::Months, today, "0"},
+                        {QDate(2024, 2, 28), WholeSpan::Days, QDate(2024, 3, 1), "2"},  // a leap year
+                        {QDate(2026, 3, 2), WholeSpan::Days, today, "0"}};
   for (const Case &c : cases) {
-    EXPECT_EQ(WholeDateDiff(c.from, c.span, c.to, today).toStdString(), c.count)
-        << c.from.toString(Qt::ISODate).toStdString();
+    EXPECT_EQ(WholeDateDiff(c.from, c.span, c.to, today), c.count) << c.from.toString(Qt::ISODate).toStdString();
   }
   EXPECT_EQ(AgeInYears(QDate(1990, 3, 2), today), 35);
   EXPECT_EQ(AgeInYears(QDate(2025, 6, 1), today), 1);  // a first year is told by the calendar years
@@ -133,8 +123,7 @@ TEST(BasalRate, FollowsTheFourFormulas) {
       {150, 36, 66, 0, pounds, 1447.5603},         // a gender that is not told counts as female
       {80, 30, 180, male, kilograms, 1863.79},     // 1100 + 66.5 + 900.54 - 203.25
       {65, 45, 170, female, kilograms, 1380.775},  // 621.595 + 655.1 + 314.5 - 210.42
-      {80, 0, 180, male, kilograms, 2067.04},
-  };
+      {80, 0, 180, male, kilograms, 2067.04}};
   for (const Case &c : cases) {
     EXPECT_NEAR(CalcBMR(c.weight, c.age, c.height, c.gender, c.UomID), c.rate, 0.00006) << c.weight << ", " << c.gender;
   }
@@ -143,15 +132,15 @@ TEST(BasalRate, FollowsTheFourFormulas) {
 TEST(BasalRate, OfADayTakesTheLatestWeightUpToIt) {
   TestSession session;  // a woman of 5 feet 6, born on the 1st of January 1990
   EXPECT_EQ(CalcBMR(*session, QDate(2026, 3, 1)), 0) << "no weight at all";
-  AddWeight(session, QDate(2026, 2, 10), 150);
-  AddWeight(session, QDate(2026, 2, 20), 140);
+  session.Weigh(QDate(2026, 2, 10), 150);
+  session.Weigh(QDate(2026, 2, 20), 140);
   EXPECT_EQ(CalcBMR(*session, QDate(2026, 2, 9)), 0) << "no weight yet";
   EXPECT_NEAR(CalcBMR(*session, QDate(2026, 2, 10)), 1447.5603, 0.0001);
   EXPECT_NEAR(CalcBMR(*session, QDate(2026, 2, 19)), 1447.5603, 0.0001);
   EXPECT_NEAR(CalcBMR(*session, QDate(2026, 3, 1)), 1447.5603 - 10 * 9.563 / 2.2046, 0.0001);
   // The age is the difference of the calendar years: a year later, on whatever day, one more.
   EXPECT_NEAR(CalcBMR(*session, QDate(2027, 1, 1)), 1447.5603 - 10 * 9.563 / 2.2046 - 4.676, 0.0001);
-  session.Data().Execute(QStringLiteral("UPDATE people SET BirthDate=Null WHERE PersonID=1;"));
+  session.Data().Execute("UPDATE people SET BirthDate=Null WHERE PersonID=1;");
   EXPECT_EQ(CalcBMR(*session, QDate(2026, 3, 1)), 0) << "no age can be told";
 }
 
@@ -178,7 +167,7 @@ TEST(BodyFat, IsAFractionOfTheWeightAndNeverNegative) {
 
 TEST(BodyFat, OfADayTakesTheProfilesGenderAndWeight) {
   TestSession session;
-  AddWeight(session, QDate(2026, 2, 10), 150);
+  session.Weigh(QDate(2026, 2, 10), 150);
   EXPECT_NEAR(CalcBodyFat(*session, 30, 999, 0, QDate(2026, 2, 11)), 0.236267, 0.000001);
   EXPECT_EQ(CalcBodyFat(*session, 30, 999, 0, QDate(2026, 2, 9)), 0) << "no weight yet";
   EXPECT_NEAR(CalcBodyFat(*session, 36, 180, male, QDate()), 0.201222, 0.000001);

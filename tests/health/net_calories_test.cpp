@@ -16,26 +16,20 @@ class NetCaloriesTest : public testing::Test {
  protected:
   void Eat(const QDate &date, double calories, bool planned = false, int person = 1) {
     session.Data().Execute(
-        QStringLiteral("INSERT INTO meals ( PersonID, RecordID, ThisDate, MealTypeID, MealID, Amount, "
-                       "Calories, IsPlanned ) VALUES ( ?, ?, ?, 1, ?, \"1\", ?, ? );"),
+        "INSERT INTO meals ( PersonID, RecordID, ThisDate, MealTypeID, MealID, Amount, "
+        "Calories, IsPlanned ) VALUES ( ?, ?, ?, 1, ?, \"1\", ?, ? );",
         {person, ++record, date, food, calories, planned});
   }
   void Burn(const QDate &date, double calories, bool planned = false, int person = 1) {
     session.Data().Execute(
-        QStringLiteral("INSERT INTO activities ( PersonID, RecordID, ThisDate, ActivityID, Duration, "
-                       "Calories, IsPlanned ) VALUES ( ?, ?, ?, ?, \"30\", ?, ? );"),
+        "INSERT INTO activities ( PersonID, RecordID, ThisDate, ActivityID, Duration, "
+        "Calories, IsPlanned ) VALUES ( ?, ?, ?, ?, \"30\", ?, ? );",
         {person, ++record, date, exercise, calories, planned});
   }
-  void Weigh(const QDate &date, double weight, int person = 1) {
-    session.Data().Execute(
-        QStringLiteral("INSERT INTO weight_loss ( PersonID, ThisDate, ThisWeight, ThisLoss ) VALUES ( ?, ?, ?, 0 );"),
-        {person, date, weight});
-  }
-
   TestSession session;
   int record = 0;
-  int food = session.ValueOf(QStringLiteral("MealID"), QStringLiteral("meals_list")).toInt();
-  int exercise = session.ValueOf(QStringLiteral("ActivityID"), QStringLiteral("activities_list")).toInt();
+  int food = session.ValueOf("MealID", "meals_list").toInt();
+  int exercise = session.ValueOf("ActivityID", "activities_list").toInt();
 };
 
 TEST(NetCaloriesRule, AMissingSumCountsAsNothingAndTwoOfThemAsNoDay) {
@@ -45,17 +39,16 @@ TEST(NetCaloriesRule, AMissingSumCountsAsNothingAndTwoOfThemAsNoDay) {
     int basal;
     Sum net;
   };
-  const Case cases[] = {
-      {{}, {}, 1400, {}},   {2000, {}, 1400, 600}, {{}, 300, 1400, -1700}, {2000, 300, 1400, 300},
-      {2000, 300, 0, 1700}, {0, {}, 1400, -1400},  {{}, 0, 0, 0},          {1500.5, 200.25, 0, 1300.25},
-  };
+  const Case cases[] = {{{}, {}, 1400, {}},     {2000, {}, 1400, 600},       {{}, 300, 1400, -1700},
+                        {2000, 300, 1400, 300}, {2000, 300, 0, 1700},        {0, {}, 1400, -1400},
+                        {{}, 0, 0, 0},          {1500.5, 200.25, 0, 1300.25}};
   for (const Case &c : cases) EXPECT_EQ(NetCalories(c.eaten, c.burned, c.basal), c.net);
 }
 
 TEST_F(NetCaloriesTest, AddsUpEachDayWithoutPlansAndWithoutOtherPeople) {
   constexpr int someoneElse = -1;
-  Weigh(firstDay.addDays(2), 150);  // from then on 1447.56 a day, as a whole number 1448
-  Weigh(firstDay, 300, someoneElse);
+  session.Weigh(firstDay.addDays(2), 150);  // from then on 1447.56 a day, as a whole number 1448
+  session.Weigh(firstDay, 300, someoneElse);
   Eat(firstDay, 500);
   Eat(firstDay, 700);
   Eat(firstDay, 9000, true);
@@ -88,15 +81,13 @@ TEST_F(NetCaloriesTest, AddsUpEachDayWithoutPlansAndWithoutOtherPeople) {
 
 TEST_F(NetCaloriesTest, AgreesWithTheSavedQueriesOverTheWholeHistory) {
   for (int day = 0; day < 60; ++day) {
-    if (day % 7 == 0) Weigh(firstDay.addDays(day), 170 - day / 10.0);
+    if (day % 7 == 0) session.Weigh(firstDay.addDays(day), 170 - day / 10.0);
     for (int entry = 0; entry < day % 4; ++entry) Eat(firstDay.addDays(day), 300 + 37 * entry + day, entry == 2);
     for (int entry = 0; entry < day % 3; ++entry) Burn(firstDay.addDays(day), 100 + 11 * day, entry == 1);
   }
   const auto saved = [this](const char *sum, const char *query, const QDate &date) -> std::optional<double> {
-    const Recordset row =
-        session.Data().OpenRecordset(QStringLiteral("SELECT %1 FROM %2 WHERE ((PersonID=1) AND (ThisDate=?));")
-                                         .arg(QLatin1String(sum), QLatin1String(query)),
-                                     {date});
+    const Recordset row = session.Data().OpenRecordset(
+        QStringLiteral("SELECT %1 FROM %2 WHERE ((PersonID=1) AND (ThisDate=?));").arg(sum, query), {date});
     return row.Eof() ? std::nullopt : std::optional(row.Field(0).toDouble());
   };
   const auto days = ReadNetCalories(*session, firstDay.addDays(9), firstDay.addDays(50));
@@ -117,14 +108,14 @@ TEST_F(NetCaloriesTest, ALongHistoryCostsNoMoreThanAShortOne) {
     return std::pair(after.rowsRead - before.rowsRead, after.statements - before.statements);
   };
   for (int day = 0; day < 42; ++day) {
-    Weigh(monthStart.addDays(day), 150);
+    session.Weigh(monthStart.addDays(day), 150);
     Eat(monthStart.addDays(day), 2000);
   }
   rowsRead();
   const auto shortHistory = rowsRead();
   Transaction transaction(session.Data());
   for (int day = 1; day <= 700; ++day) {
-    Weigh(monthStart.addDays(-day), 160);
+    session.Weigh(monthStart.addDays(-day), 160);
     Eat(monthStart.addDays(-day), 1000);
   }
   transaction.Commit();

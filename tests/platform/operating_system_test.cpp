@@ -14,31 +14,29 @@ TEST(WindowsVersion, NamesEverySystem) {
     int code;
     const char *name;
   };
-  const Case cases[] = {
-      {{0, 3, 11, 0, {}}, 2, "Windows 32s"},
-      {{1, 4, 0, 0, {}}, 3, "Windows 95"},
-      {{1, 4, 10, 0, {}}, 4, "Windows 98"},
-      {{1, 4, 90, 0, {}}, 5, "Windows ME"},
-      {{2, 3, 51, 0, {}}, 32, "Windows NT3"},
-      {{2, 4, 0, 0, {}}, 33, "Windows NT4"},
-      {{2, 5, 0, 0, {}}, 34, "Windows 2000"},
-      {{2, 5, 1, 0, {}}, 35, "Whistler"},
-      {{2, 10, 0, 0, {}}, 0, "Unknown"},
-      {{1, 4, 11, 0, {}}, 0, "Unknown"},
-      {{}, 0, "Unknown"},
-  };
+  const Case cases[] = {{{0, 3, 11, 0, {}}, 2, "Windows 32s"},
+                        {{1, 4, 0, 0, {}}, 3, "Windows 95"},
+                        {{1, 4, 10, 0, {}}, 4, "Windows 98"},
+                        {{1, 4, 90, 0, {}}, 5, "Windows ME"},
+                        {{2, 3, 51, 0, {}}, 32, "Windows NT3"},
+                        {{2, 4, 0, 0, {}}, 33, "Windows NT4"},
+                        {{2, 5, 0, 0, {}}, 34, "Windows 2000"},
+                        {{2, 5, 1, 0, {}}, 35, "Whistler"},
+                        {{2, 10, 0, 0, {}}, 0, "Unknown"},
+                        {{1, 4, 11, 0, {}}, 0, "Unknown"},
+                        {{}, 0, "Unknown"}};
   for (const Case &c : cases) {
     const WindowsVersion version = NameWindowsVersion(c.system);
     EXPECT_EQ(version.code, c.code) << c.name;
-    EXPECT_EQ(version.name.toStdString(), c.name);
+    EXPECT_EQ(version.name, c.name);
   }
 }
 
 TEST(WindowsVersion, BuildAndServicePack) {
-  const QString pack = QStringLiteral(" Service Pack 1 ") + QChar(0) + QStringLiteral("rest");
+  const QString pack = QStringLiteral(" Service Pack 1 ") + QChar(0) + "rest";
   EXPECT_EQ(NameWindowsVersion({1, 4, 10, 0x040A08AE, pack}).build, 0x08AE);
   EXPECT_EQ(NameWindowsVersion({2, 5, 0, 0x00010893, pack}).build, 0x00010893);
-  EXPECT_EQ(NameWindowsVersion({2, 5, 0, 2195, pack}).servicePack, QStringLiteral("Service Pack 1"));
+  EXPECT_EQ(NameWindowsVersion({2, 5, 0, 2195, pack}).servicePack, "Service Pack 1");
 }
 
 class OneKey final : public OperatingSystem {
@@ -46,7 +44,7 @@ class OneKey final : public OperatingSystem {
   explicit OneKey(const QVariant &value) : value_(value) {}
   WindowsVersion Version() const override { return {}; }
   std::optional<QVariant> ReadKey(KeyRoot, const QString &, const QString &valueName) const override {
-    return valueName == QLatin1String("there") ? std::optional(value_) : std::nullopt;
+    return valueName == "there" ? std::optional(value_) : std::nullopt;
   }
 
  private:
@@ -55,16 +53,16 @@ class OneKey final : public OperatingSystem {
 
 TEST(GetKeyValue, TextNumberAndNothing) {
   const auto read = [](const QVariant &value, const char *name, QString &result) {
-    return GetKeyValue(OneKey(value), KeyRoot::LocalMachine, QStringLiteral("key"), QLatin1String(name), result);
+    return GetKeyValue(OneKey(value), KeyRoot::LocalMachine, "key", name, result);
   };
   QString result;
-  EXPECT_TRUE(read(QStringLiteral("text") + QChar(0) + QStringLiteral("junk"), "there", result));
-  EXPECT_EQ(result, QStringLiteral("text"));
+  EXPECT_TRUE(read(QStringLiteral("text") + QChar(0) + "junk", "there", result));
+  EXPECT_EQ(result, "text");
   EXPECT_TRUE(read(QVariant(quint32{0xC0FFEE}), "there", result));
-  EXPECT_EQ(result, QStringLiteral("&hC0FFEE"));
-  EXPECT_FALSE(read(QStringLiteral("text"), "missing", result));
+  EXPECT_EQ(result, "&hC0FFEE");
+  EXPECT_FALSE(read("text", "missing", result));
   EXPECT_EQ(result, QString());
-  result = QStringLiteral("old");
+  result = "old";
   EXPECT_FALSE(read(QByteArray("binary"), "there", result));
   EXPECT_EQ(result, QString());
 }
@@ -102,24 +100,24 @@ QByteArray VersionString(const QString &name, const QString &value) {
 }
 
 TEST(FileVersion, ReadsTheBlockOfAProgramFile) {
-  const QByteArray table = VersionNode(QStringLiteral("040904b0"), {}, 0,
-                                       {VersionString(QStringLiteral("CompanyName"), QStringLiteral("Corvane")),
-                                        VersionString(QStringLiteral("FileVersion"), QString::fromUtf8("2.7 ü")),
-                                        VersionString(QStringLiteral("ProductName"), QStringLiteral("Odd"))});
-  const QByteArray block = VersionNode(QStringLiteral("VS_VERSION_INFO"), QByteArray(52, '\x11'), 52,
-                                       {VersionNode(QStringLiteral("VarFileInfo"), {}, 0),
-                                        VersionNode(QStringLiteral("StringFileInfo"), {}, 0, {table})});
+  const QByteArray table = VersionNode("040904b0", {}, 0,
+                                       {VersionString("CompanyName", "Corvane"), VersionString("FileVersion", "2.7 ü"),
+                                        VersionString("ProductName", "Odd")});
+  const QByteArray block =
+      VersionNode("VS_VERSION_INFO", QByteArray(52, '\x11'), 52,
+                  {VersionNode("VarFileInfo", {}, 0), VersionNode("StringFileInfo", {}, 0, {table})});
   const QString text = VersionTextOf(QByteArray("MZ junk.") + block + "tail");
-  EXPECT_EQ(text, QString::fromUtf8("Company Name: Corvane\nFile Description:\nFile Version:2.7 ü\nInternal Name: \n"
-                                    "Legal Copyright: \nOriginal FileName:\nProduct Name:Odd\nProduct Version: "));
+  EXPECT_EQ(text,
+            "Company Name: Corvane\nFile Description:\nFile Version:2.7 ü\nInternal Name: \n"
+            "Legal Copyright: \nOriginal FileName:\nProduct Name:Odd\nProduct Version: ");
   for (qsizetype kept = 0; kept < block.size(); ++kept)
     VersionTextOf(block.left(kept));  // a cut-off block harms nothing
 }
 
 TEST(FileVersion, AFileWithoutOneSaysSo) {
-  const QString none = QStringLiteral("No version available for this file");
+  const QString none = "No version available for this file";
   EXPECT_EQ(VersionTextOf("plain text"), none);
-  EXPECT_EQ(FileVersionText(QStringLiteral("/no/such/file")), none);
+  EXPECT_EQ(FileVersionText("/no/such/file"), none);
 }
 
 }  // namespace

@@ -21,7 +21,7 @@ class SafeFileTest : public ::testing::Test {
   }
   QStringList Names() const { return QDir(directory.path()).entryList(QDir::Files | QDir::Hidden); }
   QTemporaryDir directory;
-  QString path = directory.filePath(QStringLiteral("report.pdf"));
+  QString path = directory.filePath("report.pdf");
 };
 
 TEST_F(SafeFileTest, ReplacesTheWholeFileAndKeepsItsRights) {
@@ -31,7 +31,7 @@ TEST_F(SafeFileTest, ReplacesTheWholeFileAndKeepsItsRights) {
   WriteSafely(path, "second");
   EXPECT_EQ(Content(), "second");
   EXPECT_EQ(QFile::permissions(path) & (QFile::ReadGroup | QFile::ReadOther), QFile::Permissions());
-  EXPECT_EQ(Names(), QStringList{QStringLiteral("report.pdf")});
+  EXPECT_EQ(Names(), QStringList{"report.pdf"});
 }
 
 TEST_F(SafeFileTest, WhatFailsLeavesTheFormerFileAndNothingBeside) {
@@ -51,8 +51,7 @@ TEST_F(SafeFileTest, WhatFailsLeavesTheFormerFileAndNothingBeside) {
       {"not whole", [&] { WriteSafely(path, tear, refuse); }},
       {"empty", [this] { WriteSafely(path, [](const QString &) {}); }},
       {"the writer gives up",
-       [this] { WriteSafely(path, [](const QString &) { throw Error(error_number::diskFull, {}); }); }},
-  };
+       [this] { WriteSafely(path, [](const QString &) { throw Error(error_number::diskFull, {}); }); }}};
   for (const auto &[what, way] : ways) {
     int number = 0;
     try {
@@ -62,9 +61,9 @@ TEST_F(SafeFileTest, WhatFailsLeavesTheFormerFileAndNothingBeside) {
     }
     EXPECT_EQ(number, error_number::diskFull) << what;
     EXPECT_EQ(Content(), "good") << what;
-    EXPECT_EQ(Names(), QStringList{QStringLiteral("report.pdf")}) << what;
+    EXPECT_EQ(Names(), QStringList{"report.pdf"}) << what;
   }
-  EXPECT_THROW(WriteSafely(directory.filePath(QStringLiteral("none/report.pdf")), "x"), Error);
+  EXPECT_THROW(WriteSafely(directory.filePath("none/report.pdf"), "x"), Error);
 }
 
 TEST_F(SafeFileTest, APrivateFileIsItsOwnersAlone) {

@@ -67,7 +67,7 @@ TEST_F(OneCopy, TheSecondRaisesTheFirst) {
   EXPECT_FALSE(first.ActivatePrevInstance());
   EXPECT_FALSE(first.ActivatePrevInstance()) << "the same copy starts again after a restore";
 
-  EXPECT_TRUE(LaterIsAnswered(folder_.path() + QStringLiteral("/")));
+  EXPECT_TRUE(LaterIsAnswered(folder_.path() + "/"));
   EXPECT_EQ(raised, 1);
 
   QTemporaryDir otherFolder;
@@ -128,7 +128,7 @@ TEST_F(OneCopy, AnotherUserWhoAnswersInItsPlaceIsNotBelieved) {
 }
 
 TEST_F(OneCopy, AProgramFolderThatCannotBeWrittenDoesNotStopTheStart) {
-  SingleInstance copy(folder_.filePath(QStringLiteral("none")));
+  SingleInstance copy(folder_.filePath("none"));
   EXPECT_FALSE(copy.ActivatePrevInstance());
 }
 

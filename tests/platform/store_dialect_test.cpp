@@ -24,7 +24,7 @@ class DialectTest : public StoreTest {
         "INSERT INTO weight_loss ( PersonID, ThisDate, ThisWeight, ThisLoss ) SELECT 1 AS Expr3, #2/8/2004# AS Expr2, "
         "Format(\"1234.5\",\"Standard\") AS Expr1, Format(\"1.005\",\"Standard\") ; ",
     };
-    for (const char *statement : statements) data->Execute(QString::fromLatin1(statement));
+    for (const char *statement : statements) data->Execute(statement);
   }
 };
 
@@ -98,9 +98,8 @@ TEST_F(DialectTest, ReadsRowsByTheirMeaning) {
        "Foods.MealID<>12));",
        "13"},
       // the number layer
-      {"SELECT ThisWeight, ThisLoss FROM weight_loss ORDER BY ThisDate", "185.5|-0.25 / 1234.5|1.01"},
-  };
-  for (const auto &row : cases) EXPECT_EQ(Rows(QString::fromLatin1(row.sql)), QString::fromLatin1(row.rows)) << row.sql;
+      {"SELECT ThisWeight, ThisLoss FROM weight_loss ORDER BY ThisDate", "185.5|-0.25 / 1234.5|1.01"}};
+  for (const auto &row : cases) EXPECT_EQ(Rows(row.sql), row.rows) << row.sql;
 }
 
 TEST_F(DialectTest, WritesByItsMeaning) {
@@ -146,22 +145,21 @@ TEST_F(DialectTest, WritesByItsMeaning) {
        "GROUP BY meals.PersonID",
        "SELECT people.PersonID, qrySum.Eaten FROM people LEFT JOIN qrySum ON people.PersonID = qrySum.PersonID", "2|"},
       {"ALTER TABLE people ADD COLUMN Marked YESNO", "SELECT Marked FROM people", "0"},
-      {"DROP TABLE temp_days", "SELECT Count(*) FROM people", "1"},
-  };
+      {"DROP TABLE temp_days", "SELECT Count(*) FROM people", "1"}};
   for (const auto &row : cases) {
-    data->Execute(QString::fromLatin1(row.sql));
-    EXPECT_EQ(Rows(QString::fromLatin1(row.check)), QString::fromLatin1(row.rows)) << row.sql;
+    data->Execute(row.sql);
+    EXPECT_EQ(Rows(row.check), row.rows) << row.sql;
   }
-  EXPECT_FALSE(data->HasTable(QStringLiteral("temp_days")));
+  EXPECT_FALSE(data->HasTable("temp_days"));
 }
 
 TEST_F(DialectTest, TypesOfSelectedValuesLastIntoTheNewTable) {
-  data->Execute(QStringLiteral(
+  data->Execute(
       "SELECT meals.ThisDate, #1/1/2004# AS Since, Max(meals.ThisDate) AS Last, True AS Sel, 1.5 AS Half, "
-      "\"a\" AS Word INTO made FROM meals GROUP BY meals.ThisDate"));
-  const Recordset row = data->OpenRecordset(QStringLiteral("SELECT made.* FROM made ORDER BY ThisDate"));
+      "\"a\" AS Word INTO made FROM meals GROUP BY meals.ThisDate");
+  const Recordset row = data->OpenRecordset("SELECT made.* FROM made ORDER BY ThisDate");
   const QDate first(2003, 12, 1);
-  const Value expected[] = {first, QDate(2004, 1, 1), first, true, 1.5, QStringLiteral("a")};
+  const Value expected[] = {first, QDate(2004, 1, 1), first, true, 1.5, "a"};
   for (int i = 0; i < 6; ++i) {
     EXPECT_EQ(row.Field(i), expected[i]) << i;
     EXPECT_EQ(row.Field(i).typeId(), expected[i].typeId()) << i;
@@ -201,74 +199,68 @@ TEST_F(DialectTest, RefusesWhatItDoesNotKnowAndNamesIt) {
       {"SELECT 1 AS a INTO people", error_number::tableExists, "people"},
       {"CREATE TABLE t (a BLOB)", error_number::invalidSql, "BLOB"},
       {"INSERT INTO people (PersonID) SELECT 1", error_number::duplicateKey, "PersonID"},
-      {"INSERT INTO weight_loss (PersonID, ThisDate) SELECT 55, #1/1/2004#", error_number::relation, "relation"},
-  };
+      {"INSERT INTO weight_loss (PersonID, ThisDate) SELECT 55, #1/1/2004#", error_number::relation, "relation"}};
   for (const auto &row : cases) {
-    EXPECT_EQ(ErrorOf(QString::fromLatin1(row.sql)), row.number) << row.sql << ": " << description.toStdString();
-    EXPECT_TRUE(description.contains(QString::fromLatin1(row.named))) << row.sql << ": " << description.toStdString();
+    EXPECT_EQ(ErrorOf(row.sql), row.number) << row.sql << ": " << description.toStdString();
+    EXPECT_TRUE(description.contains(row.named)) << row.sql << ": " << description.toStdString();
   }
 }
 
 TEST_F(DialectTest, NoTextCanBecomeAPartOfAStatement) {
   const QString texts[] = {
-      QStringLiteral("O'Brien"),
-      QStringLiteral("5\" pipe"),
-      QStringLiteral("Robert\"); DELETE people.* FROM people; --"),
-      QStringLiteral("'; DROP TABLE people; --"),
-      QStringLiteral("#1/1/2004# [x] ?1 ? \\ %"),
-      QStringLiteral("\U0001F34E \u00e9\u00df \u4f60"),
-      QStringLiteral("a") + QChar(0) + QStringLiteral("b"),
+      "O'Brien",
+      "5\" pipe",
+      "Robert\"); DELETE people.* FROM people; --",
+      "'; DROP TABLE people; --",
+      "#1/1/2004# [x] ?1 ? \\ %",
+      "\U0001F34E \u00e9\u00df \u4f60",
+      QStringLiteral("a") + QChar(0) + "b",
       QString(10000, u'x'),
       QString(),
   };
-  const QString insert = QStringLiteral("INSERT INTO foods (MealID, MealDesc, Notes) SELECT 500, ?, %1;");
+  const QString insert = "INSERT INTO foods (MealID, MealDesc, Notes) SELECT 500, ?, %1;";
   for (const QString &text : texts) {
     data->Execute(insert.arg(QuoteText(text)), {text});
     for (const char *column : {"MealDesc", "Notes"}) {
-      const QString name = QString::fromLatin1(column);
-      EXPECT_EQ(data->OpenRecordset(QStringLiteral("SELECT * FROM foods WHERE MealID=500")).Field(name).toString(),
-                text);
+      const QString name = column;
+      EXPECT_EQ(data->OpenRecordset("SELECT * FROM foods WHERE MealID=500").Field(name).toString(), text);
       EXPECT_EQ(Rows(QStringLiteral("SELECT MealID FROM foods WHERE %1 = %2 AND MealID>20").arg(name, QuoteText(text))),
-                QStringLiteral("500"))
+                "500")
           << text.left(50).toStdString();
-      EXPECT_EQ(Rows(QStringLiteral("SELECT MealID FROM foods WHERE %1 = ? AND MealID>20").arg(name), {text}),
-                QStringLiteral("500"));
+      EXPECT_EQ(Rows(QStringLiteral("SELECT MealID FROM foods WHERE %1 = ? AND MealID>20").arg(name), {text}), "500");
     }
-    data->Execute(QStringLiteral("DELETE foods.* FROM foods WHERE MealID=500"));
+    data->Execute("DELETE foods.* FROM foods WHERE MealID=500");
   }
-  EXPECT_EQ(Rows(QStringLiteral("SELECT Count(*) FROM people")), QStringLiteral("2"));
+  EXPECT_EQ(Rows("SELECT Count(*) FROM people"), "2");
 }
 
 TEST_F(DialectTest, StatementsThatDifferInLiteralsAnswerEachForItself) {
   for (int round = 0; round < 2; ++round) {
-    EXPECT_EQ(Rows(QStringLiteral("SELECT MealID FROM foods WHERE MealDesc = \"bread\"")), QStringLiteral("12"));
-    EXPECT_EQ(Rows(QStringLiteral("SELECT MealID FROM foods WHERE MealDesc = \"APPLE JUICE\"")), QStringLiteral("11"));
-    EXPECT_EQ(Rows(QStringLiteral("SELECT 1 AS a, 2 AS b ORDER BY 1")), QStringLiteral("1|2"));
-    EXPECT_EQ(Rows(QStringLiteral("SELECT MealID, Calories FROM foods WHERE Calories>0 ORDER BY 1")),
-              QStringLiteral("10|300 / 11|90 / 12|80"));
-    EXPECT_EQ(Rows(QStringLiteral("SELECT MealID, Calories FROM foods WHERE Calories>0 ORDER BY 2")),
-              QStringLiteral("12|80 / 11|90 / 10|300"));
-    EXPECT_EQ(Rows(QStringLiteral("SELECT #1/1/2004# AS a")), QStringLiteral("2004-01-01"));
-    EXPECT_EQ(Rows(QStringLiteral("SELECT \"1/1/2004\" AS a")), QStringLiteral("1/1/2004"));
-    EXPECT_EQ(Rows(QStringLiteral("SELECT Calories FROM foods WHERE MealID = ? AND Calories > 50 AND MealDesc = ?"),
-                   {12, QStringLiteral("BREAD")}),
-              QStringLiteral("80"));
+    EXPECT_EQ(Rows("SELECT MealID FROM foods WHERE MealDesc = \"bread\""), "12");
+    EXPECT_EQ(Rows("SELECT MealID FROM foods WHERE MealDesc = \"APPLE JUICE\""), "11");
+    EXPECT_EQ(Rows("SELECT 1 AS a, 2 AS b ORDER BY 1"), "1|2");
+    EXPECT_EQ(Rows("SELECT MealID, Calories FROM foods WHERE Calories>0 ORDER BY 1"), "10|300 / 11|90 / 12|80");
+    EXPECT_EQ(Rows("SELECT MealID, Calories FROM foods WHERE Calories>0 ORDER BY 2"), "12|80 / 11|90 / 10|300");
+    EXPECT_EQ(Rows("SELECT #1/1/2004# AS a"), "2004-01-01");
+    EXPECT_EQ(Rows("SELECT \"1/1/2004\" AS a"), "1/1/2004");
+    EXPECT_EQ(Rows("SELECT Calories FROM foods WHERE MealID = ? AND Calories > 50 AND MealDesc = ?", {12, "BREAD"}),
+              "80");
   }
   // A statement known before a column came must show it afterwards.
-  EXPECT_EQ(data->OpenRecordset(QStringLiteral("SELECT people.* FROM people")).FieldNames().size(), 4);
-  data->Execute(QStringLiteral("ALTER TABLE people ADD COLUMN Extra DATETIME"));
-  EXPECT_EQ(data->OpenRecordset(QStringLiteral("SELECT people.* FROM people")).FieldNames().size(), 5);
+  EXPECT_EQ(data->OpenRecordset("SELECT people.* FROM people").FieldNames().size(), 4);
+  data->Execute("ALTER TABLE people ADD COLUMN Extra DATETIME");
+  EXPECT_EQ(data->OpenRecordset("SELECT people.* FROM people").FieldNames().size(), 5);
 }
 
 TEST_F(DialectTest, ReachesASideFileAndLeavesItClosed) {
-  const QString other = directory.filePath(QStringLiteral("o'ther file.dat"));
+  const QString other = directory.filePath("o'ther file.dat");
   {
     auto side = Database::Create(other);
-    side->Execute(QStringLiteral("CREATE TABLE foods (MealID INTEGER PRIMARY KEY, Calories SHORT)"));
-    side->Execute(QStringLiteral("INSERT INTO foods VALUES (77, 5)"));
+    side->Execute("CREATE TABLE foods (MealID INTEGER PRIMARY KEY, Calories SHORT)");
+    side->Execute("INSERT INTO foods VALUES (77, 5)");
   }
   EXPECT_EQ(Rows(QStringLiteral("SELECT foods.MealID FROM foods IN %1 WHERE foods.Calories=5").arg(QuoteText(other))),
-            QStringLiteral("77"));
+            "77");
   data->Execute(
       QStringLiteral("INSERT INTO foods (MealID, Calories) SELECT foods.MealID, foods.Calories FROM foods IN %1")
           .arg(QuoteText(other)));
@@ -276,7 +268,7 @@ TEST_F(DialectTest, ReachesASideFileAndLeavesItClosed) {
       QStringLiteral("INSERT INTO foods IN %1 ( MealID, Calories ) SELECT foods.MealID, 2.5 FROM foods WHERE MealID=12")
           .arg(QuoteText(other)));
   auto side = Database::Open(other);
-  EXPECT_EQ(RowsOf(*side, QStringLiteral("SELECT * FROM foods")), QStringLiteral("12|2 / 77|5"));
+  EXPECT_EQ(RowsOf(*side, "SELECT * FROM foods"), "12|2 / 77|5");
   EXPECT_EQ(ErrorOf(QStringLiteral("SELECT * FROM foods IN \"%1\"").arg(other + u'x')), error_number::fileMissing);
   EXPECT_FALSE(QFile::exists(other + u'x'));
 }

@@ -21,7 +21,7 @@ class StoreFileTest : public StoreTest {
     ASSERT_TRUE(target.open(QIODevice::WriteOnly | QIODevice::Truncate));
     target.write(bytes);
   }
-  QString Beside(const char *name) const { return directory.filePath(QString::fromLatin1(name)); }
+  QString Beside(const char *name) const { return directory.filePath(name); }
   int OpenError(const QString &file) {
     try {
       Database::Open(file);
@@ -55,26 +55,24 @@ TEST_F(StoreFileTest, WhatCannotBeOpenedStaysAsItIs) {
   const struct {
     const char *what;
     QByteArray bytes;
-  } cases[] = {
-      {"empty", {}},
-      {"text", "Dear diary, today I weighed 182.5"},
-      {"noise", QByteArray(5000, '\xa7')},
-      {"another program's", foreign},
-      {"newer", newer},
-      {"cut in the header", good.left(60)},
-      {"cut after the header", good.left(100)},
-      {"cut in the middle", good.left(good.size() / 2)},
-      {"last page missing", good.left(good.size() - 4096)},
-      {"first page overwritten", torn},
-  };
+  } cases[] = {{"empty", {}},
+               {"text", "Dear diary, today I weighed 182.5"},
+               {"noise", QByteArray(5000, '\xa7')},
+               {"another program's", foreign},
+               {"newer", newer},
+               {"cut in the header", good.left(60)},
+               {"cut after the header", good.left(100)},
+               {"cut in the middle", good.left(good.size() / 2)},
+               {"last page missing", good.left(good.size() - 4096)},
+               {"first page overwritten", torn}};
   const QString place = Beside("case");
   for (const auto &row : cases) {
     QDir().mkdir(place);
-    const QString file = place + QStringLiteral("/tlg.dat");
+    const QString file = place + "/tlg.dat";
     Write(file, row.bytes);
     EXPECT_EQ(OpenError(file), error_number::fileDamaged) << row.what << ": " << description.toStdString();
     EXPECT_EQ(Bytes(file), row.bytes) << row.what;
-    EXPECT_EQ(Names(place), QStringList{QStringLiteral("tlg.dat")}) << row.what;
+    EXPECT_EQ(Names(place), QStringList{"tlg.dat"}) << row.what;
     QDir(place).removeRecursively();
   }
   EXPECT_EQ(OpenError(path), 0) << description.toStdString();
@@ -90,13 +88,13 @@ TEST_F(StoreFileTest, TellsMissingDirectoryReadOnlyAndHeldApart) {
   EXPECT_TRUE(Names(folder).isEmpty());
 
   EXPECT_EQ(OpenError(path), error_number::fileLocked);  // this test holds it
-  EXPECT_EQ(Rows(QStringLiteral("SELECT Count(*) FROM people")), QStringLiteral("2"));
+  EXPECT_EQ(Rows("SELECT Count(*) FROM people"), "2");
   data.reset();
   const QByteArray before = Bytes(path);
   QFile::setPermissions(path, QFile::ReadOwner | QFile::ReadUser);
   EXPECT_EQ(OpenError(path), error_number::readOnly);
-  EXPECT_TRUE(description.contains(QStringLiteral("read-only")));
-  EXPECT_EQ(RowsOf(*Database::OpenReadOnly(path), QStringLiteral("SELECT Count(*) FROM people")), QStringLiteral("2"));
+  EXPECT_TRUE(description.contains("read-only"));
+  EXPECT_EQ(RowsOf(*Database::OpenReadOnly(path), "SELECT Count(*) FROM people"), "2");
   EXPECT_EQ(Bytes(path), before);
   QFile::setPermissions(path, QFile::ReadOwner | QFile::WriteOwner | QFile::ReadUser | QFile::WriteUser);
   EXPECT_EQ(OpenError(path), 0);
@@ -108,11 +106,10 @@ TEST_F(StoreFileTest, TellsMissingDirectoryReadOnlyAndHeldApart) {
 TEST_F(StoreFileTest, AnotherProcessThatHoldsTheFileIsRespected) {
   data.reset();
   QProcess holder;
-  holder.start(QStringLiteral("python3"),
-               {QStringLiteral("-c"),
-                QStringLiteral("import sqlite3,sys;c=sqlite3.connect(sys.argv[1],isolation_level=None);"
-                               "c.execute('BEGIN EXCLUSIVE');print('held',flush=True);sys.stdin.read()"),
-                path});
+  holder.start("python3", {"-c",
+                           "import sqlite3,sys;c=sqlite3.connect(sys.argv[1],isolation_level=None);"
+                           "c.execute('BEGIN EXCLUSIVE');print('held',flush=True);sys.stdin.read()",
+                           path});
   if (!holder.waitForStarted() || !holder.waitForReadyRead()) GTEST_SKIP() << "no python3 to hold the file";
   const QByteArray before = Bytes(path);
   EXPECT_EQ(OpenError(path), error_number::fileLocked);
@@ -123,17 +120,17 @@ TEST_F(StoreFileTest, AnotherProcessThatHoldsTheFileIsRespected) {
 }
 
 TEST_F(StoreFileTest, ClosesWithoutTraceAndKeepsToItsJournal) {
-  data->Execute(QStringLiteral("UPDATE people SET Goal = \"1\""));
-  EXPECT_FALSE(QFile::exists(path + QStringLiteral("-wal")));
+  data->Execute("UPDATE people SET Goal = \"1\"");
+  EXPECT_FALSE(QFile::exists(path + "-wal"));
   data.reset();
-  EXPECT_EQ(Names(directory.path()), QStringList{QStringLiteral("test.dat")});
+  EXPECT_EQ(Names(directory.path()), QStringList{"test.dat"});
 }
 
 TEST_F(StoreFileTest, ADamagedPageIsToldWhenItIsRead) {
   {
     Transaction transaction(*data);
     for (int i = 0; i < 2000; ++i) {
-      data->Execute(QStringLiteral("INSERT INTO foods (MealID, MealDesc) VALUES (?, ?)"), {i, QString(100, u'x')});
+      data->Execute("INSERT INTO foods (MealID, MealDesc) VALUES (?, ?)", {i, QString(100, u'x')});
     }
     transaction.Commit();
   }
@@ -145,14 +142,13 @@ TEST_F(StoreFileTest, ADamagedPageIsToldWhenItIsRead) {
   Write(path, bytes);
   data = Database::Open(path);
   EXPECT_FALSE(data->IntegrityOk());
-  EXPECT_EQ(ErrorOf(QStringLiteral("SELECT foods.* FROM foods ORDER BY MealDesc")), error_number::fileDamaged);
+  EXPECT_EQ(ErrorOf("SELECT foods.* FROM foods ORDER BY MealDesc"), error_number::fileDamaged);
 }
 
 TEST_F(StoreFileTest, TransactionsNestAndTheOutermostDecides) {
-  const auto names = [this] { return Rows(QStringLiteral("SELECT PersonName FROM people ORDER BY PersonID")); };
+  const auto names = [this] { return Rows("SELECT PersonName FROM people ORDER BY PersonID"); };
   const auto rename = [this](int person, const char *name) {
-    data->Execute(QStringLiteral("UPDATE people SET PersonName = ? WHERE PersonID = ?"),
-                  {QString::fromLatin1(name), person});
+    data->Execute("UPDATE people SET PersonName = ? WHERE PersonID = ?", {name, person});
   };
   const qint64 commits = data->Counts().commits;
   {
@@ -164,7 +160,7 @@ TEST_F(StoreFileTest, TransactionsNestAndTheOutermostDecides) {
       inner.Commit();
     }
   }
-  EXPECT_EQ(names(), QStringLiteral("Ann / Bob"));
+  EXPECT_EQ(names(), "Ann / Bob");
   EXPECT_EQ(data->Counts().commits, commits);
   {
     Transaction outer(*data);
@@ -172,32 +168,30 @@ TEST_F(StoreFileTest, TransactionsNestAndTheOutermostDecides) {
     {
       Transaction inner(*data);
       rename(2, "B");
-      data->Execute(QStringLiteral("CREATE TABLE made (a LONG)"));
+      data->Execute("CREATE TABLE made (a LONG)");
     }
     outer.Commit();
   }
-  EXPECT_EQ(names(), QStringLiteral("A / Bob"));
-  EXPECT_FALSE(data->HasTable(QStringLiteral("made")));
+  EXPECT_EQ(names(), "A / Bob");
+  EXPECT_FALSE(data->HasTable("made"));
   EXPECT_EQ(data->Counts().commits, commits + 1);
   {
     // A statement that fails takes back itself only.
     Transaction outer(*data);
     rename(1, "C");
-    EXPECT_EQ(ErrorOf(QStringLiteral("UPDATE people SET PersonID = 5")), error_number::duplicateKey);
+    EXPECT_EQ(ErrorOf("UPDATE people SET PersonID = 5"), error_number::duplicateKey);
     outer.Commit();
   }
-  EXPECT_EQ(names(), QStringLiteral("C / Bob"));
+  EXPECT_EQ(names(), "C / Bob");
 }
 
 TEST_F(StoreFileTest, WhatWaitsForTheCommitComesAfterTheOutermostOneOrNever) {
   QString heard;
   const auto say = [&](const char *word) {
-    data->AfterCommit([this, &heard, word] {
-      heard += QLatin1String(word) + (data->InTransaction() ? QStringLiteral("(open) ") : QStringLiteral(" "));
-    });
+    data->AfterCommit([this, &heard, word] { heard += QString(word) + (data->InTransaction() ? "(open) " : " "); });
   };
   say("alone");
-  EXPECT_EQ(std::exchange(heard, {}), QStringLiteral("alone "));
+  EXPECT_EQ(std::exchange(heard, {}), "alone ");
   {
     Transaction outer(*data);
     say("first");
@@ -213,35 +207,35 @@ TEST_F(StoreFileTest, WhatWaitsForTheCommitComesAfterTheOutermostOneOrNever) {
     say("last");
     EXPECT_EQ(heard, QString());
     outer.Commit();
-    EXPECT_EQ(std::exchange(heard, {}), QStringLiteral("first inner last "));
+    EXPECT_EQ(std::exchange(heard, {}), "first inner last ");
   }
   {
     Transaction takenBack(*data);
     say("never");
   }
   Transaction next(*data);
-  data->AfterCommit([] { throw Error(error_number::other, QStringLiteral("late")); });
+  data->AfterCommit([] { throw Error(error_number::other, "late"); });
   say("still");
   EXPECT_THROW(next.Commit(), Error);
-  EXPECT_EQ(heard, QStringLiteral("still ")) << "one failure keeps nobody from what follows";
+  EXPECT_EQ(heard, "still ") << "one failure keeps nobody from what follows";
 }
 
 TEST_F(StoreFileTest, AFileThatBecomesUnwritableLosesNothingAndWorksAgainLater) {
   data.reset();
   data = Database::Open(path);
   // The journal's name is taken by a folder, so that no change can begin.
-  const QString journal = path + QStringLiteral("-journal");
+  const QString journal = path + "-journal";
   QFile::remove(journal);
   ASSERT_TRUE(QDir().mkdir(journal));
-  EXPECT_NE(ErrorOf(QStringLiteral("UPDATE people SET Goal = \"7\"")), 0);
+  EXPECT_NE(ErrorOf("UPDATE people SET Goal = \"7\""), 0);
   {
     Transaction transaction(*data);
-    EXPECT_NE(ErrorOf(QStringLiteral("UPDATE people SET Goal = \"8\"")), 0);
+    EXPECT_NE(ErrorOf("UPDATE people SET Goal = \"8\""), 0);
   }
-  EXPECT_EQ(Rows(QStringLiteral("SELECT Goal FROM people")), QStringLiteral("120 / 180.5"));
+  EXPECT_EQ(Rows("SELECT Goal FROM people"), "120 / 180.5");
   ASSERT_TRUE(QDir().rmdir(journal));
-  EXPECT_EQ(ErrorOf(QStringLiteral("UPDATE people SET Goal = \"9\"")), 0) << description.toStdString();
-  EXPECT_EQ(Rows(QStringLiteral("SELECT Goal FROM people")), QStringLiteral("9 / 9"));
+  EXPECT_EQ(ErrorOf("UPDATE people SET Goal = \"9\""), 0) << description.toStdString();
+  EXPECT_EQ(Rows("SELECT Goal FROM people"), "9 / 9");
 }
 
 TEST_F(StoreFileTest, AFileTakenAwayWhileItIsOpenIsWrittenToNoMore) {
@@ -254,29 +248,27 @@ TEST_F(StoreFileTest, AFileTakenAwayWhileItIsOpenIsWrittenToNoMore) {
     ASSERT_TRUE(QFile::rename(away, path));
   };
   const std::pair<const char *, std::function<void()>> fates[] = {
-      {"removed", [] {}},
-      {"replaced", [&] { ASSERT_TRUE(QFile::copy(copy, path)); }},
-  };
+      {"removed", [] {}}, {"replaced", [&] { ASSERT_TRUE(QFile::copy(copy, path)); }}};
   for (const auto &[fate, happens] : fates) {
     takeAway();
     happens();
-    EXPECT_EQ(ErrorOf(QStringLiteral("UPDATE people SET Goal = \"1\"")), error_number::fileMoved) << fate;
-    EXPECT_TRUE(description.contains(QStringLiteral("put the file back"))) << description.toStdString();
+    EXPECT_EQ(ErrorOf("UPDATE people SET Goal = \"1\""), error_number::fileMoved) << fate;
+    EXPECT_TRUE(description.contains("put the file back")) << description.toStdString();
     try {
       Transaction transaction(*data);
       ADD_FAILURE() << fate;
     } catch (const Error &error) {
       EXPECT_EQ(error.Number(), error_number::fileMoved) << fate;
     }
-    EXPECT_EQ(Rows(QStringLiteral("SELECT Goal FROM people")), QStringLiteral("120 / 180.5")) << "still to be read";
+    EXPECT_EQ(Rows("SELECT Goal FROM people"), "120 / 180.5") << "still to be read";
     putBack();
   }
-  EXPECT_EQ(ErrorOf(QStringLiteral("UPDATE people SET Goal = \"1\"")), 0) << "back in its place it is ours again";
+  EXPECT_EQ(ErrorOf("UPDATE people SET Goal = \"1\""), 0) << "back in its place it is ours again";
 
   takeAway();
   ASSERT_TRUE(QFile::copy(copy, path));
   const QByteArray newcomer = Bytes(path);
-  const QString journal = path + QStringLiteral("-journal");
+  const QString journal = path + "-journal";
   QFile::remove(journal);
   Write(journal, "another program's");
   data.reset();
@@ -286,7 +278,7 @@ TEST_F(StoreFileTest, AFileTakenAwayWhileItIsOpenIsWrittenToNoMore) {
 
 TEST_F(StoreFileTest, WhatCouldOnlyFailAtTheFirstWriteIsToldWhenItIsOpened) {
   data.reset();
-  const QString journal = path + QStringLiteral("-journal");
+  const QString journal = path + "-journal";
   const QByteArray good = Bytes(path);
   const std::pair<const char *, std::function<void()>> obstacles[] = {
       {"a header that allows no writing",
@@ -300,8 +292,7 @@ TEST_F(StoreFileTest, WhatCouldOnlyFailAtTheFirstWriteIsToldWhenItIsOpened) {
          Write(journal, "x");
          QFile::setPermissions(journal, QFile::ReadOwner | QFile::ReadUser);
        }},
-      {"a folder in the journal's place", [&] { QDir().mkdir(journal); }},
-  };
+      {"a folder in the journal's place", [&] { QDir().mkdir(journal); }}};
   for (const auto &[what, obstacle] : obstacles) {
     obstacle();
     EXPECT_EQ(OpenError(path), error_number::readOnly) << what << ": " << description.toStdString();
@@ -318,14 +309,14 @@ TEST_F(StoreFileTest, FileJournalAndCopyAreTheOwnersAlone) {
   };
   const QString made = Beside("made.dat");
   const auto fresh = Database::Create(made);
-  fresh->Execute(QStringLiteral("CREATE TABLE t (a LONG)"));
+  fresh->Execute("CREATE TABLE t (a LONG)");
   const QString copy = Beside("copy.dat");
   data->CopyTo(copy);
   data.reset();
   QFile::setPermissions(path, QFile::ReadOwner | QFile::WriteOwner | QFile::ReadGroup | QFile::ReadOther);
   data = Database::Open(path);
-  data->Execute(QStringLiteral("UPDATE people SET Goal = \"1\""));
-  for (const QString &file : {made, made + QStringLiteral("-journal"), copy, path, path + QStringLiteral("-journal")}) {
+  data->Execute("UPDATE people SET Goal = \"1\"");
+  for (const QString &file : {made, made + "-journal", copy, path, path + "-journal"}) {
     EXPECT_TRUE(QFile::exists(file)) << file.toStdString();
     EXPECT_EQ(others(file), QFile::Permissions()) << file.toStdString();
   }
@@ -334,13 +325,13 @@ TEST_F(StoreFileTest, FileJournalAndCopyAreTheOwnersAlone) {
 TEST_F(StoreFileTest, LookingAtAFileThatIsHeldLetsNothingGo) {
   const QString other = Beside("other.dat");
   const auto side = Database::Create(other);
-  side->Execute(QStringLiteral("CREATE TABLE t (a LONG)"));
+  side->Execute("CREATE TABLE t (a LONG)");
   // The file is held by this process already, so the other connection may not have it, before and after the attempt.
   for (int attempt = 0; attempt < 2; ++attempt) {
     EXPECT_EQ(ErrorOf(QStringLiteral("INSERT INTO t IN \"%1\" SELECT 1").arg(other)), error_number::fileLocked);
   }
   QProcess visitor;
-  visitor.start(QStringLiteral("sqlite3"), {other, QStringLiteral("SELECT 1 FROM t")});
+  visitor.start("sqlite3", {other, "SELECT 1 FROM t"});
   if (!visitor.waitForFinished() || visitor.error() == QProcess::FailedToStart)
     GTEST_SKIP() << "no sqlite3 program to try it with";
   EXPECT_TRUE(visitor.readAllStandardError().contains("locked"));
@@ -350,8 +341,7 @@ TEST_F(StoreFileTest, CopiesTheWholeFile) {
   const QString copy = Beside("copy.dat");
   data->CopyTo(copy);
   EXPECT_THROW(data->CopyTo(copy), Error);
-  EXPECT_EQ(RowsOf(*Database::Open(copy), QStringLiteral("SELECT PersonName FROM people")),
-            QStringLiteral("Ann / Bob"));
+  EXPECT_EQ(RowsOf(*Database::Open(copy), "SELECT PersonName FROM people"), "Ann / Bob");
 }
 
 }  // namespace trimlog

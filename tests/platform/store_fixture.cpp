@@ -9,28 +9,26 @@ namespace trimlog {
 StoreTest::StoreTest() {
   data = Database::Create(path);
   const auto column = [](const char *name, ColumnType type, int length = 0) {
-    return ColumnDeclaration(QString::fromLatin1(name), type, length);
+    return ColumnDeclaration(name, type, length);
   };
   const auto table = [&](const char *name, const QStringList &columns) {
-    data->Execute(QStringLiteral("CREATE TABLE %1 (%2)").arg(QString::fromLatin1(name), columns.join(u',')));
+    data->Execute(QStringLiteral("CREATE TABLE %1 (%2)").arg(name, columns.join(u',')));
   };
-  table("people", {column("PersonID", ColumnType::Long) + QStringLiteral(" PRIMARY KEY"),
-                   column("PersonName", ColumnType::Text, 50), column("Goal", ColumnType::Text, 20),
-                   column("NutTargetID", ColumnType::Byte)});
-  table("weight_loss",
-        {column("PersonID", ColumnType::Long), column("ThisDate", ColumnType::Date),
-         column("ThisWeight", ColumnType::Decimal2), column("ThisLoss", ColumnType::Decimal2),
-         QStringLiteral("PRIMARY KEY (PersonID, ThisDate)"),
-         QStringLiteral("FOREIGN KEY (PersonID) REFERENCES people (PersonID) ON UPDATE CASCADE ON DELETE CASCADE")});
-  table("foods", {column("MealID", ColumnType::Long) + QStringLiteral(" PRIMARY KEY"),
-                  column("MealDesc", ColumnType::Text), column("Calories", ColumnType::Integer),
-                  column("Water", ColumnType::Single), column("TransFat", ColumnType::Double),
-                  column("IsModified", ColumnType::Boolean), column("Notes", ColumnType::Memo)});
+  table("people", {column("PersonID", ColumnType::Long) + " PRIMARY KEY", column("PersonName", ColumnType::Text, 50),
+                   column("Goal", ColumnType::Text, 20), column("NutTargetID", ColumnType::Byte)});
+  table("weight_loss", {column("PersonID", ColumnType::Long), column("ThisDate", ColumnType::Date),
+                        column("ThisWeight", ColumnType::Decimal2), column("ThisLoss", ColumnType::Decimal2),
+                        "PRIMARY KEY (PersonID, ThisDate)",
+                        "FOREIGN KEY (PersonID) REFERENCES people (PersonID) ON UPDATE CASCADE ON DELETE CASCADE"});
+  table("foods", {column("MealID", ColumnType::Long) + " PRIMARY KEY", column("MealDesc", ColumnType::Text),
+                  column("Calories", ColumnType::Integer), column("Water", ColumnType::Single),
+                  column("TransFat", ColumnType::Double), column("IsModified", ColumnType::Boolean),
+                  column("Notes", ColumnType::Memo)});
   table("meals", {column("PersonID", ColumnType::Long), column("RecordID", ColumnType::Long),
                   column("ThisDate", ColumnType::Date), column("MealID", ColumnType::Long),
                   column("Calories", ColumnType::Integer), column("IsPlanned", ColumnType::Boolean)});
-  data->Execute(QStringLiteral("INSERT INTO people (PersonID, PersonName, Goal) SELECT 1, \"Ann\", \"120\";"));
-  data->Execute(QStringLiteral("INSERT INTO people (PersonID, PersonName, Goal) SELECT 2, \"Bob\", \"180.5\"; "));
+  data->Execute("INSERT INTO people (PersonID, PersonName, Goal) SELECT 1, \"Ann\", \"120\";");
+  data->Execute("INSERT INTO people (PersonID, PersonName, Goal) SELECT 2, \"Bob\", \"180.5\"; ");
 }
 
 QString RowsOf(Database &database, const QString &sql, const Params &params) {
@@ -40,7 +38,7 @@ QString RowsOf(Database &database, const QString &sql, const Params &params) {
     for (int i = 0; i < set.FieldNames().size(); ++i) fields.append(ValueText(set.Field(i)));
     rows.append(fields.join(u'|'));
   }
-  return rows.join(QStringLiteral(" / "));
+  return rows.join(" / ");
 }
 
 QString StoreTest::Rows(const QString &sql, const Params &params) { return RowsOf(*data, sql, params); }
@@ -53,7 +51,7 @@ QString StoreTest::Raw(const QString &expression, const QString &from) {
 
 int StoreTest::ErrorOf(const QString &sql, const Params &params) {
   try {
-    if (sql.startsWith(QStringLiteral("SELECT")) && !sql.contains(QStringLiteral(" INTO "))) {
+    if (sql.startsWith("SELECT") && !sql.contains(" INTO ")) {
       data->OpenRecordset(sql, params);
     } else {
       data->Execute(sql, params);

@@ -23,7 +23,7 @@ class StoreTest : public testing::Test {
   int ErrorOf(const QString &sql, const Params &params = {});
 
   QTemporaryDir directory;
-  QString path = directory.filePath(QStringLiteral("test.dat"));
+  QString path = directory.filePath("test.dat");
   std::unique_ptr<Database> data;
   QString description;
 };

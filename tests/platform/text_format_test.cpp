@@ -67,55 +67,53 @@ TEST(Format, Patterns) {
     const char *pattern;
     const char *shown;
   };
-  const Case cases[] = {
-      {1.25, "0.0", "1.3"},
-      {-1.25, "0.0", "-1.3"},
-      {1.005, "0.00", "1.01"},
-      {0, "0", "0"},
-      {0, "#", ""},
-      {0.4, "0", "0"},
-      {0.5, "0", "1"},
-      {5, "0.###", "5"},
-      {0.375, "0.###", "0.375"},
-      {1.33333, "0.###", "1.333"},
-      {1.5, "0.0##", "1.5"},
-      {2, "0.0##", "2.0"},
-      {7, "000", "007"},
-      {-0.04, "0.0", "0.0"},
-      {-0.05, "0.0", "-0.1"},
-      {999.995, "0.00", "1000.00"},
-      {0.25, "#.##", ".25"},
-      {1234567.891, "#,##0.00", "1,234,567.89"},
-      {999, "#,##0", "999"},
-      {-1234, "#,##0", "-1,234"},
-      {1234.5, "Standard", "1,234.50"},
-      {1234.5, "Fixed", "1234.50"},
-      {0.2345, "Percent", "23.45%"},
-      {1, "percent", "100.00%"},
-      {0.5, "0%", "50%"},
-      {93.5, "General Number", "93.5"},
-      {0.1 + 0.2, "General Number", "0.3"},
-      {-179.17000000000002, "General Number", "-179.17"},
-      {1e-7, "0.000", "0.000"},
-      {123456789012.0, "0", "123456789012"},
-  };
+  const Case cases[] = {{1.25, "0.0", "1.3"},
+                        {-1.25, "0.0", "-1.3"},
+                        {1.005, "0.00", "1.01"},
+                        {0, "0", "0"},
+                        {0, "#", ""},
+                        {0.4, "0", "0"},
+                        {0.5, "0", "1"},
+                        {5, "0.###", "5"},
+                        {0.375, "0.###", "0.375"},
+                        {1.33333, "0.###", "1.333"},
+                        {1.5, "0.0##", "1.5"},
+                        {2, "0.0##", "2.0"},
+                        {7, "000", "007"},
+                        {-0.04, "0.0", "0.0"},
+                        {-0.05, "0.0", "-0.1"},
+                        {999.995, "0.00", "1000.00"},
+                        {0.25, "#.##", ".25"},
+                        {1234567.891, "#,##0.00", "1,234,567.89"},
+                        {999, "#,##0", "999"},
+                        {-1234, "#,##0", "-1,234"},
+                        {1234.5, "Standard", "1,234.50"},
+                        {1234.5, "Fixed", "1234.50"},
+                        {0.2345, "Percent", "23.45%"},
+                        {1, "percent", "100.00%"},
+                        {0.5, "0%", "50%"},
+                        {93.5, "General Number", "93.5"},
+                        {0.1 + 0.2, "General Number", "0.3"},
+                        {-179.17000000000002, "General Number", "-179.17"},
+                        {1e-7, "0.000", "0.000"},
+                        {123456789012.0, "0", "123456789012"}};
   for (const Case &c : cases) {
-    EXPECT_EQ(Format(c.value, QLatin1String(c.pattern)).toStdString(), c.shown) << c.value << " as " << c.pattern;
+    EXPECT_EQ(Format(c.value, c.pattern), c.shown) << c.value << " as " << c.pattern;
   }
 }
 
 TEST(Format, SignsAreTheLocales) {
-  EXPECT_EQ(Format(1234.5, QStringLiteral("Standard"), us), QStringLiteral("1,234.50"));
-  EXPECT_EQ(Format(1234.5, QStringLiteral("Standard"), german), QStringLiteral("1.234,50"));
-  EXPECT_EQ(Format(1234.5, QStringLiteral("Standard"), swiss), QString::fromUtf8("1’234.50"));
-  EXPECT_EQ(Format(1234.5, QStringLiteral("Standard"), french), QString::fromUtf8("1\u202F234,50"));
-  EXPECT_EQ(Format(-0.5, QStringLiteral("0.0"), german), QStringLiteral("-0,5"));
-  EXPECT_EQ(Format(93.5, QStringLiteral("General Number"), german), QStringLiteral("93,5"));
+  EXPECT_EQ(Format(1234.5, "Standard", us), "1,234.50");
+  EXPECT_EQ(Format(1234.5, "Standard", german), "1.234,50");
+  EXPECT_EQ(Format(1234.5, "Standard", swiss), "1’234.50");
+  EXPECT_EQ(Format(1234.5, "Standard", french), "1\u202F234,50");
+  EXPECT_EQ(Format(-0.5, "0.0", german), "-0,5");
+  EXPECT_EQ(Format(93.5, "General Number", german), "93,5");
 }
 
 TEST(Format, AnUnknownPatternIsNamed) {
   for (const char *pattern : {"0.0.0", "x", "Currency", "0 lbs", "%", "."}) {
-    EXPECT_EQ(NumberOf([pattern] { Format(1, QLatin1String(pattern)); }), error_number::invalidSql) << pattern;
+    EXPECT_EQ(NumberOf([pattern] { Format(1, pattern); }), error_number::invalidSql) << pattern;
   }
 }
 
@@ -127,7 +125,7 @@ TEST(PlainText, ReadsBackAsTheSameNumber) {
   for (const Case &c : {Case{93.5, "93.5"}, Case{1234, "1234"}, Case{-0.25, "-0.25"}, Case{0, "0"}, Case{-0.0, "0"},
                         Case{0.1 + 0.2, "0.30000000000000004"}, Case{123456789012345, "123456789012345"},
                         Case{0.00001, "0.00001"}, Case{1e15, "1E+15"}}) {
-    EXPECT_EQ(PlainText(c.value).toStdString(), c.text);
+    EXPECT_EQ(PlainText(c.value), c.text);
     EXPECT_EQ(ParseNumber(PlainText(c.value)), std::optional(c.value));
   }
 }
@@ -138,24 +136,22 @@ TEST(ParseNumber, ByLocale) {
     std::optional<double> us, german, swiss, french;
   };
   const std::optional<double> no;
-  const Case cases[] = {
-      {"93.5", 93.5, 93.5, 93.5, 93.5},
-      {"93,5", no, 93.5, no, 93.5},           // never 935
-      {"1.234", 1.234, 1.234, 1.234, 1.234},  // never 1234
-      {"1,234", 1234, 1.234, no, 1.234},
-      {"1.234,5", no, 1234.5, no, no},
-      {"1,234.5", 1234.5, no, no, no},
-      {"1.234.567", no, 1234567, no, no},
-      {"1,234,567.89", 1234567.89, no, no, no},
-      {"1’234.50", no, no, 1234.5, no},
-      {"1'234.50", no, no, 1234.5, no},
-      {"1 234,5", no, no, no, 1234.5},
-      {"1\u202F234,5", no, no, no, 1234.5},
-      {"1\u00A0234", no, no, no, 1234},
-      {"12.34.567", no, no, no, no},
-      {"1234,567.8", no, no, no, no},
-      {"0,123", no, 0.123, no, 0.123},
-  };
+  const Case cases[] = {{"93.5", 93.5, 93.5, 93.5, 93.5},
+                        {"93,5", no, 93.5, no, 93.5},           // never 935
+                        {"1.234", 1.234, 1.234, 1.234, 1.234},  // never 1234
+                        {"1,234", 1234, 1.234, no, 1.234},
+                        {"1.234,5", no, 1234.5, no, no},
+                        {"1,234.5", 1234.5, no, no, no},
+                        {"1.234.567", no, 1234567, no, no},
+                        {"1,234,567.89", 1234567.89, no, no, no},
+                        {"1’234.50", no, no, 1234.5, no},
+                        {"1'234.50", no, no, 1234.5, no},
+                        {"1 234,5", no, no, no, 1234.5},
+                        {"1\u202F234,5", no, no, no, 1234.5},
+                        {"1\u00A0234", no, no, no, 1234},
+                        {"12.34.567", no, no, no, no},
+                        {"1234,567.8", no, no, no, no},
+                        {"0,123", no, 0.123, no, 0.123}};
   for (const Case &c : cases) {
     const QString text = QString::fromUtf8(c.text);
     EXPECT_EQ(ParseNumber(text, us), c.us) << "US " << c.text;
@@ -199,10 +195,10 @@ TEST(Val, TakesTheLeadingNumber) {
 }
 
 TEST(ReplaceText, GoesOnBehindTheReplacement) {
-  EXPECT_EQ(ReplaceText(QStringLiteral("aaa"), QStringLiteral("a"), QStringLiteral("aa")), QStringLiteral("aaaaaa"));
-  EXPECT_EQ(ReplaceText(QStringLiteral("aaa"), QStringLiteral("aa"), QStringLiteral("a")), QStringLiteral("aa"));
-  EXPECT_EQ(ReplaceText(QStringLiteral("abc"), QString(), QStringLiteral("x")), QStringLiteral("abc"));
-  EXPECT_EQ(WithoutDoubleQuotes(QStringLiteral("5\" pipe")), QStringLiteral("5'' pipe"));
+  EXPECT_EQ(ReplaceText("aaa", "a", "aa"), "aaaaaa");
+  EXPECT_EQ(ReplaceText("aaa", "aa", "a"), "aa");
+  EXPECT_EQ(ReplaceText("abc", QString(), "x"), "abc");
+  EXPECT_EQ(WithoutDoubleQuotes("5\" pipe"), "5'' pipe");
 }
 
 }  // namespace

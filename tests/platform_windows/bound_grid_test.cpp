@@ -1,5 +1,3 @@
-#include <QClipboard>
-
 #include "grid_fixture.h"
 
 namespace trimlog {
@@ -13,19 +11,16 @@ TEST_F(GridTest, TypedValuesAreReadShownAndStoredByType) {
     const char *field;
     const char *stored;
   };
-  for (const Row &row : {
-           Row{"FoodDesc", "Say \"cheese\" 100%", "Say \"cheese\" 100%", "FoodDesc", "Say \"cheese\" 100%"},
-           Row{"Nut1", "2.5", "2", "Calories", "2"},
-           Row{"Nut2", " 1.005 ", "1.01", "Fat", "1.005"},
-           Row{"Nut2", "", "", "Fat", ""},
-           Row{"GroupID", "meats", "Meats", "GroupID", "2"},
-           Row{"Bought", "2/9/2026", "2/9/2026", "Bought", "2026-02-09"},
-       }) {
-    EXPECT_TRUE(grid.Model().setData(Cell(8, row.column), QLatin1String(row.typed))) << row.column;
+  for (const Row &row :
+       {Row{"FoodDesc", "Say \"cheese\" 100%", "Say \"cheese\" 100%", "FoodDesc", "Say \"cheese\" 100%"},
+        Row{"Nut1", "2.5", "2", "Calories", "2"}, Row{"Nut2", " 1.005 ", "1.01", "Fat", "1.005"},
+        Row{"Nut2", "", "", "Fat", ""}, Row{"GroupID", "meats", "Meats", "GroupID", "2"},
+        Row{"Bought", "2/9/2026", "2/9/2026", "Bought", "2026-02-09"}}) {
+    EXPECT_TRUE(grid.Model().setData(Cell(8, row.column), row.typed)) << row.column;
     EXPECT_EQ(Text(8, row.column).toStdString(), row.shown);
     EXPECT_TRUE(grid.Model().SaveRow());
     EXPECT_EQ(Text(8, row.column).toStdString(), row.shown);
-    EXPECT_EQ(Stored(QLatin1String(row.field), 8).toStdString(), row.stored);
+    EXPECT_EQ(Stored(row.field, 8).toStdString(), row.stored);
   }
 }
 
@@ -35,26 +30,26 @@ class CommaGridTest : public GridTest {
 };
 
 TEST_F(CommaGridTest, ACommaLocaleTypesAndSeesCommas) {
-  EXPECT_TRUE(grid.Model().setData(Cell(3, "Nut2"), QStringLiteral("93,5")));
-  EXPECT_EQ(Text(3, "Nut2").toStdString(), "93,50");
-  EXPECT_EQ(Cell(3, "Nut2").data(Qt::EditRole).toString().toStdString(), "93,5");
+  EXPECT_TRUE(grid.Model().setData(Cell(3, "Nut2"), "93,5"));
+  EXPECT_EQ(Text(3, "Nut2"), "93,50");
+  EXPECT_EQ(Cell(3, "Nut2").data(Qt::EditRole).toString(), "93,5");
   EXPECT_TRUE(grid.CommitRow());
-  EXPECT_EQ(Stored(QStringLiteral("Fat"), 3).toStdString(), "93.5");
+  EXPECT_EQ(Stored("Fat", 3), "93.5");
 }
 
 TEST_F(GridTest, LeavingARowSavesItInOneCommit) {
   GoTo(3, "Nut1");
-  Type(QStringLiteral("77"));
+  Type("77");
   Press(Qt::Key_Tab);
-  EXPECT_EQ(grid.CurrentColumn().toStdString(), "Nut2");
-  Type(QStringLiteral("1.25"));
-  EXPECT_EQ(Stored(QStringLiteral("Calories"), 3).toStdString(), "997") << "nothing is written before the row is left";
+  EXPECT_EQ(grid.CurrentColumn(), "Nut2");
+  Type("1.25");
+  EXPECT_EQ(Stored("Calories", 3), "997") << "nothing is written before the row is left";
   const qint64 before = file->Counts().commits;
   Press(Qt::Key_Down);
   EXPECT_EQ(file->Counts().commits, before + 1);
   EXPECT_EQ(grid.CurrentKey(), 4);
-  EXPECT_EQ(Stored(QStringLiteral("Calories"), 3).toStdString(), "77");
-  EXPECT_EQ(Stored(QStringLiteral("Fat"), 3).toStdString(), "1.25");
+  EXPECT_EQ(Stored("Calories", 3), "77");
+  EXPECT_EQ(Stored("Fat", 3), "1.25");
   Press(Qt::Key_Up);
   EXPECT_EQ(file->Counts().commits, before + 1) << "an unchanged row is not written";
 }
@@ -67,17 +62,17 @@ TEST_F(GridTest, TicksAndListsAreChangedByKeys) {
   Press(Qt::Key_F2);
   Press(Qt::Key_Up);
   Press(Qt::Key_Tab);
-  EXPECT_EQ(Text(3, "GroupID").toStdString(), "Fruits");
+  EXPECT_EQ(Text(3, "GroupID"), "Fruits");
   Press(Qt::Key_Down);
-  EXPECT_EQ(Stored(QStringLiteral("IsModified"), 3).toStdString(), "-1");
-  EXPECT_EQ(Stored(QStringLiteral("GroupID"), 3).toStdString(), "1");
+  EXPECT_EQ(Stored("IsModified", 3), "-1");
+  EXPECT_EQ(Stored("GroupID", 3), "1");
 }
 
 TEST_F(GridTest, JumpKeysMarkTheRowTheyComeTo) {
   GoTo(20, "Nut1");
   Press(Qt::Key_Home, Qt::ControlModifier);
   EXPECT_EQ(grid.CurrentKey(), 1);
-  EXPECT_EQ(grid.CurrentColumn().toStdString(), "FoodDesc") << "not the empty column before it";
+  EXPECT_EQ(grid.CurrentColumn(), "FoodDesc") << "not the empty column before it";
   EXPECT_EQ(grid.MarkedKeys(), std::vector<qint64>{1});
   Press(Qt::Key_End, Qt::ControlModifier);
   EXPECT_EQ(grid.MarkedKeys(), std::vector<qint64>{40});
@@ -90,10 +85,10 @@ TEST_F(GridTest, JumpKeysMarkTheRowTheyComeTo) {
   EXPECT_EQ(grid.MarkedKeys(), (std::vector<qint64>{1, 2}));
   GoTo(40, "FoodDesc");
   Press(Qt::Key_End);
-  EXPECT_EQ(grid.CurrentColumn().toStdString(), "IsModified") << "not the empty column behind it";
+  EXPECT_EQ(grid.CurrentColumn(), "IsModified") << "not the empty column behind it";
   Press(Qt::Key_Tab, Qt::ControlModifier);
   EXPECT_EQ(grid.CurrentKey(), 40) << "Ctrl+Tab is for the pages around the grid";
-  EXPECT_EQ(grid.CurrentColumn().toStdString(), "IsModified");
+  EXPECT_EQ(grid.CurrentColumn(), "IsModified");
 }
 
 TEST_F(GridTest, LeavingTheGridSavesTheRow) {
@@ -105,24 +100,24 @@ TEST_F(GridTest, LeavingTheGridSavesTheRow) {
   QApplication::setActiveWindow(&window);
   grid.setFocus();
   GoTo(3, "Nut1");
-  Type(QStringLiteral("12"));
+  Type("12");
   other->setFocus();
   QApplication::processEvents();
-  EXPECT_EQ(Stored(QStringLiteral("Calories"), 3).toStdString(), "12");
+  EXPECT_EQ(Stored("Calories", 3), "12");
   grid.setParent(nullptr);
 }
 
 TEST_F(GridTest, AnEditSavesUnderItsKeyAfterResorting) {
   GoTo(7, "FoodDesc");
-  grid.Model().setData(Cell(7, "Nut2"), QStringLiteral("500"));
-  ASSERT_TRUE(grid.SortBy(QStringLiteral("Nut2"), true));
-  EXPECT_EQ(Stored(QStringLiteral("Fat"), 7).toStdString(), "500");
+  grid.Model().setData(Cell(7, "Nut2"), "500");
+  ASSERT_TRUE(grid.SortBy("Nut2", true));
+  EXPECT_EQ(Stored("Fat", 7), "500");
   EXPECT_EQ(grid.Model().RowOfKey(7), 0);
   EXPECT_EQ(grid.CurrentKey(), 7);
   EXPECT_EQ(grid.MarkedKeys(), std::vector<qint64>{7});
-  grid.Model().setData(Cell(40, "Nut1"), QStringLiteral("1"));
-  ASSERT_TRUE(grid.SortBy(QStringLiteral("FoodDesc"), true));
-  EXPECT_EQ(Stored(QStringLiteral("Calories"), 40).toStdString(), "1");
+  grid.Model().setData(Cell(40, "Nut1"), "1");
+  ASSERT_TRUE(grid.SortBy("FoodDesc", true));
+  EXPECT_EQ(Stored("Calories", 40), "1");
   EXPECT_EQ(grid.Model().KeyOfRow(0), 40);
   EXPECT_EQ(grid.CurrentKey(), 7);
 }
@@ -131,41 +126,41 @@ TEST_F(GridTest, ARefusedEditLeavesFileAndRowUntilItIsCorrectedOrRestored) {
   QStringList sentences;
   QObject::connect(&grid, &BoundGrid::RefusedRow, [&](const QString &sentence) { sentences.append(sentence); });
   GoTo(5, "Nut1");
-  Type(QStringLiteral("9999"));
+  Type("9999");
   Press(Qt::Key_Down);
   EXPECT_EQ(grid.CurrentKey(), 5) << "the row cannot be left";
-  EXPECT_EQ(sentences, QStringList{QStringLiteral("No food has so many calories.")});
-  EXPECT_EQ(Text(5, "Nut1").toStdString(), "9999") << "what was typed is not lost";
+  EXPECT_EQ(sentences, QStringList{"No food has so many calories."});
+  EXPECT_EQ(Text(5, "Nut1"), "9999") << "what was typed is not lost";
   EXPECT_FALSE(Cell(5, "Nut1").data(Qt::ToolTipRole).toString().isEmpty());
-  EXPECT_FALSE(grid.SortBy(QStringLiteral("Nut1"), false));
+  EXPECT_FALSE(grid.SortBy("Nut1", false));
   EXPECT_FALSE(grid.GoToKey(9));
   QTest::mouseClick(grid.viewport(), Qt::LeftButton, {}, grid.visualRect(Cell(9, "Nut1")).center());
   EXPECT_EQ(grid.CurrentKey(), 5);
-  EXPECT_EQ(Stored(QStringLiteral("Calories"), 5).toStdString(), "995");
-  grid.Model().setData(Cell(5, "Nut1"), QStringLiteral("12.3.4"));
-  EXPECT_EQ(Text(5, "Nut1").toStdString(), "12.3.4");
+  EXPECT_EQ(Stored("Calories", 5), "995");
+  grid.Model().setData(Cell(5, "Nut1"), "12.3.4");
+  EXPECT_EQ(Text(5, "Nut1"), "12.3.4");
   Press(Qt::Key_Escape);
-  EXPECT_EQ(Text(5, "Nut1").toStdString(), "995");
+  EXPECT_EQ(Text(5, "Nut1"), "995");
   EXPECT_TRUE(grid.CommitRow());
-  EXPECT_EQ(Stored(QStringLiteral("Calories"), 5).toStdString(), "995");
+  EXPECT_EQ(Stored("Calories", 5), "995");
 }
 
 TEST_F(GridTest, EscRestoresTheFieldThenTheRow) {
   GoTo(2, "Nut1");
-  Type(QStringLiteral("11"));
+  Type("11");
   Press(Qt::Key_Tab);
-  Type(QStringLiteral("22"));
+  Type("22");
   Press(Qt::Key_Tab);
   Press(Qt::Key_Backtab);
   Press(Qt::Key_F2);
-  Type(QStringLiteral("9"));
+  Type("9");
   Press(Qt::Key_Escape);
-  EXPECT_EQ(Text(2, "Nut2").toStdString(), "22.00") << "in the editor Esc drops what was typed in it";
+  EXPECT_EQ(Text(2, "Nut2"), "22.00") << "in the editor Esc drops what was typed in it";
   Press(Qt::Key_Escape);
-  EXPECT_EQ(Text(2, "Nut2").toStdString(), "0.25");
-  EXPECT_EQ(Text(2, "Nut1").toStdString(), "11");
+  EXPECT_EQ(Text(2, "Nut2"), "0.25");
+  EXPECT_EQ(Text(2, "Nut1"), "11");
   Press(Qt::Key_Escape);
-  EXPECT_EQ(Text(2, "Nut1").toStdString(), "998");
+  EXPECT_EQ(Text(2, "Nut1"), "998");
   EXPECT_FALSE(grid.Model().IsChanging());
 }
 
@@ -173,24 +168,24 @@ TEST_F(GridTest, BeforeUpdateMayChangeFurtherFieldsOrRefuse) {
   QString refusal;
   std::vector<qint64> saved;
   grid.Hooks().beforeUpdate = [&](GridRowEdit &row) {
-    if (row.HasChanges()) row.Set(QStringLiteral("IsModified"), true);
+    if (row.HasChanges()) row.Set("IsModified", true);
     return refusal;
   };
   grid.Hooks().afterUpdate = [&](qint64 key) {
     saved.push_back(key);
     grid.Refresh();  // as a window does when the change is announced
   };
-  refusal = QStringLiteral("Not now.");
-  grid.Model().setData(Cell(6, "Nut1"), QStringLiteral("5"));
+  refusal = "Not now.";
+  grid.Model().setData(Cell(6, "Nut1"), "5");
   EXPECT_FALSE(grid.CommitRow());
-  EXPECT_EQ(Stored(QStringLiteral("Calories"), 6).toStdString(), "994");
-  EXPECT_EQ(Cell(6, "Nut1").data(Qt::ToolTipRole).toString().toStdString(), "Not now.");
+  EXPECT_EQ(Stored("Calories", 6), "994");
+  EXPECT_EQ(Cell(6, "Nut1").data(Qt::ToolTipRole).toString(), "Not now.");
   refusal.clear();
   GoTo(12, "FoodDesc");
   EXPECT_EQ(grid.CurrentKey(), 12);
   EXPECT_EQ(saved, std::vector<qint64>{6});
-  EXPECT_EQ(Stored(QStringLiteral("IsModified"), 6).toStdString(), "-1");
-  EXPECT_EQ(Stored(QStringLiteral("Calories"), 6).toStdString(), "5");
+  EXPECT_EQ(Stored("IsModified", 6), "-1");
+  EXPECT_EQ(Stored("Calories", 6), "5");
 }
 
 TEST_F(GridTest, AFailedWriteKeepsWhatWasTypedAndARetryWorks) {
@@ -206,51 +201,51 @@ TEST_F(GridTest, AFailedWriteKeepsWhatWasTypedAndARetryWorks) {
   };
   bool failing = true;
   grid.Hooks().beforeUpdate = [&](GridRowEdit &) -> QString {
-    if (failing) throw Error(error_number::readOnly, QStringLiteral("The file is read-only."));
+    if (failing) throw Error(error_number::readOnly, "The file is read-only.");
     return {};
   };
   GoTo(6, "Nut1");
-  Type(QStringLiteral("55"));
+  Type("55");
   Press(Qt::Key_Down);
   EXPECT_EQ(failures, 1);
   EXPECT_EQ(grid.CurrentKey(), 6);
-  EXPECT_EQ(Text(6, "Nut1").toStdString(), "55");
+  EXPECT_EQ(Text(6, "Nut1"), "55");
   failing = false;
   Press(Qt::Key_Down);
   EXPECT_EQ(grid.CurrentKey(), 7);
-  EXPECT_EQ(Stored(QStringLiteral("Calories"), 6).toStdString(), "55");
+  EXPECT_EQ(Stored("Calories", 6), "55");
 }
 
 TEST_F(GridTest, ReadOnlyRowsAreSkippedByTabAndSearchedByLetters) {
-  grid.Hooks().isReadOnly = [](const auto &field) { return field(QStringLiteral("FoodID")).toInt() % 10 == 0; };
+  grid.Hooks().isReadOnly = [](const auto &field) { return field("FoodID").toInt() % 10 == 0; };
   GoTo(9, "IsModified");
   Press(Qt::Key_Tab);
   EXPECT_EQ(grid.CurrentKey(), 11);
-  EXPECT_EQ(grid.CurrentColumn().toStdString(), "FoodDesc");
-  EXPECT_FALSE(grid.Model().setData(Cell(10, "Nut1"), QStringLiteral("1")));
+  EXPECT_EQ(grid.CurrentColumn(), "FoodDesc");
+  EXPECT_FALSE(grid.Model().setData(Cell(10, "Nut1"), "1"));
   GoTo(10, "FoodDesc");
-  Type(QStringLiteral("food 0003"));
+  Type("food 0003");
   EXPECT_EQ(grid.CurrentKey(), 30);
 }
 
 TEST_F(GridTest, TheNewRowIsInsertedUnderTheKeyOfTheHook) {
   grid.Model().SetAllowNew(true);
   grid.Hooks().beforeInsert = [](GridRowEdit &row) {
-    row.Set(QStringLiteral("FoodID"), 500);
-    row.Set(QStringLiteral("GroupID"), 2);
+    row.Set("FoodID", 500);
+    row.Set("GroupID", 2);
   };
   const int blank = grid.Model().RecordCount();
   grid.selectionModel()->setCurrentIndex(grid.Model().index(blank, 1), QItemSelectionModel::ClearAndSelect);
   Press(Qt::Key_F2);
   Press(Qt::Key_Escape);
   EXPECT_FALSE(grid.Model().IsChanging()) << "an opened and closed editor makes no record";
-  Type(QStringLiteral("Rye bread"));
+  Type("Rye bread");
   Press(Qt::Key_Down);
   ASSERT_TRUE(grid.CommitRow());
   EXPECT_EQ(Count(), 41);
-  EXPECT_EQ(Stored(QStringLiteral("FoodDesc"), 500).toStdString(), "Rye bread");
+  EXPECT_EQ(Stored("FoodDesc", 500), "Rye bread");
   EXPECT_EQ(grid.Model().RowOfKey(500), blank);
-  EXPECT_EQ(Text(500, "GroupID").toStdString(), "Meats");
+  EXPECT_EQ(Text(500, "GroupID"), "Meats");
   EXPECT_EQ(grid.Model().rowCount(), 42);
 }
 
@@ -279,54 +274,52 @@ TEST_F(GridTest, DeletingAsksOnceAndKeepsThePlace) {
 }
 
 TEST_F(GridTest, RowsCopyForTheProgramAndForASpreadsheet) {
-  file->Execute(QStringLiteral("UPDATE foods SET FoodDesc = ? WHERE FoodID = 2;"),
-                {QStringLiteral("Tab\tand\r\nline")});
+  file->Execute("UPDATE foods SET FoodDesc = ? WHERE FoodID = 2;", {"Tab\tand\r\nline"});
   grid.Refresh();
-  grid.ShowColumn(QStringLiteral("Bought"), false);
+  grid.ShowColumn("Bought", false);
   grid.MarkRows({2, 3});
   grid.CopyRowsExternal();
-  EXPECT_EQ(QApplication::clipboard()->text().toStdString(),
+  EXPECT_EQ(QApplication::clipboard()->text(),
             "Food 00003\t997\t0.38\tMeats\tNo\r\nTab and line\t998\t0.25\tFruits\tNo");
   GridClipboard rows;
   EXPECT_TRUE(grid.CopyRows(rows));
-  EXPECT_EQ(rows.kind.toStdString(), "datFoods");
+  EXPECT_EQ(rows.kind, "datFoods");
   ASSERT_EQ(rows.rows.size(), 2);
-  EXPECT_EQ(rows.rows[0].value(QStringLiteral("Fat")).toDouble(), 0.375);
+  EXPECT_EQ(rows.rows[0].value("Fat").toDouble(), 0.375);
 
   grid.Hooks().pasteRows = [&](const GridClipboard &copied) {
     std::vector<qint64> keys;
     for (const QVariantMap &row : copied.rows) {
       keys.push_back(900 + static_cast<qint64>(keys.size()));
-      file->Execute(QStringLiteral("INSERT INTO foods ( FoodID, FoodDesc ) VALUES ( ?, ? );"),
-                    {keys.back(), row.value(QStringLiteral("FoodDesc"))});
+      file->Execute("INSERT INTO foods ( FoodID, FoodDesc ) VALUES ( ?, ? );", {keys.back(), row.value("FoodDesc")});
     }
     return keys;
   };
   EXPECT_TRUE(grid.PasteRows(rows));
   EXPECT_EQ(grid.CurrentKey(), 901);
   EXPECT_EQ(Count(), 42);
-  rows.kind = QStringLiteral("datMeals");
+  rows.kind = "datMeals";
   EXPECT_FALSE(grid.PasteRows(rows)) << "rows of another kind";
 }
 
 TEST_F(GridTest, AColumnCanBeBoundToAnotherField) {
-  grid.RebindColumn(QStringLiteral("Nut2"), QStringLiteral("Calories"), QStringLiteral("Cal"), QStringLiteral("0.0"));
-  EXPECT_EQ(Text(3, "Nut2").toStdString(), "997.0");
-  EXPECT_EQ(Text(3, "Nut1").toStdString(), "997");
-  grid.RebindColumn(QStringLiteral("Nut2"), {}, {});
-  EXPECT_EQ(Text(3, "Nut2").toStdString(), "");
-  EXPECT_FALSE(grid.SortBy(QStringLiteral("Nut2"), false)) << "nothing to sort by";
-  EXPECT_EQ(grid.Model().headerData(3, Qt::Horizontal, Qt::UserRole).toString().toStdString(), "Nut2");
+  grid.RebindColumn("Nut2", "Calories", "Cal", "0.0");
+  EXPECT_EQ(Text(3, "Nut2"), "997.0");
+  EXPECT_EQ(Text(3, "Nut1"), "997");
+  grid.RebindColumn("Nut2", {}, {});
+  EXPECT_EQ(Text(3, "Nut2"), "");
+  EXPECT_FALSE(grid.SortBy("Nut2", false)) << "nothing to sort by";
+  EXPECT_EQ(grid.Model().headerData(3, Qt::Horizontal, Qt::UserRole).toString(), "Nut2");
 }
 
 TEST_F(GridTest, WidthsOfThePersonComeBack) {
   QTemporaryDir folder;
-  const auto store = OpenSettingsFile(folder.filePath(QStringLiteral("settings.ini")));
-  const QString key = settingsRoot + QStringLiteral("\\grdFoods");
+  const auto store = OpenSettingsFile(folder.filePath("settings.ini"));
+  const QString key = settingsRoot + "\\grdFoods";
   grid.KeepWidths(*store, key);
   grid.setColumnWidth(1, 333);
   grid.hide();
-  BoundGrid other(QStringLiteral("grdFoods"), QStringLiteral("Foods"), QLocale::c());
+  BoundGrid other("grdFoods", "Foods", QLocale::c());
   other.SetColumns(Columns());
   const int ordinary = other.columnWidth(2);
   other.KeepWidths(*store, key);
@@ -336,8 +329,8 @@ TEST_F(GridTest, WidthsOfThePersonComeBack) {
 
 TEST_F(GridTest, AHiddenColumnGivesItsRoomAway) {
   QTemporaryDir folder;
-  const auto store = OpenSettingsFile(folder.filePath(QStringLiteral("settings.ini")));
-  const QString key = settingsRoot + QStringLiteral("\\grdFoods");
+  const auto store = OpenSettingsFile(folder.filePath("settings.ini"));
+  const QString key = settingsRoot + "\\grdFoods";
   grid.KeepWidths(*store, key);
   const int taker = grid.columnWidth(1);
   const int giver = grid.columnWidth(2);
@@ -374,7 +367,7 @@ TEST_F(LongGridTest, PaintingAndScrollingReadOnlyWhatIsSeen) {
   const StoreCounts scrolled = file->Counts();
   grid.grab();
   EXPECT_EQ(file->Counts().statements, scrolled.statements);
-  EXPECT_EQ(grid.Model().index(6000, 1).data().toString().toStdString(), "Food 06001");
+  EXPECT_EQ(grid.Model().index(6000, 1).data().toString(), "Food 06001");
 }
 
 TEST_F(LongGridTest, OpeningReadsOnePageWhateverTheLength) {
@@ -386,19 +379,19 @@ TEST_F(LongGridTest, OpeningReadsOnePageWhateverTheLength) {
   EXPECT_LE(file->Counts().rowsRead - before, GridKeys::firstPage + 32);
   EXPECT_EQ(model.rowCount(), 9000);
   EXPECT_FALSE(model.AllKeysLoaded());
-  EXPECT_EQ(model.index(8999, 1).data().toString().toStdString(), "Food 09000");
+  EXPECT_EQ(model.index(8999, 1).data().toString(), "Food 09000");
   EXPECT_TRUE(model.AllKeysLoaded());
 }
 
 TEST_F(LongGridTest, DeletingAllMarkedRowsIsAllOrNothing) {
   grid.selectAll();
   ASSERT_EQ(grid.MarkedKeys().size(), 9000u);
-  file->Execute(QStringLiteral("CREATE TABLE eaten ([FoodID] INTEGER REFERENCES foods ([FoodID]));"));
-  file->Execute(QStringLiteral("INSERT INTO eaten ( FoodID ) VALUES ( 8990 );"));
+  file->Execute("CREATE TABLE eaten ([FoodID] INTEGER REFERENCES foods ([FoodID]));");
+  file->Execute("INSERT INTO eaten ( FoodID ) VALUES ( 8990 );");
   EXPECT_FALSE(grid.DeleteSelected()) << "one row cannot go";
   EXPECT_EQ(Count(), 9000);
   EXPECT_EQ(grid.MarkedKeys().size(), 9000u);
-  file->Execute(QStringLiteral("DELETE FROM eaten;"));
+  file->Execute("DELETE FROM eaten;");
   grid.selectAll();
   EXPECT_TRUE(grid.DeleteSelected());
   EXPECT_EQ(Count(), 0);
@@ -410,7 +403,7 @@ TEST_F(LongGridTest, MarksAndCurrentRowStayByKeyWhenSorted) {
   for (qint64 key = 3; key <= 9000; key += 3) marked.push_back(key);
   GoTo(4500, "Nut1");
   grid.MarkRows(marked);
-  ASSERT_TRUE(grid.SortBy(QStringLiteral("Nut1"), false));
+  ASSERT_TRUE(grid.SortBy("Nut1", false));
   std::vector<qint64> after = grid.MarkedKeys();
   std::sort(after.begin(), after.end());
   EXPECT_EQ(after, marked);

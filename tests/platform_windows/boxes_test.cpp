@@ -1,16 +1,7 @@
-#include <gtest/gtest.h>
-
-#include <QApplication>
-#include <QLabel>
-#include <QLineEdit>
-#include <QMessageBox>
-#include <QPushButton>
-#include <QTest>
-#include <QTimer>
-
 #include "platform/windows/machine/qt_boxes.h"
 #include "platform/windows/machine/qt_machine.h"
 #include "platform/windows/machine/window_stacking.h"
+#include "support/windows/controls.h"
 
 namespace trimlog {
 namespace {
@@ -38,21 +29,21 @@ TEST(Boxes, AQuestionAnsweredByKeyboard) {
                         Case{BoxButton::Yes, Qt::Key_Escape, false}}) {
     OnceOpen<QMessageBox>([&c](QMessageBox &box) {
       EXPECT_EQ(box.icon(), QMessageBox::Question);
-      EXPECT_EQ(box.windowTitle(), QStringLiteral("Delete?"));
+      EXPECT_EQ(box.windowTitle(), "Delete?");
       Press(box, c.key);
     });
-    EXPECT_EQ(QtBoxes().Ask(QStringLiteral("Delete?"), QStringLiteral("Sure?"), c.preset), c.yes);
+    EXPECT_EQ(QtBoxes().Ask("Delete?", "Sure?", c.preset), c.yes);
   }
 }
 
 TEST(Boxes, TextIsShownToTheLetter) {
-  const QString text = QStringLiteral("<b>Ann & Bo</b>\n\nclick <OK>  twice");
+  const QString text = "<b>Ann & Bo</b>\n\nclick <OK>  twice";
   QtBoxes boxes;
-  boxes.programTitle = QStringLiteral("Trimlog Pro 2.7");
+  boxes.programTitle = "Trimlog Pro 2.7";
   OnceOpen<QMessageBox>([&text](QMessageBox &box) {
     EXPECT_EQ(box.text(), text);
     EXPECT_EQ(box.textFormat(), Qt::PlainText);
-    EXPECT_EQ(box.windowTitle(), QStringLiteral("Trimlog Pro 2.7")) << "no title means the program's";
+    EXPECT_EQ(box.windowTitle(), "Trimlog Pro 2.7") << "no title means the program's";
     Press(box, Qt::Key_Escape);
   });
   boxes.Critical(QString(), text);
@@ -66,44 +57,41 @@ TEST(Boxes, TheButtonThatIsPressedIsTheAnswer) {
   for (const auto &[answer, button] : buttons) {
     OnceOpen<QMessageBox>(
         [pressed = button](QMessageBox &box) { QTest::mouseClick(box.button(pressed), Qt::LeftButton); });
-    EXPECT_EQ(QtBoxes().Show({QStringLiteral("T"),
-                              QStringLiteral("t"),
-                              BoxIcon::None,
-                              {BoxButton::Ok, BoxButton::Cancel, BoxButton::Yes, BoxButton::No}}),
-              answer);
+    EXPECT_EQ(
+        QtBoxes().Show({"T", "t", BoxIcon::None, {BoxButton::Ok, BoxButton::Cancel, BoxButton::Yes, BoxButton::No}}),
+        answer);
   }
 }
 
 TEST(Boxes, ALineOfText) {
-  const QString prompt = QStringLiteral("Type it and click <OK>.");
+  const QString prompt = "Type it and click <OK>.";
   OnceOpen<QDialog>([&prompt](QDialog &dialog) {
     const auto *label = dialog.findChild<QLabel *>();
     EXPECT_EQ(label->text(), prompt);
     EXPECT_EQ(label->textFormat(), Qt::PlainText);
     auto *field = dialog.findChild<QLineEdit *>();
-    EXPECT_EQ(field->text(), QStringLiteral("old"));
-    field->setText(QStringLiteral("new"));
+    EXPECT_EQ(field->text(), "old");
+    field->setText("new");
     Press(*field, Qt::Key_Return);
   });
-  EXPECT_EQ(QtBoxes().AskText(QStringLiteral("T"), prompt, QStringLiteral("old")),
-            std::optional(QStringLiteral("new")));
+  EXPECT_EQ(QtBoxes().AskText("T", prompt, "old"), std::optional("new"));
 
   OnceOpen<QDialog>([](QDialog &dialog) { Press(dialog, Qt::Key_Escape); });
-  EXPECT_EQ(QtBoxes().AskText(QStringLiteral("T"), prompt, QStringLiteral("old")), std::nullopt);
+  EXPECT_EQ(QtBoxes().AskText("T", prompt, "old"), std::nullopt);
 }
 
 TEST(Machine, AnswersWhereThereIsNothing) {
   QtMachine machine;
-  EXPECT_FALSE(machine.Start(QStringLiteral("/no/such/program"), {}));
+  EXPECT_FALSE(machine.Start("/no/such/program", {}));
   EXPECT_GE(machine.GetNumColors(), 256);
   EXPECT_FALSE(machine.AccountName().isEmpty());
-  machine.PlaySound(QStringLiteral("/no/such/sound.wav"));
-  EXPECT_FALSE(machine.HasWindowTitled(QStringLiteral("Internet Guard Dog")));
+  machine.PlaySound("/no/such/sound.wav");
+  EXPECT_FALSE(machine.HasWindowTitled("Internet Guard Dog"));
   QWidget dog;
-  dog.setWindowTitle(QStringLiteral("Internet Guard Dog"));
+  dog.setWindowTitle("Internet Guard Dog");
   dog.show();
-  EXPECT_TRUE(machine.HasWindowTitled(QStringLiteral("Internet Guard Dog")));
-  EXPECT_FALSE(machine.HasWindowTitled(QStringLiteral("Guard Dog")));
+  EXPECT_TRUE(machine.HasWindowTitled("Internet Guard Dog"));
+  EXPECT_FALSE(machine.HasWindowTitled("Guard Dog"));
 }
 
 TEST(WindowStacking, KeepsTheWindowShown) {
@@ -126,13 +114,13 @@ TEST(Boxes, WhenTheMachineEndsTheProgramAllAreClosedAndNoneComes) {
   QDialog window;
   QTimer::singleShot(0, &window, [&] {
     QTimer::singleShot(0, &window, [] { CloseModalWindows(); });
-    EXPECT_FALSE(boxes.Ask(QStringLiteral("Delete?"), QStringLiteral("Sure?"))) << "has no Cancel to be closed by";
+    EXPECT_FALSE(boxes.Ask("Delete?", "Sure?")) << "has no Cancel to be closed by";
   });
   EXPECT_EQ(window.exec(), QDialog::Rejected);
   boxes.silent = true;
-  EXPECT_FALSE(boxes.Ask(QStringLiteral("Delete?"), QStringLiteral("Sure?")));
-  EXPECT_FALSE(boxes.AskText({}, {}, QStringLiteral("text")));
-  EXPECT_EQ(boxes.ChooseSaveFile({}, {}, QStringLiteral("file")), QString());
+  EXPECT_FALSE(boxes.Ask("Delete?", "Sure?"));
+  EXPECT_FALSE(boxes.AskText({}, {}, "text"));
+  EXPECT_EQ(boxes.ChooseSaveFile({}, {}, "file"), QString());
 }
 
 }  // namespace

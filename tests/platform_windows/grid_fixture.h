@@ -1,16 +1,9 @@
 #pragma once
 
-#include <gtest/gtest.h>
-
-#include <QAbstractItemModelTester>
-#include <QApplication>
-#include <QLineEdit>
-#include <QTemporaryDir>
-#include <QTest>
-
 #include "platform/store/column_types.h"
 #include "platform/store/recordset.h"
 #include "platform/windows/grid/bound_grid.h"
+#include "support/windows/controls.h"
 
 namespace trimlog {
 
@@ -19,22 +12,21 @@ namespace trimlog {
 class GridTest : public ::testing::Test {
  protected:
   explicit GridTest(int rows = 40, const QLocale &locale = QLocale(QLocale::English, QLocale::UnitedStates))
-      : grid(QStringLiteral("grdFoods"), QStringLiteral("Foods"), locale) {
-    file->Execute(QStringLiteral("CREATE TABLE foods ([FoodID] INTEGER PRIMARY KEY, %1, %2, %3, %4, %5, %6);")
-                      .arg(ColumnDeclaration(QStringLiteral("FoodDesc"), ColumnType::Text, 60),
-                           ColumnDeclaration(QStringLiteral("Calories"), ColumnType::Long),
-                           ColumnDeclaration(QStringLiteral("Fat"), ColumnType::Double),
-                           ColumnDeclaration(QStringLiteral("GroupID"), ColumnType::Long),
-                           ColumnDeclaration(QStringLiteral("Bought"), ColumnType::Date),
-                           ColumnDeclaration(QStringLiteral("IsModified"), ColumnType::Boolean)));
+      : grid("grdFoods", "Foods", locale) {
+    file->Execute(
+        QStringLiteral("CREATE TABLE foods ([FoodID] INTEGER PRIMARY KEY, %1, %2, %3, %4, %5, %6);")
+            .arg(ColumnDeclaration("FoodDesc", ColumnType::Text, 60), ColumnDeclaration("Calories", ColumnType::Long),
+                 ColumnDeclaration("Fat", ColumnType::Double), ColumnDeclaration("GroupID", ColumnType::Long),
+                 ColumnDeclaration("Bought", ColumnType::Date), ColumnDeclaration("IsModified", ColumnType::Boolean)));
     Transaction transaction(*file);
     for (int n = 1; n <= rows; ++n) {
-      file->Execute(QStringLiteral("INSERT INTO foods ( FoodID, FoodDesc, Calories, Fat, GroupID, IsModified ) "
-                                   "VALUES ( ?, ?, ?, ?, ?, False );"),
-                    {n, QStringLiteral("Food %1").arg(n, 5, 10, QLatin1Char('0')), 1000 - n % 7, n / 8.0, 1 + n % 2});
+      file->Execute(
+          "INSERT INTO foods ( FoodID, FoodDesc, Calories, Fat, GroupID, IsModified ) "
+          "VALUES ( ?, ?, ?, ?, ?, False );",
+          {n, QStringLiteral("Food %1").arg(n, 5, 10, QLatin1Char('0')), 1000 - n % 7, n / 8.0, 1 + n % 2});
     }
     transaction.Commit();
-    grid.recordSource = QStringLiteral("datFoods");
+    grid.recordSource = "datFoods";
     grid.SetColumns(Columns());
     grid.resize(700, 400);
     grid.Open(*file, Source());
@@ -46,60 +38,47 @@ class GridTest : public ::testing::Test {
 
   static GridColumns Columns() {
     const auto noMore = [](const Value &value) {
-      return value.toDouble() > 5000 ? QStringLiteral("No food has so many calories.") : QString();
+      return value.toDouble() > 5000 ? "No food has so many calories." : QString();
     };
     return {
-        {.name = QStringLiteral("Qlt"), .width = 2},
-        {.name = QStringLiteral("FoodDesc"),
-         .caption = QStringLiteral("Food Description"),
-         .field = QStringLiteral("FoodDesc"),
+        {.name = "Qlt", .width = 2},
+        {.name = "FoodDesc",
+         .caption = "Food Description",
+         .field = "FoodDesc",
          .width = 30,
          .editable = true,
          .maxLength = 60},
-        {.name = QStringLiteral("Nut1"),
-         .caption = QStringLiteral("Calories\n(kcal)"),
-         .field = QStringLiteral("Calories"),
+        {.name = "Nut1",
+         .caption = "Calories\n(kcal)",
+         .field = "Calories",
          .type = GridType::WholeNumber,
          .editable = true,
          .validate = noMore},
-        {.name = QStringLiteral("Nut2"),
-         .caption = QStringLiteral("Fat\n(g)"),
-         .field = QStringLiteral("Fat"),
+        {.name = "Nut2",
+         .caption = "Fat\n(g)",
+         .field = "Fat",
          .type = GridType::Number,
          .editable = true,
-         .pattern = QStringLiteral("0.00")},
-        {.name = QStringLiteral("GroupID"),
-         .caption = QStringLiteral("Group"),
-         .field = QStringLiteral("GroupID"),
+         .pattern = "0.00"},
+        {.name = "GroupID",
+         .caption = "Group",
+         .field = "GroupID",
          .type = GridType::Choice,
          .editable = true,
-         .choices = {{1, QStringLiteral("Fruits")}, {2, QStringLiteral("Meats")}}},
-        {.name = QStringLiteral("Bought"),
-         .caption = QStringLiteral("Bought"),
-         .field = QStringLiteral("Bought"),
-         .type = GridType::Date,
-         .editable = true},
-        {.name = QStringLiteral("IsModified"),
-         .caption = QStringLiteral("Modified"),
-         .field = QStringLiteral("IsModified"),
-         .type = GridType::Check,
-         .editable = true},
-        {.name = QStringLiteral("Dummy"), .width = 2},
-    };
+         .choices = {{1, "Fruits"}, {2, "Meats"}}},
+        {.name = "Bought", .caption = "Bought", .field = "Bought", .type = GridType::Date, .editable = true},
+        {.name = "IsModified", .caption = "Modified", .field = "IsModified", .type = GridType::Check, .editable = true},
+        {.name = "Dummy", .width = 2}};
   }
 
-  static GridSource Source() {
-    return {.table = QStringLiteral("foods"), .key = QStringLiteral("FoodID"), .order = {{QStringLiteral("FoodDesc")}}};
-  }
+  static GridSource Source() { return {.table = "foods", .key = "FoodID", .order = {{"FoodDesc"}}}; }
 
   QString Stored(const QString &field, qint64 key) {
-    return file->OpenRecordset(QStringLiteral("SELECT * FROM foods WHERE FoodID = ?;"), {key}).Text(field);
+    return file->OpenRecordset("SELECT * FROM foods WHERE FoodID = ?;", {key}).Text(field);
   }
-  int Count() {
-    return file->OpenRecordset(QStringLiteral("SELECT Count(*) AS N FROM foods;")).Integer(QStringLiteral("N"));
-  }
+  int Count() { return file->OpenRecordset("SELECT Count(*) AS N FROM foods;").Integer("N"); }
   QModelIndex Cell(qint64 key, const char *column) {
-    return grid.Model().index(grid.Model().RowOfKey(key), grid.Model().ColumnByName(QLatin1String(column)));
+    return grid.Model().index(grid.Model().RowOfKey(key), grid.Model().ColumnByName(column));
   }
   QString Text(qint64 key, const char *column) { return Cell(key, column).data().toString(); }
   void GoTo(qint64 key, const char *column) {
@@ -126,7 +105,7 @@ class GridTest : public ::testing::Test {
   QWidget *Focus() { return QApplication::focusWidget() ? QApplication::focusWidget() : &grid; }
 
   QTemporaryDir directory;
-  std::unique_ptr<Database> file = Database::Create(directory.filePath(QStringLiteral("test.dat")));
+  std::unique_ptr<Database> file = Database::Create(directory.filePath("test.dat"));
   BoundGrid grid;
   QAbstractItemModelTester tester{&grid.Model(), QAbstractItemModelTester::FailureReportingMode::Fatal};
 };

@@ -1,11 +1,4 @@
 // What a person points at is what is acted on, whatever moves on the way to the click.
-#include <QClipboard>
-#include <QComboBox>
-#include <QHeaderView>
-#include <QPushButton>
-#include <QScrollArea>
-#include <QScrollBar>
-#include <QVBoxLayout>
 
 #include "grid_fixture.h"
 #include "platform/grid/pasted_text.h"
@@ -24,7 +17,7 @@ class GridPointingTest : public GridTest {
   /// Overtypes the name of the first row, so that its place in the order is the last, and leaves it unsaved.
   void TypeOverFirstRow() {
     GoTo(1, "FoodDesc");
-    Type(QStringLiteral("zzz moved"));
+    Type("zzz moved");
   }
   std::optional<qint64> menuOn;
   std::optional<qint64> activated;
@@ -33,23 +26,23 @@ class GridPointingTest : public GridTest {
 TEST_F(GridPointingTest, TheRowUnderTheMouseIsTheOneThatIsMeant) {
   for (const Qt::MouseButton button : {Qt::LeftButton, Qt::RightButton}) {
     GoTo(1, "FoodDesc");
-    Type(QStringLiteral("zzz moved"));
+    Type("zzz moved");
     Click(PlaceOf(Cell(5, "Nut1")), button);
     EXPECT_EQ(grid.CurrentKey(), 5) << button;
     EXPECT_EQ(grid.MarkedKeys(), std::vector<qint64>{5});
-    EXPECT_EQ(Stored(QStringLiteral("FoodDesc"), 1).toStdString(), "zzz moved");
+    EXPECT_EQ(Stored("FoodDesc", 1), "zzz moved");
     EXPECT_EQ(grid.Model().RowOfKey(1), 0) << "nothing moves under the pointer";
     EXPECT_EQ(menuOn.has_value(), button == Qt::RightButton);
-    file->Execute(QStringLiteral("UPDATE foods SET FoodDesc = 'Food 00001' WHERE FoodID = 1;"));
+    file->Execute("UPDATE foods SET FoodDesc = 'Food 00001' WHERE FoodID = 1;");
     grid.Refresh();
   }
   EXPECT_EQ(menuOn, 5);
-  EXPECT_EQ(grid.CurrentColumn().toStdString(), "Nut1");
+  EXPECT_EQ(grid.CurrentColumn(), "Nut1");
 }
 
 // Whoever refreshes from elsewhere may have moved the rows all the same.
 TEST_F(GridPointingTest, RowsThatMoveWhileOneIsLeftDoNotChangeWhatIsMeant) {
-  grid.Hooks().isReadOnly = [](const auto &field) { return field(QStringLiteral("FoodID")).toInt() == 6; };
+  grid.Hooks().isReadOnly = [](const auto &field) { return field("FoodID").toInt() == 6; };
   grid.Hooks().afterUpdate = [this](qint64) { grid.Model().Refresh(); };
   for (const Qt::MouseButton button : {Qt::LeftButton, Qt::RightButton}) {
     TypeOverFirstRow();
@@ -57,7 +50,7 @@ TEST_F(GridPointingTest, RowsThatMoveWhileOneIsLeftDoNotChangeWhatIsMeant) {
     EXPECT_EQ(grid.Model().RowOfKey(1), 39);
     EXPECT_EQ(grid.CurrentKey(), 5);
     EXPECT_EQ(grid.MarkedKeys(), std::vector<qint64>{5});
-    file->Execute(QStringLiteral("UPDATE foods SET FoodDesc = 'Food 00001' WHERE FoodID = 1;"));
+    file->Execute("UPDATE foods SET FoodDesc = 'Food 00001' WHERE FoodID = 1;");
     grid.Refresh();
   }
   EXPECT_EQ(menuOn, 5);
@@ -68,56 +61,55 @@ TEST_F(GridPointingTest, RowsThatMoveWhileOneIsLeftDoNotChangeWhatIsMeant) {
   EXPECT_EQ(grid.CurrentKey(), 6);
   EXPECT_EQ(activated, 6);
   GoTo(1, "Nut1");
-  Type(QStringLiteral("1"));
+  Type("1");
   const QRect section = grid.verticalHeader()->geometry();
   Click({section.center().x(), PlaceOf(Cell(38, "Nut1")).y()});
   EXPECT_EQ(grid.CurrentKey(), 38);
   EXPECT_EQ(grid.MarkedKeys(), std::vector<qint64>{38});
-  EXPECT_EQ(Stored(QStringLiteral("Calories"), 1).toStdString(), "1");
+  EXPECT_EQ(Stored("Calories", 1), "1");
 }
 
 TEST_F(GridPointingTest, SortedByTheNutrientThatWasJustChanged) {
-  ASSERT_TRUE(grid.SortBy(QStringLiteral("Nut1"), false));
+  ASSERT_TRUE(grid.SortBy("Nut1", false));
   const qint64 third = *grid.Model().KeyOfRow(2);
   const qint64 first = *grid.Model().KeyOfRow(0);
   GoTo(first, "Nut1");
-  Type(QStringLiteral("5000"));
+  Type("5000");
   Click(PlaceOf(Cell(third, "FoodDesc")));
   EXPECT_EQ(grid.CurrentKey(), third);
   EXPECT_EQ(grid.Model().RowOfKey(first), 0);
-  EXPECT_EQ(Stored(QStringLiteral("Calories"), first).toStdString(), "5000");
-  ASSERT_TRUE(grid.SortBy(QStringLiteral("Nut1"), false));
+  EXPECT_EQ(Stored("Calories", first), "5000");
+  ASSERT_TRUE(grid.SortBy("Nut1", false));
   EXPECT_EQ(grid.Model().RowOfKey(first), 39) << "asked for, it finds its new place";
 }
 
 TEST_F(GridPointingTest, ARefusedRowOpensNoMenuForAnother) {
   GoTo(1, "Nut1");
-  Type(QStringLiteral("9999"));
+  Type("9999");
   Click(PlaceOf(Cell(5, "Nut1")), Qt::RightButton);
   EXPECT_EQ(grid.CurrentKey(), 1);
   EXPECT_FALSE(menuOn);
   QTest::mouseDClick(grid.windowHandle(), Qt::LeftButton, {}, PlaceOf(Cell(6, "Nut1")));
   EXPECT_EQ(grid.CurrentKey(), 1);
-  EXPECT_EQ(Cell(1, "Nut1").data(Qt::AccessibleDescriptionRole).toString().toStdString(),
-            "No food has so many calories.");
+  EXPECT_EQ(Cell(1, "Nut1").data(Qt::AccessibleDescriptionRole).toString(), "No food has so many calories.");
 }
 
 TEST_F(GridPointingTest, RowsChangedElsewhereAreReadAfresh) {
-  grid.Model().setData(Cell(2, "Nut1"), QStringLiteral("77"));
-  file->Execute(QStringLiteral("UPDATE foods SET FoodDesc = 'New name' WHERE FoodID IN (1, 2);"));
+  grid.Model().setData(Cell(2, "Nut1"), "77");
+  file->Execute("UPDATE foods SET FoodDesc = 'New name' WHERE FoodID IN (1, 2);");
   grid.RefreshRows({1, 2});
-  EXPECT_EQ(Text(1, "FoodDesc").toStdString(), "New name");
-  EXPECT_EQ(Text(2, "Nut1").toStdString(), "77") << "what is being typed stays";
+  EXPECT_EQ(Text(1, "FoodDesc"), "New name");
+  EXPECT_EQ(Text(2, "Nut1"), "77") << "what is being typed stays";
   EXPECT_EQ(grid.Model().RowOfKey(1), 0);
   grid.UndoRow();
   GoTo(4, "Nut2");
-  file->Execute(QStringLiteral("DELETE FROM foods WHERE FoodID = 1;"));
-  file->Execute(QStringLiteral("INSERT INTO foods ( FoodID, FoodDesc ) VALUES ( 99, 'Added' );"));
+  file->Execute("DELETE FROM foods WHERE FoodID = 1;");
+  file->Execute("INSERT INTO foods ( FoodID, FoodDesc ) VALUES ( 99, 'Added' );");
   grid.RefreshRows({1, 99});
   EXPECT_EQ(grid.Model().RecordCount(), 40);
   EXPECT_EQ(grid.Model().RowOfKey(99), 0);
   EXPECT_EQ(grid.CurrentKey(), 4);
-  EXPECT_EQ(grid.CurrentColumn().toStdString(), "Nut2");
+  EXPECT_EQ(grid.CurrentColumn(), "Nut2");
 }
 
 TEST_F(GridPointingTest, CaptionsSortAndAnEmptyOneDoesNothing) {
@@ -131,14 +123,14 @@ TEST_F(GridPointingTest, CaptionsSortAndAnEmptyOneDoesNothing) {
   };
   press(2);
   press(2);
-  EXPECT_EQ(grid.Model().Source().order, (QList<GridOrder>{{QStringLiteral("Calories"), true}}));
+  EXPECT_EQ(grid.Model().Source().order, (QList<GridOrder>{{"Calories", true}}));
   EXPECT_EQ(sorted, 2);
   press(7);
   EXPECT_EQ(captions->sortIndicatorSection(), 2);
   EXPECT_EQ(captions->sortIndicatorOrder(), Qt::DescendingOrder);
   EXPECT_EQ(sorted, 2);
   GoTo(3, "Nut1");
-  Type(QStringLiteral("9999"));
+  Type("9999");
   press(3);
   EXPECT_EQ(captions->sortIndicatorSection(), 2) << "a refused row lets nothing be sorted";
 }
@@ -147,14 +139,14 @@ TEST_F(GridPointingTest, KeysClearACellAndDeleteOnlyMarkedRows) {
   for (const Qt::Key key : {Qt::Key_Delete, Qt::Key_Backspace}) {
     GoTo(3, "Nut2");
     Press(key);
-    EXPECT_EQ(Text(3, "Nut2").toStdString(), "");
+    EXPECT_EQ(Text(3, "Nut2"), "");
     EXPECT_EQ(Count(), 40);
     Press(Qt::Key_Escape);
-    EXPECT_EQ(Text(3, "Nut2").toStdString(), "0.38");
+    EXPECT_EQ(Text(3, "Nut2"), "0.38");
   }
   GoTo(3, "GroupID");
   Press(Qt::Key_Delete);
-  EXPECT_EQ(Text(3, "GroupID").toStdString(), "Meats") << "a list has no empty entry";
+  EXPECT_EQ(Text(3, "GroupID"), "Meats") << "a list has no empty entry";
   Click({grid.verticalHeader()->geometry().center().x(), PlaceOf(Cell(3, "Nut1")).y()});
   Press(Qt::Key_Backspace);
   EXPECT_EQ(Count(), 40);
@@ -175,7 +167,7 @@ TEST_F(GridPointingTest, ListsAndTheMenuOpenByKeys) {
     QTest::keyClick(list->view(), Qt::Key_Up);
     QTest::keyClick(list->view(), Qt::Key_Return);
     QApplication::processEvents();
-    EXPECT_EQ(Text(3, "GroupID").toStdString(), "Fruits");
+    EXPECT_EQ(Text(3, "GroupID"), "Fruits");
     Press(Qt::Key_Escape);
     Press(Qt::Key_Escape);
     grid.UndoRow();
@@ -185,7 +177,7 @@ TEST_F(GridPointingTest, ListsAndTheMenuOpenByKeys) {
   EXPECT_EQ(menuOn, 3);
   menuOn.reset();
   Press(Qt::Key_F2);
-  Type(QStringLiteral("x"));
+  Type("x");
   EXPECT_TRUE(grid.IsTyping());
   Press(Qt::Key_F10, Qt::ShiftModifier);
   EXPECT_EQ(menuOn, 3);
@@ -196,16 +188,16 @@ TEST_F(GridPointingTest, ListsAndTheMenuOpenByKeys) {
 }
 
 TEST_F(GridPointingTest, APastedTextIsOneLineAndTheSameOnTheCellAndInItsEditor) {
-  EXPECT_EQ(PastedCell(QStringLiteral("  two\r\nlines\n")), "two lines");
-  EXPECT_EQ(PastedCell(QStringLiteral("first\tsecond\r\nbelow\tit")), "first");
+  EXPECT_EQ(PastedCell("  two\r\nlines\n"), "two lines");
+  EXPECT_EQ(PastedCell("first\tsecond\r\nbelow\tit"), "first");
   const QString tooLong(300, QLatin1Char('x'));
   for (const bool editor : {false, true}) {
-    QApplication::clipboard()->setText(QStringLiteral("A\nname\n"));
+    QApplication::clipboard()->setText("A\nname\n");
     GoTo(5, "FoodDesc");
     if (editor) Press(Qt::Key_F2);
     Press(Qt::Key_V, Qt::ControlModifier);
     Press(Qt::Key_Tab);
-    EXPECT_EQ(Text(5, "FoodDesc").toStdString(), "A name");
+    EXPECT_EQ(Text(5, "FoodDesc"), "A name");
     GoTo(5, "FoodDesc");
     QApplication::clipboard()->setText(tooLong);
     if (editor) Press(Qt::Key_F2);
@@ -222,9 +214,9 @@ TEST(WheelGuardTest, TheWheelChangesOnlyABoxWithTheFocus) {
   QScrollArea window;
   auto *panel = new QWidget;
   auto *layout = new QVBoxLayout(panel);
-  auto *first = new QPushButton(QStringLiteral("First"));
+  auto *first = new QPushButton("First");
   auto *box = new QComboBox;
-  box->addItems({QStringLiteral("a"), QStringLiteral("b"), QStringLiteral("c")});
+  box->addItems({"a", "b", "c"});
   WheelGuard guard;
   guard.Guard(box);
   layout->addWidget(first);

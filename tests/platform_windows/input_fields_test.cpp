@@ -1,13 +1,8 @@
-#include <gtest/gtest.h>
-
-#include <QApplication>
-#include <QClipboard>
-#include <QTest>
-
 #include "platform/windows/fields/date_field.h"
 #include "platform/windows/fields/number_field.h"
 #include "platform/windows/fields/text_field.h"
 #include "support/locales.h"
+#include "support/windows/controls.h"
 
 namespace trimlog {
 namespace {
@@ -23,9 +18,9 @@ TEST(NumberFieldTest, ReadsWhatAPersonTypes) {
        {Row{&us, "93.5", 93.5, false}, Row{&german, "93,5", 93.5, false}, Row{&german, "93.5", 93.5, false},
         Row{&us, " 12 ", 12, false}, Row{&us, "12.3.4", -1, true}, Row{&us, "1e309", -1, true}, Row{&us, "", -1, false},
         Row{&us, "abc", -1, true}, Row{&us, "501", 501, true}}) {
-    NumberField field(QStringLiteral("txtWeight"), QStringLiteral("Weight"), *row.locale);
+    NumberField field("txtWeight", "Weight", *row.locale);
     field.SetRange(0, 500);
-    QTest::keyClicks(&field, QLatin1String(row.typed));
+    QTest::keyClicks(&field, row.typed);
     EXPECT_EQ(field.Number().value_or(-1), row.number) << row.typed;
     EXPECT_EQ(!field.Complaint().isEmpty(), row.complains) << row.typed;
   }
@@ -33,9 +28,9 @@ TEST(NumberFieldTest, ReadsWhatAPersonTypes) {
 
 TEST(NumberFieldTest, TheKeypadTypesTheDecimalSignOfTheLocale) {
   for (const auto &[locale, typed] : {std::pair{us, "1.5"}, std::pair{german, "1,5"}}) {
-    NumberField field(QStringLiteral("txtWeight"), QStringLiteral("Weight"), locale);
+    NumberField field("txtWeight", "Weight", locale);
     QTest::keyClick(&field, '1');
-    QKeyEvent decimal(QEvent::KeyPress, Qt::Key_Period, Qt::KeypadModifier, QStringLiteral("."));
+    QKeyEvent decimal(QEvent::KeyPress, Qt::Key_Period, Qt::KeypadModifier, ".");
     QApplication::sendEvent(&field, &decimal);
     QTest::keyClick(&field, '5');
     EXPECT_EQ(field.text().toStdString(), typed);
@@ -44,12 +39,12 @@ TEST(NumberFieldTest, TheKeypadTypesTheDecimalSignOfTheLocale) {
 }
 
 TEST(DateFieldTest, ReadsTheLocalesShortFormAndAsksForTheCalendar) {
-  DateField field(QStringLiteral("txtBirthDate"), QStringLiteral("Birth date"), german);
-  field.setText(QStringLiteral("3.2.1990"));
+  DateField field("txtBirthDate", "Birth date", german);
+  field.setText("3.2.1990");
   EXPECT_EQ(field.Date(), QDate(1990, 2, 3));
   field.SetDate(QDate(2026, 3, 1));
-  EXPECT_EQ(field.text().toStdString(), "01.03.2026");
-  field.setText(QStringLiteral("31.2.1990"));
+  EXPECT_EQ(field.text(), "01.03.2026");
+  field.setText("31.2.1990");
   EXPECT_FALSE(field.Date().isValid());
   int wanted = 0;
   QObject::connect(&field, &DateField::CalendarWanted, &field, [&] { ++wanted; });
@@ -59,10 +54,10 @@ TEST(DateFieldTest, ReadsTheLocalesShortFormAndAsksForTheCalendar) {
 }
 
 TEST(TextFieldTest, PastedLineBreaksBecomeBlanksAndTheLimitHolds) {
-  TextField field(QStringLiteral("txtName"), QStringLiteral("Name"), 12);
-  QApplication::clipboard()->setText(QStringLiteral("Two\nlines of it"));
+  TextField field("txtName", "Name", 12);
+  QApplication::clipboard()->setText("Two\nlines of it");
   field.paste();
-  EXPECT_EQ(field.text().toStdString(), "Two lines of");
+  EXPECT_EQ(field.text(), "Two lines of");
 }
 
 }  // namespace

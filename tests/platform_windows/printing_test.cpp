@@ -1,14 +1,6 @@
 #include <signal.h>
 #include <sys/resource.h>
 
-#include <QApplication>
-#include <QDir>
-#include <QPaintEngine>
-#include <QPainter>
-#include <QProgressDialog>
-#include <QTest>
-#include <QThread>
-
 #include "grid_fixture.h"
 #include "platform/windows/printing/grid_printer.h"
 #include "platform/windows/printing/system_printing.h"
@@ -92,7 +84,7 @@ class RecordingOutput final : public PageOutput {
 
 PrintedList Words(int rows, int columns, const QString &word) {
   PrintedList list;
-  list.heading = QStringLiteral("Food List: My Foods");
+  list.heading = "Food List: My Foods";
   for (int column = 0; column < columns; ++column) {
     list.columns.push_back({QStringLiteral("Caption%1\n(g)").arg(column), 2000, column > 0});
   }
@@ -106,26 +98,26 @@ PrintedList Words(int rows, int columns, const QString &word) {
 TEST(ListPrinting, EveryRowStandsOnceUnderRepeatedCaptions) {
   RecordingOutput output;
   QueuedBoxes boxes;
-  PrintedList list = Words(500, 3, QStringLiteral("Bread"));
-  list.closing = {{QStringLiteral("Daily Totals"), QStringLiteral("12"), QStringLiteral("34")}};
+  PrintedList list = Words(500, 3, "Bread");
+  list.closing = {{"Daily Totals", "12", "34"}};
   ASSERT_TRUE(SystemPrinting(boxes, output).PrintList(list));
   EXPECT_GT(output.pages, 5);
   EXPECT_FALSE(output.landscape);
   QString all;
   for (int page = 0; page < output.pages; ++page) {
     const QString text = output.TextOf(page);
-    EXPECT_TRUE(text.startsWith(QStringLiteral("Food List: My Foods|Caption0|Caption1|"))) << text.toStdString();
+    EXPECT_TRUE(text.startsWith("Food List: My Foods|Caption0|Caption1|")) << text.toStdString();
     EXPECT_TRUE(text.contains(QStringLiteral("|Page: %1|").arg(page + 1))) << page;
     all += QLatin1Char('|') + text;
   }
   for (int row = 0; row < 500; ++row) EXPECT_EQ(all.count(QStringLiteral("|Bread r%1|").arg(row)), 1) << row;
-  EXPECT_TRUE(all.endsWith(QStringLiteral("|Daily Totals|12|34")));
+  EXPECT_TRUE(all.endsWith("|Daily Totals|12|34"));
 }
 
 TEST(ListPrinting, APrintMadeSmallerBreaksNoWord) {
   RecordingOutput output;
   QueuedBoxes boxes;
-  ASSERT_TRUE(SystemPrinting(boxes, output).PrintList(Words(5, 14, QStringLiteral("Bread"))));
+  ASSERT_TRUE(SystemPrinting(boxes, output).PrintList(Words(5, 14, "Bread")));
   for (int column = 0; column < 14; ++column) {
     EXPECT_TRUE(output.TextOf(0).contains(QStringLiteral("|Caption%1|").arg(column))) << output.TextOf(0).toStdString();
   }
@@ -138,12 +130,11 @@ TEST(ListPrinting, NothingIsCutOff) {
     bool landscape;
   };
   PrintedList tall = Words(3, 2, QStringLiteral("word ").repeated(3000));
-  for (Case &printed : std::vector<Case>{
-           {"more columns than a page is wide", Words(30, 14, QStringLiteral("A food with a rather long name")), true},
-           {"a word longer than its column", Words(5, 3, QString(400, QLatin1Char('w'))), false},
-           {"a row longer than a page", tall, false},
-           {"no rows at all", Words(0, 2, {}), false},
-       }) {
+  for (Case &printed :
+       std::vector<Case>{{"more columns than a page is wide", Words(30, 14, "A food with a rather long name"), true},
+                         {"a word longer than its column", Words(5, 3, QString(400, QLatin1Char('w'))), false},
+                         {"a row longer than a page", tall, false},
+                         {"no rows at all", Words(0, 2, {}), false}}) {
     RecordingOutput output;
     QueuedBoxes boxes;
     ASSERT_TRUE(SystemPrinting(boxes, output).PrintList(printed.list));
@@ -162,21 +153,20 @@ TEST(ListPrinting, NothingIsCutOff) {
 }
 
 TEST_F(GridTest, AGridPrintsItsVisibleColumnsInTheOrderShown) {
-  grid.ShowColumn(QStringLiteral("Bought"), false);
-  grid.SortBy(QStringLiteral("FoodDesc"), true);
+  grid.ShowColumn("Bought", false);
+  grid.SortBy("FoodDesc", true);
   RecordingOutput output;
   QueuedBoxes boxes;
-  ASSERT_TRUE(SystemPrinting(boxes, output).PrintList(PrintedGrid(grid, QStringLiteral("Foods"))));
+  ASSERT_TRUE(SystemPrinting(boxes, output).PrintList(PrintedGrid(grid, "Foods")));
   const QString text = output.TextOf(0);
-  EXPECT_TRUE(text.startsWith(QStringLiteral("Foods|Food Description|Calories|Fat|Group|Modified|(kcal)|(g)")))
-      << text.toStdString();
-  EXPECT_TRUE(text.contains(QStringLiteral("|Food 00040|995|5.00|Fruits|No|Food 00039|"))) << text.toStdString();
+  EXPECT_TRUE(text.startsWith("Foods|Food Description|Calories|Fat|Group|Modified|(kcal)|(g)")) << text.toStdString();
+  EXPECT_TRUE(text.contains("|Food 00040|995|5.00|Fruits|No|Food 00039|")) << text.toStdString();
 }
 
 TEST(TextPrinting, GoesOnUnderItsTitleUntilNothingIsLeft) {
   RecordingOutput output;
   QueuedBoxes boxes;
-  PrintedText notes{QStringLiteral("Ann: Daily Notes For 3/1/2026"), {}};
+  PrintedText notes{"Ann: Daily Notes For 3/1/2026", {}};
   for (int note = 0; note < 60; ++note) {
     notes.paragraphs.append(QStringLiteral("Note %1.\r\nsecond line%2").arg(note).arg(QString(400, u'w')));
   }
@@ -186,7 +176,7 @@ TEST(TextPrinting, GoesOnUnderItsTitleUntilNothingIsLeft) {
   QString all;
   for (int page = 0; page < output.pages; ++page) {
     const QString text = output.TextOf(page);
-    const QString title = page == 0 ? notes.title : notes.title + QStringLiteral(" (Continued)");
+    const QString title = page == 0 ? notes.title : notes.title + " (Continued)";
     EXPECT_TRUE(text.startsWith(title + QLatin1Char('|'))) << text.toStdString();
     all += text.mid(title.size());
   }
@@ -197,7 +187,7 @@ TEST(TextPrinting, GoesOnUnderItsTitleUntilNothingIsLeft) {
     letters += drawn.text.count(QLatin1Char('w'));
   }
   EXPECT_EQ(letters, 60 * 400);
-  ASSERT_TRUE(SystemPrinting(boxes, output).PrintText({QStringLiteral("Nothing"), {}}));
+  ASSERT_TRUE(SystemPrinting(boxes, output).PrintText({"Nothing", {}}));
   EXPECT_EQ(output.pages, 1);
 }
 
@@ -205,7 +195,7 @@ TEST(TextPrinting, GoesOnUnderItsTitleUntilNothingIsLeft) {
 class PdfPrinting : public ::testing::Test {
  protected:
   PdfPrinting() { output.hasPrinter = false; }
-  void Choose(const QString &path) { boxes.ExpectInput(QStringLiteral("Print to a PDF File"), path); }
+  void Choose(const QString &path) { boxes.ExpectInput("Print to a PDF File", path); }
   QByteArray Content(const QString &name) const {
     QFile file(folder.filePath(name));
     return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray();
@@ -217,41 +207,41 @@ class PdfPrinting : public ::testing::Test {
 };
 
 TEST_F(PdfPrinting, APicturesPageGoesToTheFileThatIsChosen) {
-  QLineEdit form(QStringLiteral("A form"));
-  form.setWindowTitle(QStringLiteral("Data: 1/2"));
+  QLineEdit form("A form");
+  form.setWindowTitle("Data: 1/2");
   form.resize(900, 600);
-  boxes.ExpectInput(QStringLiteral("Print to a PDF File"), std::nullopt);
+  boxes.ExpectInput("Print to a PDF File", std::nullopt);
   EXPECT_FALSE(printing.PrintPicture(form)) << "cancelled";
-  Choose(folder.filePath(QStringLiteral("page")));
+  Choose(folder.filePath("page"));
   EXPECT_TRUE(printing.PrintPicture(form));
-  const QByteArray content = Content(QStringLiteral("page.pdf"));
+  const QByteArray content = Content("page.pdf");
   EXPECT_TRUE(content.startsWith("%PDF-"));
   EXPECT_EQ(content.count("/Type /Page\n"), 1);
-  Choose(folder.filePath(QStringLiteral("missing/page.pdf")));
+  Choose(folder.filePath("missing/page.pdf"));
   EXPECT_THROW(printing.PrintPicture(form), Error);
 }
 
 TEST_F(PdfPrinting, AFullDiskLeavesTheGoodFileAndSaysSo) {
-  Choose(folder.filePath(QStringLiteral("page.pdf")));
-  ASSERT_TRUE(printing.PrintText({QStringLiteral("Good"), {QStringLiteral("text")}}));
-  const QByteArray good = Content(QStringLiteral("page.pdf"));
+  Choose(folder.filePath("page.pdf"));
+  ASSERT_TRUE(printing.PrintText({"Good", {"text"}}));
+  const QByteArray good = Content("page.pdf");
   rlimit former{};
   getrlimit(RLIMIT_FSIZE, &former);
   signal(SIGXFSZ, SIG_IGN);  // a write past the limit fails as on a full disk
   for (const rlim_t room : {rlim_t{0}, rlim_t{4000}}) {
     rlimit limit{room, former.rlim_max};
     setrlimit(RLIMIT_FSIZE, &limit);
-    Choose(folder.filePath(QStringLiteral("page.pdf")));
-    EXPECT_THROW(printing.PrintList(Words(50, 3, QStringLiteral("Bread"))), Error) << room;
+    Choose(folder.filePath("page.pdf"));
+    EXPECT_THROW(printing.PrintList(Words(50, 3, "Bread")), Error) << room;
     setrlimit(RLIMIT_FSIZE, &former);
-    EXPECT_EQ(Content(QStringLiteral("page.pdf")), good) << room;
+    EXPECT_EQ(Content("page.pdf"), good) << room;
     EXPECT_EQ(QDir(folder.path()).entryList(QDir::Files | QDir::Hidden).size(), 1) << "nothing is left beside it";
   }
 }
 
 TEST_F(PdfPrinting, ALongListShowsThatItWorksAndCanBeCancelledAtEveryStage) {
   for (const PrintStage stage : {PrintStage::Measuring, PrintStage::LayingOut, PrintStage::Drawing}) {
-    PrintedList list = Words(4000, 3, QStringLiteral("Bread"));
+    PrintedList list = Words(4000, 3, "Bread");
     bool shown = false;
     list.cell = [&, cell = list.cell](int row, int column) {
       auto *window = qobject_cast<QProgressDialog *>(QApplication::activeModalWidget());
@@ -259,16 +249,16 @@ TEST_F(PdfPrinting, ALongListShowsThatItWorksAndCanBeCancelledAtEveryStage) {
       if (!window) QThread::usleep(200);
       const bool stageReached = window && window->value() > 100 * static_cast<int>(stage) + 20;
       if (stageReached) {
-        EXPECT_EQ(window->objectName(), QStringLiteral("frmPrintGrids"));
+        EXPECT_EQ(window->objectName(), "frmPrintGrids");
         EXPECT_EQ(QGuiApplication::overrideCursor()->shape(), Qt::BusyCursor);
         QTest::keyClick(window, Qt::Key_Escape);
       }
       return cell(row, column);
     };
-    Choose(folder.filePath(QStringLiteral("long.pdf")));
+    Choose(folder.filePath("long.pdf"));
     EXPECT_FALSE(printing.PrintList(list)) << static_cast<int>(stage);
     EXPECT_TRUE(shown);
-    EXPECT_FALSE(QFile::exists(folder.filePath(QStringLiteral("long.pdf"))));
+    EXPECT_FALSE(QFile::exists(folder.filePath("long.pdf")));
     EXPECT_EQ(QGuiApplication::overrideCursor(), nullptr);
   }
 }

@@ -11,10 +11,10 @@ namespace trimlog {
 class FreshFile {
  public:
   FreshFile() : database(Database::Create(Path())) { CreateSchema(*database); }
-  QString Path() const { return directory.filePath(QStringLiteral("tlg.dat")); }
-  int Count(const QString &table, const QString &where = QStringLiteral("1=1")) {
+  QString Path() const { return directory.filePath("tlg.dat"); }
+  int Count(const QString &table, const QString &where = "1=1") {
     return database->OpenRecordset(QStringLiteral("SELECT Count(*) AS N FROM %1 WHERE %2;").arg(table, where))
-        .Integer(QStringLiteral("N"));
+        .Integer("N");
   }
 
   QTemporaryDir directory;

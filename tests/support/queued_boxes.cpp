@@ -32,7 +32,7 @@ BoxButton QueuedBoxes::Show(const Box &box) {
   }
   const Expected expected = queue_.front();
   queue_.pop_front();
-  EXPECT_EQ(box.title.toStdString(), expected.title.toStdString());
+  EXPECT_EQ(box.title, expected.title);
   EXPECT_TRUE(box.text.contains(expected.text)) << box.text.toStdString() << "\n  lacks\n"
                                                 << expected.text.toStdString();
   EXPECT_TRUE(box.buttons.contains(expected.answer)) << "The box has no such button: " << box.title.toStdString();
@@ -47,7 +47,7 @@ std::optional<QString> QueuedBoxes::TakeInput(const QString &title) {
   }
   const Expected expected = queue_.front();
   queue_.pop_front();
-  EXPECT_EQ(title.toStdString(), expected.title.toStdString());
+  EXPECT_EQ(title, expected.title);
   return expected.typed;
 }
 

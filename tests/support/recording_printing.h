@@ -12,15 +12,15 @@ class RecordingPrinting final : public Printing {
  public:
   bool PrintList(const PrintedList &list) override {
     lists.push_back(list);
-    return Take(QStringLiteral("list ") + list.heading);
+    return Take("list " + list.heading);
   }
   bool PrintText(const PrintedText &text) override {
     texts.push_back(text);
-    return Take(QStringLiteral("text ") + text.title);
+    return Take("text " + text.title);
   }
   bool PrintPicture(QWidget &form) override {
     if (onPicture) onPicture(form);
-    return Take(QStringLiteral("picture"));
+    return Take("picture");
   }
 
   QStringList printed;
@@ -31,7 +31,7 @@ class RecordingPrinting final : public Printing {
 
  private:
   bool Take(const QString &what) {
-    if (broken) throw Error(error_number::other, QStringLiteral("out of paper"));
+    if (broken) throw Error(error_number::other, "out of paper");
     printed.append(what);
     return true;
   }

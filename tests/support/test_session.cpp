@@ -6,6 +6,7 @@
 
 #include "core/data/data_access.h"
 #include "core/session/change.h"
+#include "platform/store/recordset.h"
 #include "support/paths.h"
 
 namespace trimlog {
@@ -42,22 +43,23 @@ class MemoryStore final : public SettingsStore {
 std::unique_ptr<SettingsStore> MemorySettings() { return std::make_unique<MemoryStore>(); }
 
 TestSession::TestSession(const QLocale &locale) {
-  EXPECT_TRUE(QFile::copy(ShippedDir() + QStringLiteral("/tlg.dat"), directory.filePath(QStringLiteral("tlg.dat"))));
+  EXPECT_TRUE(QFile::copy(ShippedDir() + "/tlg.dat", directory.filePath("tlg.dat")));
   session = std::make_unique<Session>(SessionPlaces{directory.path(), *store, clock, machine, boxes, printing, locale});
   boxes.changeOpen = [this] { return session->database && session->database->InTransaction(); };
   session->database = Database::Open(session->DataFilePath());
   LoadControlValues(session->settings, *store, true);
   FillNutrientDefinitions(session->nutrients, Data());
-  AddProfile(1, QStringLiteral("Test Person"));
-  session->profile.CurrentPersonID = QStringLiteral("1");
-  session->profile.LastRealPersonID = QStringLiteral("1");
-  session->UomDisplay = QStringLiteral("Lbs");
+  AddProfile(1, "Test Person");
+  session->profile.CurrentPersonID = "1";
+  session->profile.LastRealPersonID = "1";
+  session->UomDisplay = "Lbs";
 }
 
 void TestSession::AddProfile(int personID, const QString &name, const QString &goal) {
-  Data().Execute(QStringLiteral("INSERT INTO people ( PersonID, PersonName, Goal, GenderID, BirthDate, HeightFeet, "
-                                "HeightInches, NutTargetID ) VALUES ( ?, ?, ?, 2, #1/1/1990#, 5, 6, 30 );"),
-                 {personID, name, goal});
+  Data().Execute(
+      "INSERT INTO people ( PersonID, PersonName, Goal, GenderID, BirthDate, HeightFeet, "
+      "HeightInches, NutTargetID ) VALUES ( ?, ?, ?, 2, #1/1/1990#, 5, 6, 30 );",
+      {personID, name, goal});
 }
 
 void TestSession::Announce(const DataChange &told) {
@@ -70,8 +72,23 @@ QString TestSession::ValueOf(const QString &field, const QString &table, const Q
   return GetDataValue(Data(), field, table, where);
 }
 
+QString TestSession::Rows(const QString &query, const Params &params) {
+  QStringList rows;
+  for (Recordset found = Data().OpenRecordset(query, params); !found.Eof(); found.MoveNext()) {
+    QStringList values;
+    for (const QString &name : found.FieldNames()) values.append(found.Text(name));
+    rows.append(values.join(u'|'));
+  }
+  return rows.join("; ");
+}
+
+void TestSession::Weigh(const QDate &date, double weight, int personID) {
+  Data().Execute("INSERT INTO weight_loss ( PersonID, ThisDate, ThisWeight, ThisLoss ) VALUES ( ?, ?, ?, 0 );",
+                 {personID, date, weight});
+}
+
 QStringList TestSession::LogLines() const {
-  QFile file(directory.filePath(QStringLiteral("errorlog.txt")));
+  QFile file(directory.filePath("errorlog.txt"));
   if (!file.open(QIODevice::ReadOnly)) return {};
   return QString::fromUtf8(file.readAll()).split(QLatin1Char('\n'), Qt::SkipEmptyParts);
 }

@@ -38,7 +38,7 @@ class RecordingMachine final : public Machine {
   QStringList windows;
   double colors = 16777216;
   bool browserWorks = true;
-  QString accountName = QStringLiteral("Test Person");
+  QString accountName = "Test Person";
 };
 
 /// Settings kept in memory.
@@ -54,14 +54,21 @@ class TestSession {
   Session &operator*() { return *session; }
   Database &Data() { return session->Data(); }
   /// Adds a profile by key and name with a goal, e.g. AddProfile(1, "Ann", "150").
-  void AddProfile(int personID, const QString &name, const QString &goal = QStringLiteral("150"));
+  void AddProfile(int personID, const QString &name, const QString &goal = "150");
   /// Tells what a writer elsewhere would have told.
   void Announce(const DataChange &change);
   /// One value of the data file as text.
   QString ValueOf(const QString &field, const QString &table, const QString &where = {});
 
+  /// All that a query finds, the values of a row joined by "|", the rows by "; ".
+  QString Rows(const QString &query, const Params &params = {});
+  /// A weight of a person, written past the weight log: nothing is computed and nothing announced.
+  void Weigh(const QDate &date, double weight, int personID = 1);
+
   /// The error log, line by line.
   QStringList LogLines() const;
+  /// Whether a line of the error log holds this.
+  bool Logged(const QString &text) const { return LogLines().join(u'\n').contains(text); }
 
   QTemporaryDir directory;
   FixedClock clock{QDateTime(QDate(2026, 3, 1), QTime(12, 0))};

@@ -35,8 +35,8 @@ TEST(BodyFatBarPlace, FollowsThePercentageAndStaysOnTheBar) {
     EXPECT_EQ(marker.category, c.category) << c.fraction;
     EXPECT_EQ(marker.Segment(), std::max(c.category - 1, 0)) << c.fraction;
   }
-  EXPECT_EQ(BoundsOfBodyFat(male).labels[0].toStdString(), "8%");
-  EXPECT_EQ(BoundsOfBodyFat(0).labels[2].toStdString(), "29%");
+  EXPECT_EQ(BoundsOfBodyFat(male).labels[0], "8%");
+  EXPECT_EQ(BoundsOfBodyFat(0).labels[2], "29%");
 }
 
 /// The assessment of a weight and a waist in pounds and inches.
@@ -45,7 +45,7 @@ BodyFatAssessment Assess(double weight, double waist, int gender, double feet, d
   profile.body = {gender, {}, feet, inches};
   profile.currentWeight = DatedWeight{QDate(2026, 2, 10), weight};
   profile.LatestWaist = waist;
-  return AssessBodyFat({}, profile, 1, QStringLiteral("Lbs"), us);
+  return AssessBodyFat({}, profile, 1, "Lbs", us);
 }
 
 TEST(BodyFatSummary, WordForWordInEveryCategory) {
@@ -94,51 +94,44 @@ TEST(BodyFatSummary, WordForWordInEveryCategory) {
        "and 68 lbs of fat.  According to many health professionals, this is considered an unhealthy condition, so it "
        "would be wise to lower your Body Fat percentage.  Of course, you can also consider your BMI value, which "
        "takes your height into account.  Your BMI cannot be calculated from this weight and the height in your "
-       "profile."},
-  };
+       "profile."}};
   for (const Case &c : cases) {
-    EXPECT_EQ(Assess(c.weight, c.waist, c.gender, c.feet, c.inches).summary.toStdString(), c.summary);
+    EXPECT_EQ(Assess(c.weight, c.waist, c.gender, c.feet, c.inches).summary, c.summary);
   }
-  EXPECT_EQ(Assess(150, 30, female, 5, 4).value.toStdString(), "Your Body Fat = 23.63%");
+  EXPECT_EQ(Assess(150, 30, female, 5, 4).value, "Your Body Fat = 23.63%");
 }
 
 TEST(BodyFatSummary, LeanMassComesFromTheRoundedFat) {
   // 150.5 lbs and 30 inches: (-76.76 + 124.5 - 12.341) = 35.399 of fat, 35; 150.5 - 35 = 115.5, to the even 116
-  EXPECT_TRUE(
-      Assess(150.5, 30, female, 5, 4).summary.contains(QStringLiteral("about 116 lbs of lean body mass and 35 lbs")));
+  EXPECT_TRUE(Assess(150.5, 30, female, 5, 4).summary.contains("about 116 lbs of lean body mass and 35 lbs"));
 }
 
 TEST(BodyFatSummary, MetricInputsAndTheOtherChoices) {
   ToolsProfile profile;
   profile.body = {male, {}, 1, 80};
   // 80 kg and 90 cm: 19.371 %, fat 15.497; the index 80 / 3.24 = 24.69
-  const BodyFatAssessment metric =
-      AssessBodyFat({true, QStringLiteral("80"), true, QStringLiteral("90")}, profile, 2, QStringLiteral("Kg"), us);
-  EXPECT_EQ(metric.value.toStdString(), "Your Body Fat = 19.37%");
+  const BodyFatAssessment metric = AssessBodyFat({true, "80", true, "90"}, profile, 2, "Kg", us);
+  EXPECT_EQ(metric.value, "Your Body Fat = 19.37%");
   EXPECT_EQ(metric.marker.category, 2);
-  EXPECT_TRUE(metric.summary.contains(QStringLiteral("about 65 kg of lean body mass and 15 kg of fat.")));
-  EXPECT_TRUE(metric.summary.endsWith(
-      QStringLiteral("Your BMI is 25, which indicates an moderate health risk for your height.")));
+  EXPECT_TRUE(metric.summary.contains("about 65 kg of lean body mass and 15 kg of fat."));
+  EXPECT_TRUE(metric.summary.endsWith("Your BMI is 25, which indicates an moderate health risk for your height."));
 
   struct Case {
     BodyFatQuestion question;
     const char *failure;
   };
-  const Case refused[] = {
-      {{true, QStringLiteral("eighty"), true, QStringLiteral("90")},
-       "Please enter a numeric value for your goal weight."},
-      {{true, QStringLiteral("0"), true, QStringLiteral("90")}, "The weight cannot be zero."},
-      {{true, QStringLiteral("80"), true, QString()}, "Please enter a numeric value for your waist."},
-      {{false, {}, true, QStringLiteral("90")}, "Please record a weight in the Data Calendar first."},
-      {{true, QStringLiteral("80"), false, {}},
-       "No waist measurement is recorded in your journal.  Please enter another measurement."},
-  };
+  const Case refused[] = {{{true, "eighty", true, "90"}, "Please enter a numeric value for your goal weight."},
+                          {{true, "0", true, "90"}, "The weight cannot be zero."},
+                          {{true, "80", true, QString()}, "Please enter a numeric value for your waist."},
+                          {{false, {}, true, "90"}, "Please record a weight in the Data Calendar first."},
+                          {{true, "80", false, {}},
+                           "No waist measurement is recorded in your journal.  Please enter another measurement."}};
   for (const Case &c : refused) {
     try {
-      AssessBodyFat(c.question, profile, 2, QStringLiteral("Kg"), us);
+      AssessBodyFat(c.question, profile, 2, "Kg", us);
       ADD_FAILURE() << "assessed: " << c.failure;
     } catch (const Error &error) {
-      EXPECT_EQ(error.Description().toStdString(), c.failure);
+      EXPECT_EQ(error.Description(), c.failure);
     }
   }
 }

@@ -1,12 +1,5 @@
-#include <gtest/gtest.h>
-
-#include <QApplication>
-#include <QMessageBox>
-#include <QPushButton>
-#include <QTest>
-#include <QTimer>
-
 #include "platform/windows/machine/qt_boxes.h"
+#include "support/windows/controls.h"
 #include "tools/tool_notices.h"
 
 namespace trimlog {

@@ -1,11 +1,8 @@
 #include "tools/windows/tool_colours.h"
 
-#include <gtest/gtest.h>
-
-#include <QApplication>
-
 #include "core/windows/controls/theme.h"
 #include "support/test_session.h"
+#include "support/windows/controls.h"
 
 namespace trimlog {
 namespace {

@@ -47,7 +47,7 @@ TEST(CalendarMonth, PlacesTheDaysAndHidesWhatBelongsToNoWeekOfTheMonth) {
     }
     EXPECT_EQ(month.Total(6).visible, c.sixWeeks);
   }
-  EXPECT_EQ(MonthOf(2026, 2).title, QStringLiteral("February, 2026"));
+  EXPECT_EQ(MonthOf(2026, 2).title, "February, 2026");
   EXPECT_EQ(MonthOf(2026, 2).Cell(3).dateValue, ShortDate(QDate(2026, 2, 3), english));
 }
 
@@ -82,9 +82,9 @@ TEST(CalendarMonth, TotalsCountNeighboursInTheWeekButNotInTheMonth) {
     month.Cell(6).loss = QLatin1String(c.losses[2]);
     UpdateWeeklyTotals(month, settings, english);
     ColorLossCells(month, settings, english);
-    EXPECT_EQ(month.Total(1).text, QLatin1String(c.firstWeek));
+    EXPECT_EQ(month.Total(1).text, c.firstWeek);
     EXPECT_EQ(month.Total(1).color, c.weekColor);
-    EXPECT_EQ(month.monthTotal.text, QLatin1String(c.month));
+    EXPECT_EQ(month.monthTotal.text, c.month);
     EXPECT_EQ(month.monthTotal.color, c.monthColor);
   }
 }
@@ -93,9 +93,9 @@ TEST(CalendarMonth, LossCellsTakeTheColourOfTheTrueLoss) {
   Settings settings;
   settings.LossFactor = -1;
   CalendarMonth month = MonthOf(2026, 3, settings);
-  month.Cell(1).loss = QStringLiteral("-2.0");
-  month.Cell(2).loss = QStringLiteral("0.4");
-  month.Cell(3).loss = QStringLiteral("0.0");
+  month.Cell(1).loss = "-2.0";
+  month.Cell(2).loss = "0.4";
+  month.Cell(3).loss = "0.0";
   ColorLossCells(month, settings, english);
   EXPECT_EQ(month.Cell(1).lossColor, calendar_colour::loss);
   EXPECT_EQ(month.Cell(2).lossColor, calendar_colour::gain);
@@ -118,12 +118,12 @@ TEST(CalendarMonth, IsSpokenWithWhatItShows) {
     Settings settings;
     settings.LossFactor = c.LossFactor;
     CalendarCell cell;
-    cell.loss = QLatin1String(c.loss);
-    cell.calories = QLatin1String(c.calories);
-    cell.caloriesTip = QLatin1String(c.tip);
+    cell.loss = c.loss;
+    cell.calories = c.calories;
+    cell.caloriesTip = c.tip;
     cell.lossVisible = c.showsLoss;
     cell.caloriesVisible = c.showsCalories;
-    EXPECT_EQ(SpokenDetails(cell, QStringLiteral("Figure"), settings, english), QLatin1String(c.spoken));
+    EXPECT_EQ(SpokenDetails(cell, "Figure", settings, english), c.spoken);
   }
 }
 
@@ -144,11 +144,11 @@ TEST(CalendarMonth, ArrowsMoveOntoDaysOfTheMonthOnly) {
 
 TEST(CalendarMonth, GoesOnBehindTheLastWeightOfTheMonth) {
   CalendarMonth month = MonthOf(2026, 8);
-  month.Cell(6).data = QStringLiteral("200");  // July's
+  month.Cell(6).data = "200";  // July's
   EXPECT_EQ(NextDateCell(month), 0);
-  month.Cell(10).data = QStringLiteral("199");
+  month.Cell(10).data = "199";
   EXPECT_EQ(NextDateCell(month), 11);
-  month.Cell(37).data = QStringLiteral("198");  // the 31st
+  month.Cell(37).data = "198";  // the 31st
   EXPECT_EQ(NextDateCell(month), 37);
 }
 

@@ -16,23 +16,18 @@ class CalendarNutrients : public testing::Test {
 
   void Eat(const char *date, double calories, double fatCalories, double iron, bool planned = false, int person = 1) {
     calendar.session.Data().Execute(
-        QStringLiteral("INSERT INTO meals ( PersonID, RecordID, ThisDate, MealTypeID, MealID, Amount, Calories, "
-                       "CalFromFat, Iron, Custom1, IsPlanned ) SELECT ? AS Expr1, ? AS Expr2, ? AS Expr3, 1 AS Expr4, "
-                       "? AS Expr5, \"1\" AS Expr6, ? AS Expr7, ? AS Expr8, ? AS Expr9, 1.5 AS Expr10, ? AS Expr11;"),
-        {person, ++records, Day(date),
-         calendar.session
-             .ValueOf(QStringLiteral("Min(MealID)"), QStringLiteral("meals_list"), QStringLiteral("MealID > 0"))
-             .toInt(),
+        "INSERT INTO meals ( PersonID, RecordID, ThisDate, MealTypeID, MealID, Amount, Calories, "
+        "CalFromFat, Iron, Custom1, IsPlanned ) SELECT ? AS Expr1, ? AS Expr2, ? AS Expr3, 1 AS Expr4, "
+        "? AS Expr5, \"1\" AS Expr6, ? AS Expr7, ? AS Expr8, ? AS Expr9, 1.5 AS Expr10, ? AS Expr11;",
+        {person, ++records, Day(date), calendar.session.ValueOf("Min(MealID)", "meals_list", "MealID > 0").toInt(),
          calories, fatCalories, iron, planned});
   }
   void Exercise(const char *date, double calories, bool planned = false, int person = 1) {
     calendar.session.Data().Execute(
-        QStringLiteral(
-            "INSERT INTO activities ( PersonID, RecordID, ThisDate, ActivityID, Duration, Calories, IsPlanned ) "
-            "SELECT ? AS Expr1, ? AS Expr2, ? AS Expr3, ? AS Expr4, \"30\" AS Expr5, ? AS Expr6, ? AS Expr7;"),
-        {person, ++records, Day(date),
-         calendar.session.ValueOf(QStringLiteral("Min(ActivityID)"), QStringLiteral("activities_list")).toInt(),
-         calories, planned});
+        "INSERT INTO activities ( PersonID, RecordID, ThisDate, ActivityID, Duration, Calories, IsPlanned ) "
+        "SELECT ? AS Expr1, ? AS Expr2, ? AS Expr3, ? AS Expr4, \"30\" AS Expr5, ? AS Expr6, ? AS Expr7;",
+        {person, ++records, Day(date), calendar.session.ValueOf("Min(ActivityID)", "activities_list").toInt(), calories,
+         planned});
   }
 
   TypedCalendar calendar;
@@ -54,24 +49,17 @@ TEST_F(CalendarNutrients, ShowsTheDaysFigureByTheChosenNutrient) {
   Exercise("2026-03-04", 300);
   struct Case {
     int NutrientID;
-    const char *second, *third, *fourth, *fifth, *sixth;
+    const char *days;  // from the 2nd to the 6th
   };
-  for (const Case &c :
-       {Case{1, "600 kcal", "0 kcal", "", "", "8 kcal"}, Case{101, "150 kcal", "", "300 kcal", "", ""},
-        Case{102, "450 Cal", "0 Cal", "-300 Cal", "", "8 Cal"}, Case{23, "25 %", "0 %", "", "", "38 %"},
-        Case{7, "1.750 mg", "0.000 mg", "", "", "0.000 mg"}, Case{28, "3.00", "1.50", "", "", "1.50"}}) {
-    SCOPED_TRACE(c.NutrientID);
+  for (const Case &c : {Case{1, "600 kcal|0 kcal|||8 kcal"}, Case{101, "150 kcal||300 kcal||"},
+                        Case{102, "450 Cal|0 Cal|-300 Cal||8 Cal"}, Case{23, "25 %|0 %|||38 %"},
+                        Case{7, "1.750 mg|0.000 mg|||0.000 mg"}, Case{28, "3.00|1.50|||1.50"}}) {
     calendar.session->settings.NutrientID = c.NutrientID;
     calendar.model->BuildMonth(Day("2026-03-01"));
     const QString unit = QLatin1Char(' ') + calendar.session->nutrients.NutrientDefs[0].shortUnit;
-    const auto expected = [&unit](const char *text) {
-      return QString::fromLatin1(text).replace(QStringLiteral(" kcal"), unit);
-    };
-    EXPECT_EQ(calendar.Cell("2026-03-02").calories, expected(c.second));
-    EXPECT_EQ(calendar.Cell("2026-03-03").calories, expected(c.third));
-    EXPECT_EQ(calendar.Cell("2026-03-04").calories, expected(c.fourth));
-    EXPECT_EQ(calendar.Cell("2026-03-05").calories, expected(c.fifth));
-    EXPECT_EQ(calendar.Cell("2026-03-06").calories, expected(c.sixth));
+    QStringList shown;
+    for (int day = 2; day <= 6; ++day) shown.append(calendar.model->Month().Cell(day).calories);
+    EXPECT_EQ(shown.join(u'|'), QString(c.days).replace(" kcal", unit)) << c.NutrientID;
   }
 }
 
@@ -80,12 +68,11 @@ TEST_F(CalendarNutrients, NetCaloriesFollowTheWeightThatTheBasalRateGoesBy) {
   Eat("2026-03-03", 2000, 0, 0);
   Exercise("2026-03-03", 103);
   calendar.model->BuildMonth(Day("2026-03-01"));
-  EXPECT_EQ(calendar.Cell("2026-03-03").caloriesTip, QStringLiteral("2000 eaten - 103 burned = 1897 Cal"));
+  EXPECT_EQ(calendar.Cell("2026-03-03").caloriesTip, "2000 eaten - 103 burned = 1897 Cal");
   calendar.Type("2026-03-02", "150");
   const QString withRate = calendar.Cell("2026-03-03").calories;
-  EXPECT_EQ(withRate, QStringLiteral("449 Cal"));
-  EXPECT_EQ(calendar.Cell("2026-03-03").caloriesTip,
-            QStringLiteral("2000 eaten - 103 burned - 1448 basal rate = 449 Cal"));
+  EXPECT_EQ(withRate, "449 Cal");
+  EXPECT_EQ(calendar.Cell("2026-03-03").caloriesTip, "2000 eaten - 103 burned - 1448 basal rate = 449 Cal");
   EXPECT_TRUE(calendar.Cell("2026-03-04").caloriesTip.isEmpty());
   calendar.model->BuildMonth(Day("2026-03-01"));
   EXPECT_EQ(calendar.Cell("2026-03-03").calories, withRate);
@@ -103,8 +90,7 @@ TEST_F(CalendarNutrients, HiddenFiguresAreNotReadAndAnUnknownNutrientShowsNothin
   const qint64 before = calendar.session.Data().Counts().statements;
   calendar.model->FillCalendarNutrients();
   EXPECT_EQ(calendar.session.Data().Counts().statements, before);
-  EXPECT_EQ(calendar.session->store.GetSettingString(settingsRoot, QStringLiteral("ShowCalories")),
-            QStringLiteral("0"));
+  EXPECT_EQ(calendar.session->store.GetSettingString(settingsRoot, "ShowCalories"), "0");
 }
 
 }  // namespace

@@ -58,10 +58,10 @@ TEST_P(RandomLog, AgreesWithALogKeptByHand) {
     QStringList rows;
     for (const auto &[day, row] : kept) {
       rows.append(QStringLiteral("%1 %2/%3")
-                      .arg(day.toString(QStringLiteral("MM-dd")), PlainText(static_cast<double>(row.weight) / 100),
+                      .arg(day.toString("MM-dd"), PlainText(static_cast<double>(row.weight) / 100),
                            PlainText(static_cast<double>(row.loss) / 100)));
     }
-    ASSERT_EQ(calendar.Rows(), rows.join(QStringLiteral(", ")).toStdString()) << "step " << step;
+    ASSERT_EQ(calendar.Rows(), rows.join(", ").toStdString()) << "step " << step;
 
     // Read afresh, the month shows each loss with one decimal, and the totals add up what is shown.
     calendar.model->Refresh();
@@ -91,7 +91,7 @@ TEST_P(RandomLog, AgreesWithALogKeptByHand) {
     const Hundredths lost = kept.begin()->second.weight - kept.rbegin()->second.weight;
     const QString shownLost = calendar.session->profile.statistics.LbsLost;
     if (lost < 0) {
-      ASSERT_TRUE(shownLost.startsWith(QStringLiteral("Gained ")));
+      ASSERT_TRUE(shownLost.startsWith("Gained "));
     } else {
       ASSERT_EQ(shownLost, PlainText(static_cast<double>((lost + 5) / 10) / 10));
     }

@@ -16,32 +16,31 @@ TEST(RewardForm, OnlyDefaultsFollowTheUnitSystem) {
     const char *dailyAfter;
     const char *weeklyAfter;
   };
-  const Case cases[] = {
-      {"0.5", "2.0", 2, "0.25", "0.9"},  {"0.25", "0.9", 1, "0.5", "2.0"}, {"0.50", "2", 2, "0.25", "0.9"},
-      {"0.6", "2.1", 2, "0.6", "2.1"},   {"2.0", "0.5", 2, "2.0", "0.5"},  {"", "x", 2, "", "x"},
-      {"0.25", "0.9", 2, "0.25", "0.9"},
-  };
+  const Case cases[] = {{"0.5", "2.0", 2, "0.25", "0.9"}, {"0.25", "0.9", 1, "0.5", "2.0"},
+                        {"0.50", "2", 2, "0.25", "0.9"},  {"0.6", "2.1", 2, "0.6", "2.1"},
+                        {"2.0", "0.5", 2, "2.0", "0.5"},  {"", "x", 2, "", "x"},
+                        {"0.25", "0.9", 2, "0.25", "0.9"}};
   for (const Case &row : cases) {
     RewardForm form;
-    form.daily = QString::fromLatin1(row.daily);
-    form.weekly = QString::fromLatin1(row.weekly);
-    form.weight = QStringLiteral("2.0");
+    form.daily = row.daily;
+    form.weekly = row.weekly;
+    form.weight = "2.0";
     SwapRewardDefaults(form, row.uomID, QLocale::c());
     EXPECT_EQ(form.daily.toStdString(), row.dailyAfter) << row.daily << " to " << row.uomID;
     EXPECT_EQ(form.weekly.toStdString(), row.weeklyAfter) << row.weekly << " to " << row.uomID;
-    EXPECT_EQ(form.weight.toStdString(), "2.0");
+    EXPECT_EQ(form.weight, "2.0");
   }
   RewardForm german;
-  german.daily = QStringLiteral("0,5");
+  german.daily = "0,5";
   SwapRewardDefaults(german, 2, QLocale(QLocale::German));
-  EXPECT_EQ(german.daily.toStdString(), "0,25");
+  EXPECT_EQ(german.daily, "0,25");
 }
 
 TEST(RewardForm, AnEmptyFieldBeginsWithDefaultOrGoal) {
   TestSession session;
-  EXPECT_EQ(ProposedAmount(*session, RewardType::Daily, 1).toStdString(), "0.5");
-  EXPECT_EQ(ProposedAmount(*session, RewardType::Weekly, 2).toStdString(), "0.9");
-  EXPECT_EQ(ProposedAmount(*session, RewardType::PersonalWeight, 2).toStdString(), "150");
+  EXPECT_EQ(ProposedAmount(*session, RewardType::Daily, 1), "0.5");
+  EXPECT_EQ(ProposedAmount(*session, RewardType::Weekly, 2), "0.9");
+  EXPECT_EQ(ProposedAmount(*session, RewardType::PersonalWeight, 2), "150");
 }
 
 TEST(RewardForm, StoresTheChosenTypeWithItsOwnAmount) {
@@ -55,19 +54,14 @@ TEST(RewardForm, StoresTheChosenTypeWithItsOwnAmount) {
                           {RewardType::Weekly, 1.5}}) {
     TestSession session{QLocale(QLocale::German, QLocale::Germany)};
     LoadRewardSettings(*session);
-    RewardForm form{row.type,
-                    QStringLiteral("0,75"),
-                    QStringLiteral("1,5"),
-                    QStringLiteral("140,5"),
-                    QStringLiteral("\"Bravo\""),
-                    QStringLiteral("/tmp/my \"bell\".wav")};
+    RewardForm form{row.type, "0,75", "1,5", "140,5", "\"Bravo\"", "/tmp/my \"bell\".wav"};
     ASSERT_TRUE(CheckRewardForm(*session, form));
     ASSERT_TRUE(SaveRewardForm(*session, form));
     LoadRewardSettings(*session);
     EXPECT_EQ(session->profile.rewards.type, row.type);
     EXPECT_DOUBLE_EQ(session->profile.rewards.amount, row.amount);
-    EXPECT_EQ(session->profile.rewards.message.toStdString(), "''Bravo''");
-    EXPECT_EQ(session->profile.rewards.sound.toStdString(), "/tmp/my \"bell\".wav");
+    EXPECT_EQ(session->profile.rewards.message, "''Bravo''");
+    EXPECT_EQ(session->profile.rewards.sound, "/tmp/my \"bell\".wav");
     RewardForm again = ReadRewardForm(*session);
     if (QString *amount = again.AmountOf(row.type)) {
       EXPECT_EQ(amount->toStdString(), form.AmountOf(row.type)->toStdString());
@@ -78,9 +72,8 @@ TEST(RewardForm, StoresTheChosenTypeWithItsOwnAmount) {
 TEST(RewardForm, ASaveThatFailsSaysSoAndKeepsTheRule) {
   TestSession session;
   LoadRewardSettings(*session);
-  session.Data().Execute(QStringLiteral("ALTER TABLE rewards RENAME COLUMN RewardSound TO Hidden;"));
-  session.boxes.Expect(QStringLiteral("Error Saving Data"),
-                       QStringLiteral("An error occurred while saving your reward settings."));
+  session.Data().Execute("ALTER TABLE rewards RENAME COLUMN RewardSound TO Hidden;");
+  session.boxes.Expect("Error Saving Data", "An error occurred while saving your reward settings.");
   RewardForm form;
   EXPECT_FALSE(SaveRewardForm(*session, form));
   EXPECT_EQ(session->profile.rewards.type, RewardType::Weekly);
@@ -91,9 +84,9 @@ TEST(RewardForm, RefusesAnAmountThatIsNone) {
     TestSession session;
     RewardForm form;
     form.type = RewardType::Weekly;
-    form.daily = QStringLiteral("1");
-    form.weekly = QString::fromLatin1(amount);
-    session.boxes.Expect(QStringLiteral("Invalid Reward Amount"), QStringLiteral("positive number"));
+    form.daily = "1";
+    form.weekly = amount;
+    session.boxes.Expect("Invalid Reward Amount", "positive number");
     EXPECT_FALSE(CheckRewardForm(*session, form)) << amount;
     form.type = RewardType::Never;
     EXPECT_TRUE(CheckRewardForm(*session, form)) << amount;

@@ -9,7 +9,7 @@ namespace {
 
 std::string Panel(const Statistics &shown) {
   return QStringList{shown.LbsLost, shown.LbsPerWeek, shown.LbsLeft, shown.DaysLeft, shown.ProjDate}
-      .join(QStringLiteral(" | "))
+      .join(" | ")
       .toStdString();
 }
 
@@ -75,9 +75,9 @@ TEST(WeightStatistics, ThatCannotBeReadAreToldAndLeaveTheShownOnes) {
   TypedCalendar calendar;
   calendar.Type("2026-02-01", "200");
   const std::string before = Panel(calendar.session->profile.statistics);
-  calendar.session.Data().Execute(QStringLiteral("ALTER TABLE weight_loss RENAME COLUMN ThisWeight TO Hidden;"));
-  calendar.session.boxes.Expect(QStringLiteral("Error Updating Statistics"),
-                                QStringLiteral("An error occurred while updating your weight loss statistics."));
+  calendar.session.Data().Execute("ALTER TABLE weight_loss RENAME COLUMN ThisWeight TO Hidden;");
+  calendar.session.boxes.Expect("Error Updating Statistics",
+                                "An error occurred while updating your weight loss statistics.");
   UpdateStats(*calendar.session);
   EXPECT_EQ(Panel(calendar.session->profile.statistics), before);
 }

@@ -1,14 +1,5 @@
 #include "weightlog/windows/frmData.h"
 
-#include <gtest/gtest.h>
-
-#include <QCheckBox>
-#include <QComboBox>
-#include <QLabel>
-#include <QLineEdit>
-#include <QTest>
-#include <QToolButton>
-
 #include "platform/store/recordset.h"
 #include "platform/text/text_format.h"
 #include "support/test_session.h"
@@ -25,7 +16,7 @@ class Calendar {
  public:
   explicit Calendar(const QLocale &locale = QLocale(QLocale::English, QLocale::UnitedStates)) : session(locale) {
     session->profile.rewards.type = RewardType::Never;
-    session->DecimalComma = locale.decimalPoint() == QStringLiteral(",");
+    session->DecimalComma = locale.decimalPoint() == ",";
     FillNutrientDefinitions(session->nutrients, session.Data());
   }
 
@@ -39,7 +30,7 @@ class Calendar {
   }
   template <class Control>
   Control *Find(const char *name) {
-    auto *control = form->findChild<Control *>(QString::fromLatin1(name));
+    auto *control = form->findChild<Control *>(name);
     EXPECT_NE(control, nullptr) << name;
     return control;
   }
@@ -58,8 +49,7 @@ class Calendar {
   }
   std::string Weight(const QDate &date) {
     return session
-        .ValueOf(QStringLiteral("ThisWeight"), QStringLiteral("weight_loss"),
-                 QStringLiteral("(PersonID=1) AND (ThisDate=%1)").arg(SQLDate(date)))
+        .ValueOf("ThisWeight", "weight_loss", QStringLiteral("(PersonID=1) AND (ThisDate=%1)").arg(SQLDate(date)))
         .toStdString();
   }
 
@@ -91,7 +81,7 @@ TEST(FrmData, AWeekIsTypedCorrectedAndMovedThroughWithoutTheMouse) {
   c.Press(Qt::Key_Up, Qt::ControlModifier);
   c.Press(Qt::Key_Left, Qt::AltModifier);
   ASSERT_EQ(c.Focus(), c.Field(3));
-  EXPECT_EQ(c.Field(3)->selectedText(), QStringLiteral("198.5"));  // typing corrects the whole weight
+  EXPECT_EQ(c.Field(3)->selectedText(), "198.5");  // typing corrects the whole weight
   c.Type("198");
   c.Press(Qt::Key_Backtab, Qt::ShiftModifier);
   ASSERT_EQ(c.Focus(), c.Field(2));
@@ -100,7 +90,7 @@ TEST(FrmData, AWeekIsTypedCorrectedAndMovedThroughWithoutTheMouse) {
   EXPECT_EQ(c.Text("txtTotal(1)"), "3.0");
   EXPECT_EQ(c.Text("txtTotalMonth"), "3.0");
   EXPECT_EQ(c.Text("txtCurrentIndex"), "2");
-  EXPECT_EQ(c.session->profile.statistics.LbsLost, QStringLiteral("3"));
+  EXPECT_EQ(c.session->profile.statistics.LbsLost, "3");
 }
 
 TEST(FrmData, ShiftArrowsSelectAndEscapeRestores) {
@@ -108,13 +98,13 @@ TEST(FrmData, ShiftArrowsSelectAndEscapeRestores) {
   c.Open();
   c.Type("200");
   c.Press(Qt::Key_Left, Qt::ShiftModifier);
-  EXPECT_EQ(c.Field(1)->selectedText(), QStringLiteral("0"));
+  EXPECT_EQ(c.Field(1)->selectedText(), "0");
   c.Press(Qt::Key_Tab);
   c.Press(Qt::Key_Left);
   c.Type("7");
-  EXPECT_EQ(c.Field(1)->text(), QStringLiteral("7"));
+  EXPECT_EQ(c.Field(1)->text(), "7");
   c.Press(Qt::Key_Escape);
-  EXPECT_EQ(c.Field(1)->text(), QStringLiteral("200"));
+  EXPECT_EQ(c.Field(1)->text(), "200");
   const qint64 before = c.session.Data().Counts().commits;
   c.Press(Qt::Key_Tab);
   EXPECT_EQ(c.session.Data().Counts().commits, before);
@@ -123,7 +113,7 @@ TEST(FrmData, ShiftArrowsSelectAndEscapeRestores) {
 TEST(FrmData, AnInvalidWeightHoldsEveryWayOut) {
   Calendar c;
   QString opened;
-  c.navigator.OpenQuickJournal = [&](QWidget *) { opened = QStringLiteral("journal"); };
+  c.navigator.OpenQuickJournal = [&](QWidget *) { opened = "journal"; };
   c.Open();
   QLineEdit other;
   const std::vector<std::pair<const char *, std::function<void()>>> waysOut{
@@ -152,10 +142,10 @@ TEST(FrmData, AnInvalidWeightHoldsEveryWayOut) {
   for (const auto &[name, leave] : waysOut) {
     SCOPED_TRACE(name);
     c.Type("12.3.4");
-    c.session.boxes.Expect(QStringLiteral("Invalid Weight"), QLatin1String(notNumeric));
+    c.session.boxes.Expect("Invalid Weight", notNumeric);
     leave();
     ASSERT_EQ(c.Focus(), c.Field(1));
-    EXPECT_EQ(c.Field(1)->selectedText(), QStringLiteral("12.3.4"));
+    EXPECT_EQ(c.Field(1)->selectedText(), "12.3.4");
     EXPECT_EQ(c.Text("txtMonth"), "March, 2026");
   }
   EXPECT_TRUE(opened.isEmpty());
@@ -175,7 +165,7 @@ TEST(FrmData, TheFocusMaySeeAMenuOrAnotherProgramWithoutSaving) {
     QFocusEvent in(QEvent::FocusIn, reason);
     QApplication::sendEvent(c.Field(1), &in);
   }
-  EXPECT_EQ(c.Field(1)->text(), QStringLiteral("abc"));
+  EXPECT_EQ(c.Field(1)->text(), "abc");
   c.Press(Qt::Key_Escape);
   EXPECT_EQ(c.Field(1)->text(), QString());
 }
@@ -190,11 +180,11 @@ TEST(FrmData, SwitchesMonthsAndLeavesNeighboursDaysAlone) {
   EXPECT_EQ(c.Text("txtMonth"), "February, 2026");
   ASSERT_EQ(c.Focus(), c.Field(1));
   EXPECT_EQ(c.Text("txtCurrentDate"), ShortDate(QDate(2026, 2, 1), c.session->locale).toStdString());
-  EXPECT_EQ(c.Field(29)->text(), QStringLiteral("200"));  // the 1st of March, to be seen only
+  EXPECT_EQ(c.Field(29)->text(), "200");  // the 1st of March, to be seen only
   EXPECT_FALSE(c.Field(29)->isEnabled());
   EXPECT_FALSE(c.Field(36)->isVisible());
   c.Click(c.Field(28));
-  EXPECT_EQ(c.Field(28)->selectedText(), QStringLiteral("201"));
+  EXPECT_EQ(c.Field(28)->selectedText(), "201");
   c.Press(Qt::Key_Right);
   ASSERT_EQ(c.Focus(), c.Field(28));
   c.Press(Qt::Key_PageDown);
@@ -214,15 +204,15 @@ TEST(FrmData, DeletesAWeightAfterAsking) {
   c.Open();
   const QString question =
       QStringLiteral("Delete weight recorded for %1?").arg(ShortDate(QDate(2026, 3, 1), c.session->locale));
-  c.session.boxes.Expect(QStringLiteral("Delete Weight?"), question, BoxButton::No);
-  c.form->Commands()[QStringLiteral("mnuEditDeleteWeight")]();
+  c.session.boxes.Expect("Delete Weight?", question, BoxButton::No);
+  c.form->Commands()["mnuEditDeleteWeight"]();
   EXPECT_EQ(c.Weight(QDate(2026, 3, 1)), "201");
-  c.session.boxes.Expect(QStringLiteral("Delete Weight?"), question, BoxButton::Yes);
-  c.form->Commands()[QStringLiteral("mnuEditDeleteWeight")]();
+  c.session.boxes.Expect("Delete Weight?", question, BoxButton::Yes);
+  c.form->Commands()["mnuEditDeleteWeight"]();
   EXPECT_EQ(c.Weight(QDate(2026, 3, 1)), "");
   EXPECT_EQ(c.Field(1)->text(), QString());
   EXPECT_EQ(c.Text("txtLoss(2)"), "0.0");
-  c.form->Commands()[QStringLiteral("mnuEditDeleteWeight")]();  // nothing there: nothing asked
+  c.form->Commands()["mnuEditDeleteWeight"]();  // nothing there: nothing asked
 }
 
 TEST(FrmData, KeepsTheTypedTextWhenTheFileCannotBeWritten) {
@@ -231,12 +221,11 @@ TEST(FrmData, KeepsTheTypedTextWhenTheFileCannotBeWritten) {
   c.session->database.reset();
   c.session->database = Database::OpenReadOnly(c.session->DataFilePath());
   c.Type("195.5");
-  c.session.boxes.Expect(QStringLiteral("Error Saving Data"),
-                         QStringLiteral("An error occurred while saving your data"));
+  c.session.boxes.Expect("Error Saving Data", "An error occurred while saving your data");
   c.Press(Qt::Key_Tab);
   ASSERT_EQ(c.Focus(), c.Field(1));
-  EXPECT_EQ(c.Field(1)->text(), QStringLiteral("195.5"));
-  c.session.boxes.Expect(QStringLiteral("Error Saving Data"), {});
+  EXPECT_EQ(c.Field(1)->text(), "195.5");
+  c.session.boxes.Expect("Error Saving Data", {});
   EXPECT_EQ(c.form->SaveOpenEdit(), EditOutcome::Failed);
   QApplication::processEvents();
   c.form->DropOpenEdit();
@@ -256,27 +245,27 @@ TEST(FrmData, TypesTheDecimalCommaFromTheKeypad) {
   c.Type("93");
   QTest::keyClick(c.Focus(), Qt::Key_Period, Qt::KeypadModifier);
   c.Type("5");
-  EXPECT_EQ(c.Field(1)->text(), QStringLiteral("93,5"));
+  EXPECT_EQ(c.Field(1)->text(), "93,5");
   c.Press(Qt::Key_Tab);
   EXPECT_EQ(c.Weight(QDate(2026, 3, 1)), "93.5");
-  EXPECT_EQ(c.Field(1)->text(), QStringLiteral("93,5"));
+  EXPECT_EQ(c.Field(1)->text(), "93,5");
 }
 
 TEST(FrmData, PastedTextIsTakenWhenItIsANumber) {
   Calendar c;
   c.Open();
-  QGuiApplication::clipboard()->setText(QStringLiteral("  １８２.５\r\n"));
+  QGuiApplication::clipboard()->setText("  １８２.５\r\n");
   c.Field(1)->paste();
   c.Press(Qt::Key_Tab);
   EXPECT_EQ(c.Weight(QDate(2026, 3, 1)), "182.5");
-  EXPECT_EQ(c.Field(1)->text(), QStringLiteral("182.5"));
+  EXPECT_EQ(c.Field(1)->text(), "182.5");
 }
 
 TEST(FrmData, StoresWhatIsShownAtOnce) {
   Calendar c;
   c.Open();
   const auto stored = [&](const char *name) {
-    return c.session->store.GetSettingString(settingsRoot, QString::fromLatin1(name)).toStdString();
+    return c.session->store.GetSettingString(settingsRoot, name).toStdString();
   };
   EXPECT_FALSE(c.Find<QLabel>("txtLoss(3)")->isVisible());
   c.Find<QCheckBox>("chkShowLoss")->click();
@@ -286,7 +275,7 @@ TEST(FrmData, StoresWhatIsShownAtOnce) {
   EXPECT_FALSE(c.Find<QLabel>("txtCalories(3)")->isVisible());
   EXPECT_EQ(stored("ShowCalories"), "0");
   auto *cboNutrientID = c.Find<QComboBox>("cboNutrientID");
-  EXPECT_EQ(cboNutrientID->currentText(), QStringLiteral("Net Calories (kcal)"));
+  EXPECT_EQ(cboNutrientID->currentText(), "Net Calories (kcal)");
   cboNutrientID->setFocus();
   QTest::keyClick(cboNutrientID, Qt::Key_Up);
   EXPECT_EQ(stored("NutrientID"), "101");
@@ -316,12 +305,12 @@ TEST(FrmData, FollowsWhatOthersChangeAndKeepsWhatIsBeingTyped) {
   WeightLog(*c.session).Insert({QDate(2026, 3, 5), 190, -4});
   c.session->settings.LossFactor = -1;
   c.session->settings.ShowLoss = true;
-  c.session.Announce({.table = Table::WeightLoss, .personID = QStringLiteral("1"), .date = QDate(2026, 3, 5)});
+  c.session.Announce({.table = Table::WeightLoss, .personID = "1", .date = QDate(2026, 3, 5)});
   c.session->changes.AnnounceSettings();
-  EXPECT_EQ(c.Field(5)->text(), QStringLiteral("190"));
+  EXPECT_EQ(c.Field(5)->text(), "190");
   EXPECT_EQ(c.Text("txtLoss(5)"), "4.0");
   EXPECT_TRUE(c.Find<QCheckBox>("chkShowLoss")->isChecked());
-  EXPECT_EQ(c.Field(1)->text(), QStringLiteral("19"));
+  EXPECT_EQ(c.Field(1)->text(), "19");
   c.Type("5");
   c.Press(Qt::Key_Tab);
   EXPECT_EQ(c.Weight(QDate(2026, 3, 1)), "195");
@@ -330,7 +319,7 @@ TEST(FrmData, FollowsWhatOthersChangeAndKeepsWhatIsBeingTyped) {
 TEST(FrmData, CongratulatesOnceTheWeightIsSaved) {
   Calendar c;
   WeightLog(*c.session).Insert({QDate(2026, 2, 28), 201, 0});
-  c.session->profile.rewards = {RewardType::Daily, 1, QStringLiteral("Well done"), QStringLiteral("/tada.wav")};
+  c.session->profile.rewards = {RewardType::Daily, 1, "Well done", "/tada.wav"};
   c.Open();
   c.Type("199");
   bool seen = false;
@@ -340,18 +329,18 @@ TEST(FrmData, CongratulatesOnceTheWeightIsSaved) {
     if (!reward || c.session.machine.played.isEmpty()) return;  // nor before its sound
     look.stop();
     seen = true;
-    EXPECT_EQ(reward->windowTitle(), QStringLiteral("Daily Reward"));
-    EXPECT_EQ(reward->findChild<QLabel *>(QStringLiteral("lblRewardLost"))->text(),
-              QStringLiteral("You have lost 2 pounds since you last weighed-in!"));
-    EXPECT_EQ(reward->findChild<QLabel *>(QStringLiteral("lblRewardMessage"))->text(), QStringLiteral("Well done"));
-    EXPECT_EQ(reward->findChild<QLabel *>(QStringLiteral("lblPersonName"))->text(), QStringLiteral("Test Person"));
-    EXPECT_EQ(reward->findChild<QLabel *>(QStringLiteral("lblLbsLeft"))->text(), QStringLiteral("49 pounds to go!"));
+    EXPECT_EQ(reward->windowTitle(), "Daily Reward");
+    EXPECT_EQ(reward->findChild<QLabel *>("lblRewardLost")->text(),
+              "You have lost 2 pounds since you last weighed-in!");
+    EXPECT_EQ(reward->findChild<QLabel *>("lblRewardMessage")->text(), "Well done");
+    EXPECT_EQ(reward->findChild<QLabel *>("lblPersonName")->text(), "Test Person");
+    EXPECT_EQ(reward->findChild<QLabel *>("lblLbsLeft")->text(), "49 pounds to go!");
     QTest::keyClick(reward, Qt::Key_Escape);
   });
   look.start();
   QTest::keyClick(c.Focus(), Qt::Key_Tab);
   ASSERT_TRUE(QTest::qWaitFor([&] { return seen && !QApplication::activeModalWidget(); }, patience));
-  EXPECT_EQ(c.session.machine.played, QStringList(QStringLiteral("/tada.wav")));
+  EXPECT_EQ(c.session.machine.played, QStringList("/tada.wav"));
   c.form->activateWindow();
   ASSERT_TRUE(QTest::qWaitForWindowActive(c.form.get()));
   ASSERT_EQ(c.Focus(), c.Field(2));
@@ -367,7 +356,7 @@ TEST(FrmData, CongratulatesOnceTheWeightIsSaved) {
 TEST(FrmData, ARewardComesBeforeTheQuestionOfWhatWasChosenNext) {
   Calendar c;
   WeightLog(*c.session).Insert({QDate(2026, 2, 28), 201, 0});
-  c.session->profile.rewards = {RewardType::Daily, 1, QStringLiteral("Well done"), {}};
+  c.session->profile.rewards = {RewardType::Daily, 1, "Well done", {}};
   c.Open();
   c.Type("199");
   bool seen = false;
@@ -377,8 +366,8 @@ TEST(FrmData, ARewardComesBeforeTheQuestionOfWhatWasChosenNext) {
     seen = c.session.boxes.Shown().empty();
     reward->close();
   });
-  c.session.boxes.Expect(QStringLiteral("Print Window?"), {}, BoxButton::No);
-  c.form->Commands()[QStringLiteral("mnuFilePrint")]();
+  c.session.boxes.Expect("Print Window?", {}, BoxButton::No);
+  c.form->Commands()["mnuFilePrint"]();
   EXPECT_TRUE(seen);
 }
 
@@ -422,13 +411,12 @@ TEST(FrmData, AMonthMoveIsHeardAsNamesFocusAndFigures) {
   });
   c.Press(Qt::Key_PageDown);
   ASSERT_EQ(c.Focus(), c.Field(4));
-  EXPECT_EQ(last, QStringLiteral("Weight for Saturday, 5/9/2026")) << "all names stand before the focus comes";
+  EXPECT_EQ(last, "Weight for Saturday, 5/9/2026") << "all names stand before the focus comes";
   EXPECT_EQ(later, QString()) << "the figures follow";
-  EXPECT_EQ(c.Field(5)->text(), QStringLiteral("199"));
-  EXPECT_EQ(c.Field(4)->accessibleName(), QStringLiteral("Weight for Wednesday, 4/1/2026"));
-  EXPECT_EQ(c.Find<QWidget>("txtTotal(1)")->accessibleName(),
-            QStringLiteral("Loss in the week from 3/29/2026 to 4/4/2026"));
-  EXPECT_EQ(c.Find<QWidget>("txtTotalMonth")->accessibleName(), QStringLiteral("Loss in April, 2026"));
+  EXPECT_EQ(c.Field(5)->text(), "199");
+  EXPECT_EQ(c.Field(4)->accessibleName(), "Weight for Wednesday, 4/1/2026");
+  EXPECT_EQ(c.Find<QWidget>("txtTotal(1)")->accessibleName(), "Loss in the week from 3/29/2026 to 4/4/2026");
+  EXPECT_EQ(c.Find<QWidget>("txtTotalMonth")->accessibleName(), "Loss in April, 2026");
 }
 
 // The text of the month before must not pass for something typed into the day of the new one.
@@ -439,10 +427,10 @@ TEST(FrmData, AMonthMoveShowsTheWeightOfTheDayItLandsOn) {
   c.Open();
   c.Press(Qt::Key_PageUp);
   ASSERT_EQ(c.Focus(), c.Field(1));
-  EXPECT_EQ(c.Field(1)->selectedText(), QStringLiteral("201"));
+  EXPECT_EQ(c.Field(1)->selectedText(), "201");
   const qint64 before = c.session.Data().Counts().commits;
   c.Press(Qt::Key_PageDown);
-  EXPECT_EQ(c.Field(1)->selectedText(), QStringLiteral("200"));
+  EXPECT_EQ(c.Field(1)->selectedText(), "200");
   EXPECT_EQ(c.session.Data().Counts().commits, before);
 }
 
@@ -453,13 +441,12 @@ TEST(FrmData, FiguresExplainThemselvesAndCarryTheirColours) {
   WeightLog(*c.session).Insert({QDate(2026, 3, 1), 200, 0});
   WeightLog(*c.session).Insert({QDate(2026, 3, 2), 199, 1});
   WeightLog(*c.session).Insert({QDate(2026, 3, 3), 201.5, -2.5});
-  c.session.Data().Execute(QStringLiteral(
+  c.session.Data().Execute(
       "INSERT INTO meals ( PersonID, RecordID, ThisDate, MealTypeID, MealID, Amount, Calories, IsPlanned ) "
-      "SELECT 1, 1, #3/2/2026#, 1, 1, \"1\", 500, 0;"));
+      "SELECT 1, 1, #3/2/2026#, 1, 1, \"1\", 500, 0;");
   c.Open();
-  EXPECT_EQ(c.Find<QLabel>("txtCalories(2)")->toolTip(), QStringLiteral("500 eaten - 0 burned = 500 Cal"));
-  EXPECT_EQ(c.Field(2)->accessibleDescription(),
-            QStringLiteral("Lost 1.0. Net Calories (kcal): 500 eaten - 0 burned = 500 Cal"));
+  EXPECT_EQ(c.Find<QLabel>("txtCalories(2)")->toolTip(), "500 eaten - 0 burned = 500 Cal");
+  EXPECT_EQ(c.Field(2)->accessibleDescription(), "Lost 1.0. Net Calories (kcal): 500 eaten - 0 burned = 500 Cal");
   const auto colour = [&c](const char *name) { return c.Find<QLabel>(name)->palette().color(QPalette::WindowText); };
   EXPECT_EQ(colour("txtLoss(2)"), QColor(0, 128, 0));
   EXPECT_EQ(colour("txtLoss(3)"), QColor(255, 0, 0));
@@ -471,9 +458,7 @@ TEST(FrmData, WeightsGrowWithTheirCellsAndStayUncut) {
   Calendar c;
   c.Open();
   c.Type("1234.56");
-  const auto fits = [&c] {
-    return c.Field(1)->fontMetrics().horizontalAdvance(QStringLiteral("1234.56")) <= c.Field(1)->width() - 4;
-  };
+  const auto fits = [&c] { return c.Field(1)->fontMetrics().horizontalAdvance("1234.56") <= c.Field(1)->width() - 4; };
   EXPECT_TRUE(fits());
   c.Press(Qt::Key_Tab);
   const double before = c.Field(1)->font().pointSizeF();
@@ -509,14 +494,14 @@ TEST(FrmData, IsPrintedWithoutColoursAndButtonsAndComesBackAsItWas) {
   EXPECT_EQ(paper.pixelColor(c.Find<QWidget>("lblGrid(1)")->mapTo(c.form.get(), QPoint(1, 6))), QColor(Qt::white));
   c.form->PrepareForPrinting(false);
   EXPECT_TRUE(c.Find<QToolButton>("cmdToday")->isVisible());
-  EXPECT_EQ(c.Field(1)->text(), QStringLiteral("200"));
+  EXPECT_EQ(c.Field(1)->text(), "200");
   c.Type("5");
-  EXPECT_EQ(c.Field(1)->text(), QStringLiteral("2005"));
+  EXPECT_EQ(c.Field(1)->text(), "2005");
 
-  const QString question = QStringLiteral(
-      "This will print the current calendar month to your default printer.  Would you like to continue?");
-  c.session.boxes.Expect(QStringLiteral("Print Window?"), question, BoxButton::No);
-  c.form->Commands()[QStringLiteral("mnuFilePrint")]();
+  const QString question =
+      "This will print the current calendar month to your default printer.  Would you like to continue?";
+  c.session.boxes.Expect("Print Window?", question, BoxButton::No);
+  c.form->Commands()["mnuFilePrint"]();
   EXPECT_EQ(c.Weight(QDate(2026, 3, 1)), "2005");  // what is printed is saved
   EXPECT_EQ(before.size(), c.form->grab().size());
 }
@@ -526,9 +511,9 @@ TEST(FrmData, OffersACustomNutrientUnderTheNameItWasGiven) {
   c.Open();
   auto *figures = c.Find<QComboBox>("cboNutrientID");
   const int chosen = figures->currentData().toInt();
-  c.session->nutrients.SelectedNutrients[0] = {nutrient_id::firstCustom, QStringLiteral("Caffeine"), true, {}};
+  c.session->nutrients.SelectedNutrients[0] = {nutrient_id::firstCustom, "Caffeine", true, {}};
   c.session.Announce({.table = Table::SelectedNutrients});
-  EXPECT_EQ(figures->itemText(figures->findData(nutrient_id::firstCustom)), QStringLiteral("Caffeine"));
+  EXPECT_EQ(figures->itemText(figures->findData(nutrient_id::firstCustom)), "Caffeine");
   EXPECT_EQ(figures->currentData().toInt(), chosen);
 }
 
@@ -547,7 +532,7 @@ TEST(FrmData, ShowsEverythingUncutAtItsSmallestSize) {
         << name;
   }
   EXPECT_GE(c.Field(1)->height(), c.Field(1)->fontMetrics().height());
-  EXPECT_GE(c.Field(1)->width(), c.Field(1)->fontMetrics().horizontalAdvance(QStringLiteral("188.88")));
+  EXPECT_GE(c.Field(1)->width(), c.Field(1)->fontMetrics().horizontalAdvance("188.88"));
 }
 
 }  // namespace

@@ -1,13 +1,5 @@
 #include "weightlog/windows/rewards_page.h"
 
-#include <gtest/gtest.h>
-
-#include <QGroupBox>
-#include <QLabel>
-#include <QPushButton>
-#include <QRadioButton>
-#include <QTest>
-
 #include "core/windows/controls/choice_combo.h"
 #include "core/windows/setup/frmSetup.h"
 #include "platform/windows/fields/number_field.h"
@@ -28,15 +20,12 @@ class RewardsTabTest : public ::testing::Test {
   }
   template <typename Control>
   Control &The(const char *name) {
-    return Find<Control>(*window, QString::fromLatin1(name));
+    return Find<Control>(*window, name);
   }
   void Choose(const char *option) { The<QRadioButton>(option).click(); }
   void Press(const char *name) { QTest::mouseClick(&The<QPushButton>(name), Qt::LeftButton); }
   std::string Text(const char *field) { return The<QLineEdit>(field).text().toStdString(); }
-  std::string Reward(const char *field) {
-    return session.ValueOf(QString::fromLatin1(field), QStringLiteral("rewards"), QStringLiteral("PersonID=1"))
-        .toStdString();
-  }
+  std::string Reward(const char *field) { return session.ValueOf(field, "rewards", "PersonID=1").toStdString(); }
 
   TestSession session;
   Navigator navigator;
@@ -44,10 +33,10 @@ class RewardsTabTest : public ::testing::Test {
 };
 
 TEST_F(RewardsTabTest, NamesTheProfileWhoseRuleItIs) {
-  session.Data().Execute(QStringLiteral("UPDATE people SET PersonName=\"Tom & Ann\" WHERE PersonID=1;"));
+  session.Data().Execute("UPDATE people SET PersonName=\"Tom & Ann\" WHERE PersonID=1;");
   Open();
-  EXPECT_EQ(The<QGroupBox>("fraRewards").title().toStdString(), "Reward Settings for: Tom && Ann");
-  EXPECT_EQ(The<QLabel>("pnlRewardNote").text().toStdString(),
+  EXPECT_EQ(The<QGroupBox>("fraRewards").title(), "Reward Settings for: Tom && Ann");
+  EXPECT_EQ(The<QLabel>("pnlRewardNote").text(),
             "Note: This setting only affects rewards for Tom & Ann.  To change rewards for someone else, load their "
             "profile from the Profiles menu and return to this window.");
 }
@@ -60,12 +49,12 @@ TEST_F(RewardsTabTest, ChosenTypesStartFromDefaultsAndFollowTheUnits) {
   EXPECT_EQ(Text("txtRewardDaily"), "0.5");
   Choose("optRewardWeight");
   EXPECT_EQ(Text("txtRewardWeight"), "150");
-  EXPECT_EQ(The<QLabel>("lblRewardWeight").text().toStdString(), "lbs.");
+  EXPECT_EQ(The<QLabel>("lblRewardWeight").text(), "lbs.");
   The<ChoiceCombo>("cboUomID").SetValue(2);
   EXPECT_EQ(Text("txtRewardWeekly"), "0.9");
   EXPECT_EQ(Text("txtRewardDaily"), "0.25");
   EXPECT_EQ(Text("txtRewardWeight"), "150");
-  EXPECT_EQ(The<QLabel>("lblRewardDaily").text().toStdString(), "kg.");
+  EXPECT_EQ(The<QLabel>("lblRewardDaily").text(), "kg.");
   The<ChoiceCombo>("cboUomID").SetValue(1);
   EXPECT_EQ(Text("txtRewardWeekly"), "2.0");
 }
@@ -79,7 +68,7 @@ TEST_F(RewardsTabTest, ARuleWrittenInPoundsIsNotRewrittenByOpeningInKilograms) {
 TEST_F(RewardsTabTest, OkStoresTheRuleAndCancelDoesNot) {
   Open();
   Choose("optRewardDaily");
-  The<QLineEdit>("txtRewardMessage").setText(QStringLiteral("Say \"hurray\""));
+  The<QLineEdit>("txtRewardMessage").setText("Say \"hurray\"");
   Press("cmdCancel");
   EXPECT_EQ(Reward("RewardType"), "3");
 
@@ -88,8 +77,8 @@ TEST_F(RewardsTabTest, OkStoresTheRuleAndCancelDoesNot) {
   EXPECT_FALSE(sound.empty());
   Choose("optRewardDaily");
   The<QLineEdit>("txtRewardDaily").clear();
-  QTest::keyClicks(&The<QLineEdit>("txtRewardDaily"), QStringLiteral("1.25"));
-  The<QLineEdit>("txtRewardMessage").setText(QStringLiteral("Say \"hurray\""));
+  QTest::keyClicks(&The<QLineEdit>("txtRewardDaily"), "1.25");
+  The<QLineEdit>("txtRewardMessage").setText("Say \"hurray\"");
   Press("cmdOK");
   EXPECT_EQ(Reward("RewardType"), "2");
   EXPECT_EQ(Reward("RewardWeight"), "1.25");
@@ -100,9 +89,9 @@ TEST_F(RewardsTabTest, OkStoresTheRuleAndCancelDoesNot) {
 
 TEST_F(RewardsTabTest, ABadAmountKeepsTheWindowAndStoresNothing) {
   Open();
-  The<QLineEdit>("txtRewardWeekly").setText(QStringLiteral("lots"));
-  Find<QAbstractButton>(*window, QStringLiteral("chkShowLoss")).setChecked(true);
-  session.boxes.Expect(QStringLiteral("Invalid Reward Amount"), QStringLiteral("positive number"));
+  The<QLineEdit>("txtRewardWeekly").setText("lots");
+  Find<QAbstractButton>(*window, "chkShowLoss").setChecked(true);
+  session.boxes.Expect("Invalid Reward Amount", "positive number");
   Press("cmdOK");
   EXPECT_TRUE(window->isVisible());
   EXPECT_FALSE(session->settings.ShowLoss);
@@ -114,10 +103,10 @@ TEST_F(RewardsTabTest, ABadAmountKeepsTheWindowAndStoresNothing) {
 }
 
 TEST_F(RewardsTabTest, DeletingTheLoadedProfileShowsTheNextOnesRule) {
-  session.AddProfile(2, QStringLiteral("Ann"));
+  session.AddProfile(2, "Ann");
   session.Data().Execute(
-      QStringLiteral("INSERT INTO rewards ( PersonID, RewardType, RewardWeight, RewardMessage, RewardSound ) VALUES ( "
-                     "2, 1, 140, \"Well done, Ann\", \"\" );"));
+      "INSERT INTO rewards ( PersonID, RewardType, RewardWeight, RewardMessage, RewardSound ) VALUES ( "
+      "2, 1, 140, \"Well done, Ann\", \"\" );");
   navigator.LoadData = [this](const QString &personID) {
     session->profile.CurrentPersonID = personID;
     LoadRewardSettings(*session);
@@ -125,40 +114,38 @@ TEST_F(RewardsTabTest, DeletingTheLoadedProfileShowsTheNextOnesRule) {
   };
   Open();
   window->ShowTab(SetupTab::Profiles);
-  session.boxes.Expect(QStringLiteral("Warning: Delete Profile?"), QStringLiteral("this profile"), BoxButton::Yes);
+  session.boxes.Expect("Warning: Delete Profile?", "this profile", BoxButton::Yes);
   Press("cmdDeleteProfile");
   EXPECT_EQ(Text("txtRewardMessage"), "Well done, Ann");
-  EXPECT_EQ(The<QGroupBox>("fraRewards").title().toStdString(), "Reward Settings for: Ann");
+  EXPECT_EQ(The<QGroupBox>("fraRewards").title(), "Reward Settings for: Ann");
   Press("cmdOK");
-  EXPECT_EQ(session.ValueOf(QStringLiteral("RewardWeight"), QStringLiteral("rewards"), QStringLiteral("PersonID=2"))
-                .toStdString(),
-            "140");
+  EXPECT_EQ(session.ValueOf("RewardWeight", "rewards", "PersonID=2"), "140");
 }
 
 TEST_F(RewardsTabTest, BrowseTakesAFileAndCancelledBrowsingKeepsTheOldOne) {
   Open();
   const std::string before = Text("txtRewardSound");
-  session.boxes.ExpectInput(QStringLiteral("Select a Sound File"), std::nullopt);
+  session.boxes.ExpectInput("Select a Sound File", std::nullopt);
   Press("cmdBrowse");
   EXPECT_EQ(Text("txtRewardSound"), before);
-  session.boxes.ExpectInput(QStringLiteral("Select a Sound File"), QStringLiteral("/sounds/bell.wav"));
+  session.boxes.ExpectInput("Select a Sound File", "/sounds/bell.wav");
   Press("cmdBrowse");
   EXPECT_EQ(Text("txtRewardSound"), "/sounds/bell.wav");
 }
 
 TEST_F(RewardsTabTest, TestShowsWhatIsTypedAndStoresNothing) {
   Open();
-  The<QLineEdit>("txtRewardMessage").setText(QStringLiteral("Just trying"));
-  The<QLineEdit>("txtRewardSound").setText(QStringLiteral("/sounds/bell.wav"));
+  The<QLineEdit>("txtRewardMessage").setText("Just trying");
+  The<QLineEdit>("txtRewardSound").setText("/sounds/bell.wav");
   WhenModal([](QWidget &reward) {
-    EXPECT_EQ(reward.objectName().toStdString(), "frmReward");
-    EXPECT_EQ(reward.windowTitle().toStdString(), "Weekly Reward");
-    EXPECT_EQ(Find<QLabel>(reward, QStringLiteral("lblRewardMessage")).text().toStdString(), "Just trying");
-    QTest::mouseClick(&Find<QPushButton>(reward, QStringLiteral("cmdOK")), Qt::LeftButton);
+    EXPECT_EQ(reward.objectName(), "frmReward");
+    EXPECT_EQ(reward.windowTitle(), "Weekly Reward");
+    EXPECT_EQ(Find<QLabel>(reward, "lblRewardMessage").text(), "Just trying");
+    QTest::mouseClick(&Find<QPushButton>(reward, "cmdOK"), Qt::LeftButton);
   });
   Press("cmdTest");
   EXPECT_EQ(session.machine.played.join(u' ').toStdString(), "/sounds/bell.wav");
-  EXPECT_NE(session->profile.rewards.message.toStdString(), "Just trying");
+  EXPECT_NE(session->profile.rewards.message, "Just trying");
   Choose("optRewardNone");
   EXPECT_FALSE(The<QPushButton>("cmdTest").isEnabled());
 }

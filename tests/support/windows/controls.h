@@ -2,11 +2,8 @@
 
 #include <gtest/gtest.h>
 
-#include <QAbstractButton>
-#include <QApplication>
 #include <QTest>
-#include <QTimer>
-#include <QWidget>
+#include <QtWidgets>
 #include <algorithm>
 #include <functional>
 #include <stdexcept>
@@ -19,7 +16,7 @@ Control &Find(QWidget &window, const QString &name) {
   if (auto *found = window.findChild<Control *>(name)) return *found;
   QStringList names;
   for (const QObject *child : window.findChildren<QWidget *>()) {
-    if (!child->objectName().isEmpty() && !child->objectName().startsWith(QStringLiteral("qt_"))) {
+    if (!child->objectName().isEmpty() && !child->objectName().startsWith("qt_")) {
       names.append(child->objectName());
     }
   }
@@ -38,10 +35,12 @@ inline void WaitForPressedButtons() {
   EXPECT_TRUE(QTest::qWaitFor([&] { return std::ranges::none_of(QApplication::allWidgets(), down); }, patience));
 }
 
-/// Acts on the next modal window once it stands, and closes it when the act did not: a test never hangs in exec().
-inline void WhenModal(const std::function<void(QWidget &window)> &act) {
-  QTimer::singleShot(0, qApp, [act] {
+/// Acts on the next modal window once it stands, and closes it when the act did not: a test never hangs in exec(). Some
+/// come a few events later than what opens them.
+inline void WhenModal(const std::function<void(QWidget &window)> &act, int turns = 50) {
+  QTimer::singleShot(0, qApp, [act, turns] {
     QWidget *window = QApplication::activeModalWidget();
+    if (!window && turns > 0) return WhenModal(act, turns - 1);
     if (!window) {
       ADD_FAILURE() << "No modal window came";
       return;
