@@ -143,6 +143,37 @@ TEST_F(FoodPageTest, PercentsOfDailyValuesBecomeAmounts) {
   }
 }
 
+TEST_F(FoodPageTest, EachFailedCommandSaysSoAndKeepsWhatWasTyped) {
+  FoodPage page(*session, 18, nullptr);
+  Show(page);
+  TypeInto(page, "txtMealDesc", "Soup");
+  TypeInto(page, calories, "100");
+  TypeInto(page, fat, "1000000");
+  session.boxes.Expect("Error Calculating Calories", "The calories could not be calculated from these amounts.");
+  Click(page, "cmdCalcCal");
+  EXPECT_EQ(TextOf(page, "txtAddRec0(22)"), "");
+  TypeInto(page, fat, "10");
+  WhenModal([this](QWidget &window) {
+    ASSERT_TRUE(QTest::qWaitForWindowActive(&window));
+    TypeInto(window, "txtAddRec0(0)", "1000000");
+    session.boxes.Expect("Invalid Value", "from 0 to 10000");
+    Click(window, "cmdOK");
+    TypeInto(window, "txtAddRec0(0)", "100");
+    Click(window, "cmdOK");
+  });
+  Click(page, "cmdCalcDV");
+  session.Data().Execute("DROP TABLE meals_list;");
+  session.boxes.Expect("Error Saving Food", "An error occurred while saving this food.  ");
+  EXPECT_FALSE(page.Store());
+  EXPECT_EQ(TextOf(page, "txtMealDesc"), "Soup");
+  FoodPage stored(*session, FoodRecord{.MealID = 1, .MealDesc = "Changed"}, nullptr);
+  session.boxes.Expect("Error Saving Food", "An error occurred while saving this food.  ");
+  EXPECT_FALSE(stored.Store());
+  for (const char *procedure : {"frmAddRec, cmdCalcCal_Click", "basMain, AddRec"}) {
+    EXPECT_TRUE(session.Logged(procedure)) << procedure;
+  }
+}
+
 class GermanFoodPageTest : public FoodWindowTest {
  protected:
   GermanFoodPageTest() : FoodWindowTest(QLocale(QLocale::German, QLocale::Germany)) {}

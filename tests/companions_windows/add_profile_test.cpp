@@ -66,6 +66,18 @@ TEST_F(AddProfile, SaysWhatIsWrongAndGoesThere) {
             "an\"n|se\"cret|140|1996-03-02");
 }
 
+TEST_F(AddProfile, AFailureSaysSoAndKeepsWhatWasTyped) {
+  EXPECT_FALSE(Add([&](QWidget &dialog, Keyboard &keys) {
+    session.Data().Execute("ALTER TABLE people RENAME COLUMN HeightFeet TO Hidden;");
+    session.boxes.Expect("Error Adding Profile", "An error occurred while adding this profile.  ");
+    keys.FillStep({"Ann", "150", "5", "6"});
+    EXPECT_TRUE(dialog.isVisible());
+    EXPECT_EQ(TextOf(dialog, "txtPersonName"), "Ann");
+  }));
+  EXPECT_TRUE(session.Logged("basMain, AddRec, "));
+  EXPECT_EQ(Count("people", "PersonID > 0"), "1");
+}
+
 TEST_F(AddProfile, EscapeAddsNothing) {
   EXPECT_FALSE(Add([&](QWidget &, Keyboard &keys) {
     keys.Type("Ann");

@@ -334,6 +334,15 @@ TEST_F(FirstRun, AFailedFinishLeavesTheWizardOpenAndTheFileAsItWas) {
     keys.Alt(Qt::Key_B);
     keys.Enter();
     keys.Enter();
+    session.Data().Execute("ALTER TABLE temp_meals_search RENAME TO gone_too;");
+    keys.Alt(Qt::Key_B);
+    GoToCell(wizard, 12, targetColumn);
+    keys.Type("42");
+    session.boxes.Expect("Your Nutrient Selections", "An error occurred while saving the nutrients.  ");
+    EXPECT_FALSE(Grid(wizard).CommitRow());
+    Grid(wizard).UndoRow();
+    session.Data().Execute("ALTER TABLE gone_too RENAME TO temp_meals_search;");
+    keys.Enter();
     session.Data().Execute("ALTER TABLE selected_nutrients RENAME TO gone;");
     session.boxes.Expect("Error Saving Profile", "An error occurred while saving your profile.");
     keys.Enter();
@@ -343,6 +352,9 @@ TEST_F(FirstRun, AFailedFinishLeavesTheWizardOpenAndTheFileAsItWas) {
     keys.Enter();
   });
   EXPECT_EQ(Person("PersonName", 1), "Test Person");
+  for (const char *procedure : {"FillWizardNutrients", "grdNutrients_AfterUpdate", "cmdNext_Click"}) {
+    EXPECT_TRUE(session.Logged(QStringLiteral("frmWizard, ") + procedure)) << procedure;
+  }
 }
 
 /// The access keys that a person sees on a page.

@@ -1,5 +1,6 @@
 #include "core/windows/controls/figure_field.h"
-#include "support/windows/controls.h"
+
+#include <gtest/gtest.h>
 
 namespace trimlog {
 namespace {

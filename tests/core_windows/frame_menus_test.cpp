@@ -1,8 +1,10 @@
 #include "core/windows/frame/frame_menus.h"
 
+#include "core/session/calculator.h"
 #include "core/session/product.h"
 #include "frame_fixture.h"
 #include "platform/windows/grid/bound_grid.h"
+#include "support/windows/controls.h"
 
 namespace trimlog {
 namespace {
@@ -158,6 +160,25 @@ TEST_F(FrameCommandsTest, PagesOfTheWebAndTheDoorWithADate) {
   nowhere("frmDiary");
 }
 
+TEST_F(FrameCommandsTest, TheRestOfTheEntriesDoWhatTheySay) {
+  session->profile.CurrentPersonID = "-1";
+  Load();
+  const auto weights = [this] { return session.Rows("SELECT Count(*) AS N FROM weight_loss WHERE PersonID=-1;"); };
+  const QString before = weights();
+  session.Data().Execute("DELETE weight_loss.* FROM weight_loss WHERE PersonID=-1;");
+  for (const BoxButton answer : {BoxButton::No, BoxButton::Yes}) {
+    session.boxes.Expect("Reset Sample Profile", "Reset all data for this sample profile?", answer);
+    Choose("mnuEditReset");
+    EXPECT_EQ(weights(), answer == BoxButton::Yes ? before : "0");
+  }
+  EXPECT_TRUE(behaviour.calls.contains("frmData:made")) << "the calendar shows what is there again";
+  bool about = false;
+  WhenModal([&about](QWidget &window) { about = window.objectName() == "frmSplash"; });
+  Choose("mnuHelpAbout");
+  EXPECT_TRUE(about);
+  EXPECT_EQ(Action("mnuToolsCalculator")->isEnabled(), !FindCalculator().isEmpty());
+}
+
 TEST_F(FrameCommandsTest, ReachTheContentWindow) {
   Load();
   QString calls;
@@ -173,16 +194,22 @@ TEST_F(FrameCommandsTest, EditActsOnTheFieldThatLastHadTheFocus) {
   auto *first = Find<QLineEdit>("txtData(1)");
   auto *second = Find<QLineEdit>("txtData(2)");
   first->setText("182");
-  second->setText("181");
   second->setFocus();
-  second->selectAll();
+  QTest::keyClicks(second, "181");
   QApplication::clipboard()->setText("180");
-  QMetaObject::invokeMethod(Action("mnuEdit")->menu(), "aboutToShow");
-  Choose("mnuEditPaste");
-  EXPECT_EQ(second->text(), "180");
+  for (const auto &[entry, text, copied] : {std::tuple{"mnuEditCopy", "181", "181"},
+                                            {"mnuEditCut", "", "181"},
+                                            {"mnuEditUndo", "181", "181"},
+                                            {"mnuEditPaste", "181181", "181"}}) {
+    if (QString(entry) != "mnuEditPaste") second->selectAll();
+    if (QString(entry) == "mnuEditPaste") second->end(false);
+    QMetaObject::invokeMethod(Action("mnuEdit")->menu(), "aboutToShow");
+    Choose(entry);
+    EXPECT_EQ(second->text(), text) << entry;
+    EXPECT_EQ(QApplication::clipboard()->text(), copied) << entry;
+  }
   EXPECT_EQ(first->text(), "182");
 }
-
 TEST_F(FrameCommandsTest, RowCommandsActOnTheGridInUse) {
   Load();
   session.AddProfile(2, "Bob");
@@ -202,6 +229,13 @@ TEST_F(FrameCommandsTest, RowCommandsActOnTheGridInUse) {
   ASSERT_EQ(session->windows.rowClipboard.rows.size(), 1);
   Choose("mnuEditCopyRowExternal");
   EXPECT_EQ(QApplication::clipboard()->text(), "Bob");
+  bool pasted = false;
+  grid->Hooks().pasteRows = [&pasted](const GridClipboard &) { return pasted = true, std::vector<qint64>{}; };
+  Choose("mnuEditPasteRow");
+  EXPECT_TRUE(pasted);
+  grid->Model().setData(grid->Model().index(grid->Model().RowOfKey(2), 0), "Bo");
+  Choose("mnuEditUndoRow");
+  EXPECT_FALSE(grid->Model().IsChanging());
   Choose("mnuEditDeleteRow");
   EXPECT_EQ(session.ValueOf("PersonName", "people", "PersonID=2"), QString());
 }

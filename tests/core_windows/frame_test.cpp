@@ -334,6 +334,27 @@ TEST_F(Frame, ResettingWeightsLoadsTheProfileThatWasReset) {
     EXPECT_EQ(session->profile.CurrentPersonID, sure ? "1" : "2");
   }
 }
+TEST_F(Frame, EachProfileCommandThatFailsSaysSo) {
+  session.AddProfile(2, "Bob");
+  bool broken = false;
+  hooks.LoadRewardSettings = [&broken] {
+    if (broken) throw Error(error_number::other, "broken");
+  };
+  navigator.AddProfile = [](QWidget *) -> bool { throw Error(error_number::other, "broken"); };
+  navigator.OpenSetup = [](SetupTab) { throw Error(error_number::other, "broken"); };
+  Load();
+  broken = true;
+  for (const auto &[entry, title, text] :
+       {std::tuple{"Bob", "Error Loading Data", "An error occurred while loading the data for this profile."},
+        {"&Create a New Profile...", "Error Loading Data", "An error occurred while loading the data"},
+        {"&Edit Profiles...", "", "An error occurred while carrying out this command."}}) {
+    const qsizetype lines = session.LogLines().size();
+    session.boxes.Expect(title, text);
+    ProfileEntry(entry)->trigger();
+    EXPECT_EQ(session.LogLines().size(), lines + 1) << entry;
+  }
+}
+
 TEST_F(Frame, ALoadThatFailsSaysSoAndIsLogged) {
   forms.insert("frmData", [](QWidget *) -> ContentWindow * { throw Error(error_number::other, "broken"); });
   session.boxes.Expect("Error Loading Program", "An error occurred while loading the program.");

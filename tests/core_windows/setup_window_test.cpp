@@ -390,6 +390,32 @@ TEST_F(SetupWindow, EveryListHasALabelThatTellsIt) {
   EXPECT_EQ(told.size(), told.removeDuplicates() + told.size()) << "two lists sound alike";
 }
 
+TEST_F(SetupWindow, EachFailedCommandSaysSoAndIsLogged) {
+  const auto expect = [this](const char *title, const char *text) { session.boxes.Expect(title, text); };
+  session.AddProfile(2, "Ann");
+  Open(SetupTab::Profiles);
+  TypeCell("PersonName", "Bo");
+  session.Data().Execute("ALTER TABLE people RENAME COLUMN PersonName TO Hidden;");
+  expect("Error Saving Data", "An error occurred while saving the profile.  ");
+  EXPECT_FALSE(The<BoundGrid>("grdPeople").CommitRow());
+  session.Data().Execute("ALTER TABLE people RENAME COLUMN Hidden TO PersonName;");
+  The<BoundGrid>("grdPeople").UndoRow();
+  The<BoundGrid>("grdPeople").GoToKey(2);
+  session.Data().Execute("CREATE TABLE kept ( PersonID LONG REFERENCES people ( PersonID ) );");
+  session.Data().Execute("INSERT INTO kept ( PersonID ) VALUES ( 2 );");
+  session.boxes.Expect("Warning: Delete Profile?", "", BoxButton::Yes);
+  expect("Error Deleting Profile", "An error occurred while deleting the profile.  ");
+  Press("cmdDeleteProfile");
+  EXPECT_EQ(Person("PersonName", 2), "Ann");
+  window.reset();
+  session.Data().Execute("ALTER TABLE people RENAME TO gone;");
+  expect("Error Loading Setup Info", "An error occurred while loading your setup information.");
+  Open(SetupTab::Profiles);
+  for (const char *procedure : {"grdPeople_AfterUpdate", "cmdDeleteProfile_Click", "Form_Load"}) {
+    EXPECT_TRUE(session.Logged(QStringLiteral("frmSetup, ") + procedure)) << procedure;
+  }
+}
+
 TEST_F(SetupWindow, WindowsGoBackToTheirPlace) {
   Open(SetupTab::Other);
   Press("cmdResetMain");

@@ -1,7 +1,7 @@
 #include "core/windows/controls/theme.h"
-#include "support/windows/controls.h"
 
 #include "core/windows/controls/theme_style.h"
+#include "support/windows/controls.h"
 
 namespace trimlog {
 namespace {

@@ -1,5 +1,7 @@
 #pragma once
 
+#include <QAbstractItemModelTester>
+
 #include "platform/store/column_types.h"
 #include "platform/store/recordset.h"
 #include "platform/windows/grid/bound_grid.h"
