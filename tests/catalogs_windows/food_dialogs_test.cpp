@@ -166,7 +166,10 @@ TEST_F(FoodPageTest, EachFailedCommandSaysSoAndKeepsWhatWasTyped) {
   session.boxes.Expect("Error Saving Food", "An error occurred while saving this food.  ");
   EXPECT_FALSE(page.Store());
   EXPECT_EQ(TextOf(page, "txtMealDesc"), "Soup");
-  FoodPage stored(*session, FoodRecord{.MealID = 1, .MealDesc = "Changed"}, nullptr);
+  FoodRecord changed;
+  changed.MealID = 1;
+  changed.MealDesc = "Changed";
+  FoodPage stored(*session, changed, nullptr);
   session.boxes.Expect("Error Saving Food", "An error occurred while saving this food.  ");
   EXPECT_FALSE(stored.Store());
   for (const char *procedure : {"frmAddRec, cmdCalcCal_Click", "basMain, AddRec"}) {
