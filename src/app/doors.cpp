@@ -4,6 +4,8 @@
 #include <QFile>
 
 #include "catalogs/windows/frmAddActivity.h"
+#include "catalogs/windows/frmAddMeal.h"
+#include "catalogs/windows/frmNutTargets.h"
 #include "catalogs/windows/frmSelectedNutrients.h"
 #include "catalogs/windows/frmSetupFoods.h"
 #include "companions/windows/frmWizard.h"
@@ -55,6 +57,9 @@ void Program::FillNavigator() {
   navigator_.ResetQuickJournal = [this] { trimlog::ResetQuickJournal(frame_.get()); };
   navigator_.OpenNutrientSelection = [this](QWidget *owner) {
     trimlog::OpenNutrientSelection(session_, navigator_, owner ? owner : frame_.get());
+  };
+  navigator_.OpenTargets = [this](QWidget *owner) {
+    OpenNutTargets(session_, navigator_, owner ? owner : frame_.get());
   };
   navigator_.StartWiz = [this](bool force) {
     QWidget *above = QApplication::activeModalWidget();  // the options can start it too

@@ -9,6 +9,7 @@
 
 namespace trimlog {
 
+inline constexpr int groupOfNewFoods = 18;          ///< where none is chosen
 inline constexpr int foodTextLength = 255;          ///< of a description and of a serving
 inline constexpr double highestNutrient = 1000000;  ///< what the grids and the food page take
 inline constexpr int highestNetCarbs = 32767;       ///< net carbs are kept in 16 bits

@@ -18,6 +18,7 @@ inline constexpr int recipe = 3;
 /// Keys of the lists of foods; a list of one kind of row has that kind as its key.
 namespace food_list {
 inline constexpr int all = -1;
+inline constexpr int ownWithRecipes = -2;
 inline constexpr int recent = -3;
 }  // namespace food_list
 
@@ -33,6 +34,9 @@ struct FoodListKind {
   QList<FoodList> lists;
   QList<int> never;         ///< kinds of row that no list and no search shows
   QList<GridOrder> byName;  ///< the order called "Food Description"
+  /// Foods are picked from these lists, not looked after: no row can be changed, a text can be found in the list, and
+  /// looking at the recent foods writes nothing.
+  bool forPicking = false;
 
   /// The list with a key; the first one when there is none.
   const FoodList &ListOf(int key) const;
@@ -40,5 +44,8 @@ struct FoodListKind {
 
 /// The catalog itself: what the person may keep, copy and change, and no recipes.
 const FoodListKind &SetupFoodLists();
+/// What can be picked for a day or, without the recipes, for a recipe: the person's own foods before the pre-loaded
+/// ones. In the business edition the own foods are called "Custom", since an administrator keeps them for many.
+const FoodListKind &PickedFoodLists(bool recipesOffered, bool businessEdition);
 
 }  // namespace trimlog

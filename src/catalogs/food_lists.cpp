@@ -11,8 +11,10 @@ const QString separatorText = QStringLiteral("----------------------------------
 constexpr int recentDays = 14;
 constexpr int letters = 26;
 
-QList<GridOrder> OrderOf(const FoodListKind &kind, const QString &sort) {
-  if (sort == byFoodName) return kind.byName;
+/// The recent foods are few: by name they stand without regard to whose they are.
+QList<GridOrder> OrderOf(const FoodListKind &kind, int list, const QString &sort) {
+  if (sort == byFoodName && list != food_list::recent) return kind.byName;
+  if (sort == byFoodName) return {{QStringLiteral("MealDesc")}};
   const bool highest = sort.startsWith(QLatin1Char('-'));
   const GridOrder first{highest ? sort.mid(1) : sort, highest};
   const GridOrder name{QStringLiteral("MealDesc")};
@@ -31,6 +33,8 @@ QString OtherRowsThan(const QList<int> &kinds) {
   for (const int kind : kinds) conditions.append(QStringLiteral("((meals_list.RecordTypeID) <> %1)").arg(kind));
   return conditions.join(QStringLiteral(" AND "));
 }
+
+QDate FirstRecentDay(const Session &session) { return session.Today().addDays(1 - recentDays); }
 
 void AppendSorts(QList<FoodSortChoice> &choices, const Nutrients &nutrients, bool highest) {
   for (const SelectedNutrient &position : nutrients.SelectedNutrients) {
@@ -66,6 +70,15 @@ QList<FoodSortChoice> FoodSortChoices(const Nutrients &nutrients) {
   return choices;
 }
 
+FoodSelection FirstSelection(const FoodListKind &kind, const Session &session) {
+  FoodSelection selection;
+  selection.list = kind.ListOf(session.settings.LastRecordTypeMeals).key;
+  for (const FoodSortChoice &sort : FoodSortChoices(session.nutrients)) {
+    if (sort.key == session.windows.pickedFoodSort && !sort.IsSeparator()) selection.sort = sort.key;
+  }
+  return selection;
+}
+
 GridSource ListedFoods(const FoodListKind &kind) {
   GridSource source{.table = QStringLiteral("meals_list"), .key = QStringLiteral("MealID")};
   source.where = OtherRowsThan(kind.never);
@@ -76,8 +89,9 @@ GridSource ListedFoods(const FoodListKind &kind) {
 
 GridSource FoodListSource(const FoodListKind &kind, const FoodSelection &selection) {
   GridSource source = ListedFoods(kind);
-  source.order = OrderOf(kind, selection.sort);
+  source.order = OrderOf(kind, selection.list, selection.sort);
   if (selection.list == food_list::recent) {
+    if (kind.forPicking) return source;
     source.from =
         QStringLiteral("meals_list INNER JOIN temp_recent_meals ON meals_list.MealID = temp_recent_meals.MealID");
     return source;
@@ -110,6 +124,20 @@ FoodSelection SelectionHolding(const FoodRecord &food, const FoodSelection &pres
   return holding;
 }
 
+GridSource PrepareFoodList(Session &session, const FoodListKind &kind, const FoodSelection &selection) {
+  GridSource source = FoodListSource(kind, selection);
+  if (selection.list != food_list::recent) return source;
+  if (!kind.forPicking) {
+    FillRecentFoods(session);
+    return source;
+  }
+  source.where += QStringLiteral(
+      " AND (meals_list.MealID IN (SELECT meals.MealID FROM meals "
+      "WHERE ((meals.PersonID) = ?) AND ((meals.ThisDate) >= ?)))");
+  source.params << session.profile.CurrentPersonID.toInt() << FirstRecentDay(session);
+  return source;
+}
+
 void FillRecentFoods(Session &session) {
   Database &database = session.Data();
   Transaction transaction(database);
@@ -118,7 +146,7 @@ void FillRecentFoods(Session &session) {
   }
   database.Execute(QStringLiteral("SELECT DISTINCT meals.MealID INTO temp_recent_meals From meals "
                                   "WHERE (((meals.ThisDate)>=") +
-                   SQLDate(session.Today().addDays(1 - recentDays)) + QStringLiteral(") AND ((meals.PersonID)=") +
+                   SQLDate(FirstRecentDay(session)) + QStringLiteral(") AND ((meals.PersonID)=") +
                    session.profile.CurrentPersonID + QStringLiteral("));"));
   transaction.Commit();
 }
@@ -132,12 +160,15 @@ QString FoodsDisplayedHeading(int count, bool groupShown) {
   return beforeCount + QStringLiteral("%1 Foods Displayed").arg(count);
 }
 
-QList<GridStatement> AlphabetCriteria(QChar letter) {
+QList<GridStatement> AlphabetCriteria(const FoodListKind &kind, int list, QChar letter) {
+  const bool ownStandFirst = kind.forPicking && list == food_list::all;
+  const QString criterion = QStringLiteral("UCase(Left(MealDesc, 1))= ?");
   QList<GridStatement> criteria;
   for (int step = 0; step < letters; ++step) {
     const QChar tried(letter.toUpper().unicode() + step);
     if (tried > QLatin1Char('Z')) break;
-    criteria.append({QStringLiteral("UCase(Left(MealDesc, 1))= ?"), {QString(tried)}});
+    criteria.append(
+        {ownStandFirst ? criterion + QStringLiteral(" AND RecordTypeID = 1") : criterion, {QString(tried)}});
   }
   return criteria;
 }
@@ -147,13 +178,20 @@ QString PrintedFoodListTitle(const QString &listName, const QString &groupName) 
          groupName;
 }
 
-QString EmptyListHint(const FoodSelection &selection) {
+QString EmptyListHint(const FoodListKind &kind, const FoodSelection &selection) {
   if (selection.list == food_list::recent) {
-    return QStringLiteral("You have eaten and planned nothing in the last %1 days.").arg(recentDays);
+    const QString hint = QStringLiteral("You have eaten and planned nothing in the last %1 days.").arg(recentDays);
+    return kind.forPicking ? hint + QStringLiteral("\nChoose another list above.") : hint;
   }
-  if (selection.list == food_kind::myFoods && selection.group == allFoodGroups) {
-    return QStringLiteral(
-        "Here stand the foods of your own.\nClick New to make one, or choose a pre-loaded food and click Copy Food.");
+  const bool wholeList = selection.group == allFoodGroups;
+  if (selection.list == food_kind::recipe && wholeList) {
+    return QStringLiteral("You have no recipes yet.\nChoose another list above.");
+  }
+  if ((selection.list == food_kind::myFoods || selection.list == food_list::ownWithRecipes) && wholeList) {
+    return kind.forPicking ? QStringLiteral("Here stand the foods of your own.\nClick New Food to make one.")
+                           : QStringLiteral(
+                                 "Here stand the foods of your own.\nClick New to make one, or choose a "
+                                 "pre-loaded food and click Copy Food.");
   }
   return QStringLiteral("No food of this list is in this group.\nChoose another list or group above.");
 }

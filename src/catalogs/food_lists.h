@@ -37,10 +37,15 @@ struct FoodSelection {
   QString sort = byFoodName;
 };
 
+/// What a picker of foods opens with: the list and the order of last time, as far as they are there.
+FoodSelection FirstSelection(const FoodListKind &kind, const Session &session);
+
 /// All rows that a window may show, by name.
 GridSource ListedFoods(const FoodListKind &kind);
 /// The rows of a selection, in order. For the recent foods, FillRecentFoods must have run.
 GridSource FoodListSource(const FoodListKind &kind, const FoodSelection &selection);
+/// The same, with what was eaten lately looked up where the selection asks for it.
+GridSource PrepareFoodList(Session &session, const FoodListKind &kind, const FoodSelection &selection);
 /// The key of the order in which the rows of a source stand: one of the sort box where it offers that order.
 QString SortKeyOf(const FoodListKind &kind, const GridSource &source);
 /// The selection that shows a food, as near to the present one as can be.
@@ -54,10 +59,11 @@ void FillRecentFoods(Session &session);
 QString FoodsDisplayedHeading(int count, bool groupShown);
 
 /// The letter, or the next one behind it, that begins a food of the list: a criterion for each, in the order to try.
-QList<GridStatement> AlphabetCriteria(QChar letter);
+/// Where a list of all foods begins with the person's own, the jump goes to the pre-loaded ones behind them.
+QList<GridStatement> AlphabetCriteria(const FoodListKind &kind, int list, QChar letter);
 
 /// What a list without foods says.
-QString EmptyListHint(const FoodSelection &selection);
+QString EmptyListHint(const FoodListKind &kind, const FoodSelection &selection);
 /// The heading of a printed list.
 QString PrintedFoodListTitle(const QString &listName, const QString &groupName);
 

@@ -33,6 +33,7 @@ QString FoodSearchText(const QString &typed) { return QString(typed).remove(QLat
 
 GridSource FoodSearchSource(const FoodListKind &kind, const QString &text) {
   GridSource source = ListedFoods(kind);
+  source.order = {{QStringLiteral("MealDesc")}};
   source.orderAs.clear();  // few are found: to sort them costs less than to walk all names in the order of an index
   const std::optional<QStringList> words = DecidingWords(text);
   if (!words || words->isEmpty()) {

@@ -1,6 +1,7 @@
 #include "companions/wizard_finish.h"
 
 #include "catalogs/nutrient_selection.h"
+#include "catalogs/target_sets.h"
 #include "companions/wizard_nutrients.h"
 #include "core/data/data_access.h"
 #include "core/profiles/colour_scheme.h"
@@ -14,7 +15,6 @@ namespace trimlog {
 
 namespace {
 
-constexpr int userTargetType = 4;  // beside 1 labels, 2 recommended allowances, 3 example diets
 constexpr int lastNumberedTargetSet = 10;
 
 void InsertFirstWeight(Session &session, const WizardAnswers &answers, const QString &personID) {

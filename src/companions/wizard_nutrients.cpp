@@ -1,12 +1,10 @@
 #include "companions/wizard_nutrients.h"
 
-#include <cmath>
-#include <limits>
 #include <map>
 
 #include "catalogs/nutrient_selection.h"
+#include "catalogs/target_sets.h"
 #include "core/data/data_access.h"
-#include "core/data/schema.h"
 #include "health/body_formulas.h"
 #include "platform/store/recordset.h"
 #include "platform/text/rounding.h"
@@ -16,7 +14,6 @@ namespace trimlog {
 
 namespace {
 
-constexpr double mostTellable = 9999999;  // the rest can hold more than anybody means
 const QString atkins = QStringLiteral("101");
 const QString zone = QStringLiteral("102");
 const QString lowCarb = QStringLiteral("103");
@@ -42,16 +39,6 @@ const std::map<QString, std::map<int, QString>> &OwnTargets() {
       {lowCarb, {{2, QStringLiteral("50")}, {4, QStringLiteral("120")}}},
   };
   return targets;
-}
-
-/// What the nutrient's column of a target set can hold.
-double LargestTarget(const QString &fieldName) {
-  for (const SchemaColumn &column : FindSchemaTable(QStringLiteral("nutrition_targets")).columns) {
-    if (column.name != fieldName) continue;
-    if (column.type == ColumnType::Byte) return std::numeric_limits<quint8>::max();
-    if (column.type == ColumnType::Integer) return std::numeric_limits<qint16>::max();
-  }
-  return mostTellable;
 }
 
 QString RecommendedTarget(Session &session, const WizardAnswers &answers, int nutrientID, const QString &fieldName) {
@@ -161,11 +148,7 @@ QString RefusedTarget(const QString &typed, const QLocale &locale) {
 }
 
 QString RefusedTargetOf(const Session &session, int nutrientID, const QString &typed) {
-  const std::optional<double> number = ParseNumber(typed, session.locale);
-  if (!number) return {};
-  const double largest = LargestTarget(Definition(session.nutrients, nutrientID).fieldName);
-  if (std::round(*number) <= largest) return {};
-  return QStringLiteral("Please type a number from 0 to %1.").arg(largest, 0, 'f', 0);
+  return RefusedTargetField(session, nutrientID, typed);
 }
 
 void MatchTickAndTarget(GridRowEdit &row) {

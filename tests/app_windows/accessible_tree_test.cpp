@@ -2,7 +2,9 @@
 
 #include "catalogs/windows/exercise_page.h"
 #include "catalogs/windows/frmAddActivity.h"
+#include "catalogs/windows/frmAddMeal.h"
 #include "catalogs/windows/frmDailyValues.h"
+#include "catalogs/windows/frmNutTargets.h"
 #include "catalogs/windows/frmSelectedNutrients.h"
 #include "catalogs/windows/frmSetupFoods.h"
 #include "companions/windows/frmWizard.h"
@@ -123,6 +125,18 @@ const Room rooms[] = {
        return std::make_unique<frmDailyValues>(*house.session, nullptr);
      }},
     {"frmWizard", [](House &house) -> std::unique_ptr<QWidget> {
+    {"frmAddMeal",
+     [](House &house) -> std::unique_ptr<QWidget> {
+       return std::make_unique<frmAddMeal>(
+           *house.session, house.navigator,
+           FoodPicking{.caption = QStringLiteral("Add"), .header = QStringLiteral("Foods"), .add = {}}, nullptr);
+     }},
+    {"frmNutTargets",
+     [](House &house) -> std::unique_ptr<QWidget> {
+       return std::make_unique<frmNutTargets>(*house.session, house.navigator, nullptr);
+     }},
+    {"frmWizard",
+     [](House &house) -> std::unique_ptr<QWidget> {
        auto wizard = std::make_unique<frmWizard>(*house.session, house.navigator, WizardMode::AddingProfile, nullptr);
        wizard->Form_Load();
        return wizard;

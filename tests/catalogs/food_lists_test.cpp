@@ -159,7 +159,7 @@ TEST_F(FoodLists, AnyNumberOfSearchWordsHasAnAnswer) {
 TEST_F(FoodLists, TheAlphabetGoesOnToTheNextLetter) {
   const auto letters = [](char first) {
     QString tried;
-    for (const GridStatement &criterion : AlphabetCriteria(QLatin1Char(first))) {
+    for (const GridStatement &criterion : AlphabetCriteria(SetupFoodLists(), food_list::all, QLatin1Char(first))) {
       tried += criterion.params.first().toString();
     }
     return tried;
@@ -173,10 +173,10 @@ TEST_F(FoodLists, HeadingsAndHints) {
   EXPECT_EQ(FoodsDisplayedHeading(2, false), "Food Description" + QString(85, ' ') + "2 Foods Displayed");
   EXPECT_EQ(PrintedFoodListTitle("My Foods", "Fish"), "Food List: My Foods     Food Group: Fish");
   EXPECT_EQ(PrintedSearchTitle("cheese"), "Food Search Results for: cheese");
-  EXPECT_TRUE(EmptyListHint({.list = food_list::recent}).contains("14 days"));
-  EXPECT_TRUE(EmptyListHint({.list = food_kind::myFoods}).contains("New"));
+  EXPECT_TRUE(EmptyListHint(SetupFoodLists(), {.list = food_list::recent}).contains("14 days"));
+  EXPECT_TRUE(EmptyListHint(SetupFoodLists(), {.list = food_kind::myFoods}).contains("New"));
   for (const FoodSelection &elsewhere : {FoodSelection{.list = food_kind::myFoods, .group = 7}, FoodSelection{}}) {
-    EXPECT_TRUE(EmptyListHint(elsewhere).contains("group"));
+    EXPECT_TRUE(EmptyListHint(SetupFoodLists(), elsewhere).contains("group"));
   }
 }
 

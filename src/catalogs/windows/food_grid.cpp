@@ -9,6 +9,24 @@
 
 namespace trimlog {
 
+namespace {
+
+/// What the person may change, and what is asked before.
+void AllowChanges(BoundGrid &grid, Session &session) {
+  GridHooks &hooks = grid.Hooks();
+  hooks.isReadOnly = IsPreLoadedFood;
+  hooks.beforeUpdate = [&session](GridRowEdit &row) { return PrepareEditedFood(session.nutrients, row); };
+  hooks.beforeDelete = [&session](const std::vector<qint64> &keys) { return ConfirmDeleteFoods(session, keys); };
+  hooks.withDelete = [&session](const std::vector<qint64> &) {
+    Change change(session);
+    change.Announce({.table = Table::Meals});  // the entries of these foods went along
+    change.Commit();
+  };
+  hooks.pasteRows = [&session](const GridClipboard &clipboard) { return PasteFoods(session, clipboard.rows); };
+}
+
+}  // namespace
+
 BoundGrid *MakeFoodGrid(const FoodGridNames &names, Session &session, QWidget *parent) {
   auto *grid = new BoundGrid(names.grid, names.label, session.locale, parent);
   grid->recordSource = QStringLiteral("datMealsList");
@@ -21,15 +39,12 @@ BoundGrid *MakeFoodGrid(const FoodGridNames &names, Session &session, QWidget *p
   hooks.guard = [&session, procedure = names.loadProcedure](GridAction action, const std::function<void()> &work) {
     return Guarded(session, FoodGridFailure(action, procedure), work);
   };
-  hooks.isReadOnly = IsPreLoadedFood;
-  hooks.beforeUpdate = [&session](GridRowEdit &row) { return PrepareEditedFood(session.nutrients, row); };
-  hooks.beforeDelete = [&session](const std::vector<qint64> &keys) { return ConfirmDeleteFoods(session, keys); };
-  hooks.withDelete = [&session](const std::vector<qint64> &) {
-    Change change(session);
-    change.Announce({.table = Table::Meals});  // the entries of these foods went along
-    change.Commit();
-  };
-  hooks.pasteRows = [&session](const GridClipboard &clipboard) { return PasteFoods(session, clipboard.rows); };
+  if (names.forPicking) {
+    grid->canDelete = false;
+    hooks.isReadOnly = [](const auto &) { return true; };
+  } else {
+    AllowChanges(*grid, session);
+  }
   FollowTable(*grid, session, Table::MealsList);
   return grid;
 }

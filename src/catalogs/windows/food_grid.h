@@ -5,15 +5,16 @@
 
 namespace trimlog {
 
-/// What tells the two food grids apart.
+/// What tells the food grids apart.
 struct FoodGridNames {
-  QString grid;           ///< grdMealsList or grdMealsSearch
-  QString label;          ///< what a screen reader says
-  QString dropDown;       ///< the list of food groups in a cell
-  QString loadProcedure;  ///< under which a failed reading is logged
+  QString grid;             ///< grdMealsList or grdMealsSearch
+  QString label;            ///< what a screen reader says
+  QString dropDown;         ///< the list of food groups in a cell
+  QString loadProcedure;    ///< under which a failed reading is logged
+  bool forPicking = false;  ///< no row is changed, deleted or pasted
 };
 
-/// A grid of foods with the columns, checks and questions that both tabs share.
+/// A grid of foods with the columns, checks and questions that all of them share.
 BoundGrid *MakeFoodGrid(const FoodGridNames &names, Session &session, QWidget *parent);
 
 /// Binds the ten nutrient columns to the nutrients shown now.

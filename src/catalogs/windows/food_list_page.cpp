@@ -10,17 +10,11 @@
 
 #include "catalogs/food_columns.h"
 #include "catalogs/windows/alphabet_bar.h"
-#include "catalogs/windows/food_grid.h"
 #include "platform/windows/controls/spoken_label.h"
 
 namespace trimlog {
 
 namespace {
-
-FoodGridNames ListGridNames() {
-  return {QStringLiteral("grdMealsList"), QStringLiteral("Foods"), QStringLiteral("ddnMealGroups"),
-          QStringLiteral("Form_Activate")};
-}
 
 QComboBox *AddCombo(QGridLayout *layout, int column, const QString &name, const QString &caption, QWidget *parent) {
   auto *label = new QLabel(caption, parent);
@@ -53,9 +47,11 @@ FoodListPage::FoodListPage(Session &session, const FoodListKind &kind, QWidget *
   lblFoods = new SpokenLabel(QStringLiteral("lblFoods"), this);
   lblFoods->setSizePolicy(QSizePolicy::Ignored, QSizePolicy::Preferred);  // its blanks shall not widen the window
   layout->addWidget(lblFoods);
-  grdMealsList = MakeFoodGrid(ListGridNames(), session_, this);
+  grdMealsList = MakeFoodGrid(Names(), session_, this);
   grdMealsList->GiveRoom(QStringLiteral("MealGroupID"), QStringLiteral("MealDesc"));
-  layout->addWidget(grdMealsList, 1);
+  gridRow_ = new QHBoxLayout;
+  gridRow_->addWidget(grdMealsList, 1);
+  layout->addLayout(gridRow_, 1);
 
   for (QComboBox *box : {cboRecordTypeMeals, cboMealGroups, cboSort}) {
     connect(box, &QComboBox::currentIndexChanged, this, &FoodListPage::OnChosen);
@@ -63,6 +59,11 @@ FoodListPage::FoodListPage(Session &session, const FoodListKind &kind, QWidget *
   connect(grdMealsList, &BoundGrid::Sorted, this, &FoodListPage::OnSorted);
   connect(cmdAplha, &QPushButton::clicked, this, [this] { ShowAlphabet(alphabet_->isHidden()); });
   connect(alphabet_, &AlphabetBar::LetterChosen, this, &FoodListPage::GoToLetter);
+}
+
+FoodGridNames FoodListPage::Names() const {
+  return {QStringLiteral("grdMealsList"), QStringLiteral("Foods"), QStringLiteral("ddnMealGroups"),
+          QStringLiteral("Form_Activate"), kind_.forPicking};
 }
 
 void FoodListPage::MakeChoices(QGridLayout *choices) {
@@ -120,16 +121,14 @@ void FoodListPage::OnChosen() {
 
 bool FoodListPage::Show(FoodSelection wanted) {
   if (wanted.list == food_list::recent) wanted.group = allFoodGroups;
-  const FailureExit failure = FoodGridFailure(GridAction::Load, ListGridNames().loadProcedure);
+  const FailureExit failure = FoodGridFailure(GridAction::Load, Names().loadProcedure);
+  GridSource source;
   const bool shown = grdMealsList->CommitRow() &&
-                     Guarded(session_, failure,
-                             [&] {
-                               if (wanted.list == food_list::recent) FillRecentFoods(session_);
-                             }) &&
-                     grdMealsList->Open(session_.Data(), FoodListSource(kind_, wanted));
+                     Guarded(session_, failure, [&] { source = PrepareFoodList(session_, kind_, wanted); }) &&
+                     grdMealsList->Open(session_.Data(), source);
   if (shown) {
     shown_ = wanted;
-    grdMealsList->SetPlaceholderText(EmptyListHint(shown_));
+    grdMealsList->SetPlaceholderText(EmptyListHint(kind_, shown_));
     grdMealsList->ShowColumn(QStringLiteral("MealGroupID"), shown_.group == allFoodGroups);
   }
   ShowChoices();
@@ -139,7 +138,7 @@ bool FoodListPage::Show(FoodSelection wanted) {
 
 void FoodListPage::GoToFood(int mealID) {
   if (grdMealsList->GoToKey(mealID)) return;
-  const FailureExit failure = FoodGridFailure(GridAction::Load, ListGridNames().loadProcedure);
+  const FailureExit failure = FoodGridFailure(GridAction::Load, Names().loadProcedure);
   Guarded(session_, failure, [&] {
     if (Show(SelectionHolding(ReadFood(session_, mealID), shown_))) grdMealsList->GoToKey(mealID);
   });
@@ -150,7 +149,7 @@ void FoodListPage::UpdateHeading() {
 }
 
 void FoodListPage::NutrientsChanged() {
-  ShowSelectedNutrients(*grdMealsList, ListGridNames(), session_);
+  ShowSelectedNutrients(*grdMealsList, Names(), session_);
   FillSorts();
   FoodSelection wanted = shown_;
   // A column that is not shown any more orders nothing: the foods stand by their names again.
@@ -172,7 +171,7 @@ void FoodListPage::ShowAlphabet(bool show) {
 
 void FoodListPage::GoToLetter(QChar letter) {
   GuardedQuietly([&] {
-    for (const GridStatement &criterion : AlphabetCriteria(letter)) {
+    for (const GridStatement &criterion : AlphabetCriteria(kind_, shown_.list, letter)) {
       const int row = grdMealsList->Model().FindFirst(criterion.sql, criterion.params);
       if (row < 0) continue;
       grdMealsList->GoToKey(*grdMealsList->Model().KeyOfRow(row), true);

@@ -3,7 +3,9 @@
 #include <QWidget>
 
 #include "catalogs/food_lists.h"
+#include "catalogs/windows/food_grid.h"
 
+class QBoxLayout;
 class QComboBox;
 class QGridLayout;
 class QPushButton;
@@ -11,7 +13,6 @@ class QPushButton;
 namespace trimlog {
 
 class AlphabetBar;
-class BoundGrid;
 class SpokenLabel;
 
 /// The tab that lists foods by list and group, sorted by name or by a nutrient, with the alphabet to jump in it.
@@ -21,6 +22,7 @@ class FoodListPage : public QWidget {
   FoodListPage(Session &session, const FoodListKind &kind, QWidget *parent);
 
   BoundGrid *Grid() const { return grdMealsList; }
+  QBoxLayout *GridRow() const { return gridRow_; }  ///< the row of the layout that the grid stands in
   const FoodSelection &Shown() const { return shown_; }
   QString PrintedTitle() const;
 
@@ -33,6 +35,7 @@ class FoodListPage : public QWidget {
   void UpdateHeading();
 
  private:
+  FoodGridNames Names() const;
   void MakeChoices(QGridLayout *choices);
   void FillSorts();
   void ShowChoices();
@@ -51,6 +54,7 @@ class FoodListPage : public QWidget {
   AlphabetBar *alphabet_;
   SpokenLabel *lblFoods;
   BoundGrid *grdMealsList;
+  QBoxLayout *gridRow_;
 };
 
 }  // namespace trimlog

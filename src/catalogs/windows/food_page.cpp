@@ -91,15 +91,8 @@ void FoodPage::AddTexts(QFormLayout *form) {
 void FoodPage::AddNutrients(QVBoxLayout *layout) {
   // All fields in sight where the screen has room for them; the rest of the dialog takes about the margin.
   const QSize screenRoom = screen()->availableSize() - QSize(80, 290);
-  auto *scroll = new QScrollArea(this);
-  scroll->setWidgetResizable(true);
-  scroll->setFrameShape(QFrame::NoFrame);
-  scroll->setFocusPolicy(Qt::NoFocus);  // Tab goes from field to field
-  nutrients_ = new NutrientFields(session_, screenRoom.width(), scroll);
+  layout->addWidget(ScrolledNutrients(session_, FoodNutrientFields(), screenRoom, this, &nutrients_), 1);
   if (!IsNew()) nutrients_->Show(food_.nutrients);
-  scroll->setWidget(nutrients_);
-  scroll->setMinimumSize((nutrients_->sizeHint() + QSize(24, 4)).boundedTo(screenRoom));
-  layout->addWidget(scroll, 1);
 }
 
 void FoodPage::AddCommands(QVBoxLayout *layout) {

@@ -7,18 +7,12 @@
 #include <QVBoxLayout>
 
 #include "catalogs/food_search.h"
-#include "catalogs/windows/food_grid.h"
 #include "platform/windows/controls/spoken_label.h"
 #include "platform/windows/fields/text_field.h"
 
 namespace trimlog {
 
 namespace {
-
-FoodGridNames SearchGridNames() {
-  return {QStringLiteral("grdMealsSearch"), QStringLiteral("Foods found"), QStringLiteral("ddnMealGroupsSearch"),
-          QStringLiteral("cmdFindFirst_Click")};
-}
 
 /// The wait cursor, for as long as it lives.
 class WaitCursor {
@@ -37,7 +31,9 @@ FoodSearchPage::FoodSearchPage(Session &session, const FoodListKind &kind, QWidg
   auto *row = new QHBoxLayout;
   layout->addLayout(row);
   auto *label = new QLabel(QStringLiteral("&Words to find:"), this);
-  txtFind = new TextField(QStringLiteral("txtFind"), QStringLiteral("Words to find"), 0, this);
+  // Where a text is also found in the list, that field has the name.
+  const QString name = kind.forPicking ? QStringLiteral("txtFindFirst") : QStringLiteral("txtFind");
+  txtFind = new TextField(name, QStringLiteral("Words to find"), 0, this);
   txtFind->setClearButtonEnabled(true);
   label->setBuddy(txtFind);
   cmdFindFirst = new QPushButton(QStringLiteral("&Search Now"), this);
@@ -48,14 +44,21 @@ FoodSearchPage::FoodSearchPage(Session &session, const FoodListKind &kind, QWidg
   row->addWidget(cmdFindFirst);
   lblFoodsFound = new SpokenLabel(QStringLiteral("lblFoodsFound"), this);
   layout->addWidget(lblFoodsFound);
-  grdMealsSearch = MakeFoodGrid(SearchGridNames(), session_, this);
-  layout->addWidget(grdMealsSearch, 1);
+  grdMealsSearch = MakeFoodGrid(Names(), session_, this);
+  gridRow_ = new QHBoxLayout;
+  gridRow_->addWidget(grdMealsSearch, 1);
+  layout->addLayout(gridRow_, 1);
   setFocusProxy(txtFind);
 
   grdMealsSearch->Open(session_.Data(), FoodSearchSource(kind_, {}));
   UpdateHeading();
   connect(txtFind, &TextField::returnPressed, this, &FoodSearchPage::Search);
   connect(cmdFindFirst, &QPushButton::clicked, this, &FoodSearchPage::Search);
+}
+
+FoodGridNames FoodSearchPage::Names() const {
+  return {QStringLiteral("grdMealsSearch"), QStringLiteral("Foods found"), QStringLiteral("ddnMealGroupsSearch"),
+          QStringLiteral("cmdFindFirst_Click"), kind_.forPicking};
 }
 
 QString FoodSearchPage::PrintedTitle() const { return PrintedSearchTitle(searched_); }
@@ -66,6 +69,7 @@ void FoodSearchPage::Search() {
   searched_ = FoodSearchText(txtFind->text());
   grdMealsSearch->ClearMarks();
   UpdateHeading();
+  Q_EMIT Searched();
 }
 
 void FoodSearchPage::UpdateHeading() {
@@ -74,7 +78,7 @@ void FoodSearchPage::UpdateHeading() {
 }
 
 void FoodSearchPage::NutrientsChanged() {
-  ShowSelectedNutrients(*grdMealsSearch, SearchGridNames(), session_);
+  ShowSelectedNutrients(*grdMealsSearch, Names(), session_);
   // A column that is not shown any more orders nothing: the foods stand by their names again.
   grdMealsSearch->SetSource(FoodSearchSource(kind_, searched_), true);
 }

@@ -22,9 +22,6 @@ namespace trimlog {
 
 namespace {
 
-/// The group that a new food starts in when none is chosen.
-constexpr int firstGroupOfNewFoods = 18;
-
 FailureExit LoadFailure() {
   return {QStringLiteral("frmSetupFoods"), QStringLiteral("Form_Load"), QStringLiteral("Error Loading Setup Info"),
           QStringLiteral("An error occurred while loading your setup information.")};
@@ -166,7 +163,7 @@ void frmSetupFoods::ShowCounts() {
 void frmSetupFoods::OnNew() {
   if (!CurrentGrid()->CommitRow()) return;
   const int chosen = listPage_->Shown().group;
-  const int group = chosen == allFoodGroups ? firstGroupOfNewFoods : chosen;
+  const int group = chosen == allFoodGroups ? groupOfNewFoods : chosen;
   Guarded(session_, LoadFailure(), [&] {
     AddRec(
         this, [&](QWidget *parent) { return new FoodPage(session_, group, parent); },

@@ -3,10 +3,13 @@
 #include <QGridLayout>
 #include <QGroupBox>
 #include <QLabel>
+#include <QScrollArea>
 #include <QVBoxLayout>
 
 #include "catalogs/food_catalog.h"
 #include "catalogs/nutrient_groups.h"
+#include "catalogs/target_sets.h"
+#include "platform/windows/controls/member_name.h"
 #include "platform/windows/fields/number_field.h"
 
 namespace trimlog {
@@ -15,9 +18,26 @@ namespace {
 
 constexpr int mostColumns = 4;
 
+double HighestAmount(int nutrientID, const QString &) {
+  return nutrientID == nutrient_id::netCarbs ? highestNetCarbs : highestNutrient;
+}
+
+double HighestTarget(int, const QString &fieldName) { return LargestTarget(fieldName); }
+
 }  // namespace
 
-NutrientFields::NutrientFields(const Session &session, int room, QWidget *parent) : QWidget(parent), session_(session) {
+const NutrientFieldsKind &FoodNutrientFields() {
+  static const NutrientFieldsKind kind{"txtAddRec0", nutrientCount, HighestAmount};
+  return kind;
+}
+
+const NutrientFieldsKind &TargetNutrientFields() {
+  static const NutrientFieldsKind kind{"txtTarget", typedTargets, HighestTarget};
+  return kind;
+}
+
+NutrientFields::NutrientFields(const Session &session, const NutrientFieldsKind &kind, int room, QWidget *parent)
+    : QWidget(parent), session_(session), kind_(kind) {
   QList<QWidget *> groups;
   for (const NutrientGroup &group : NutrientGroups()) groups.append(MakeGroup(group.title, group.nutrientIDs));
   Arrange(groups, room);
@@ -28,7 +48,9 @@ QWidget *NutrientFields::MakeGroup(const QString &title, const QList<int> &nutri
   auto *grid = new QGridLayout(group);
   grid->setColumnStretch(0, 1);
   grid->setVerticalSpacing(4);
-  for (const int id : nutrientIDs) AddField(id, group);
+  for (const int id : nutrientIDs) {
+    if (id <= kind_.count) AddField(id, group);
+  }
   if (nutrientIDs.contains(nutrient_id::netCarbs)) {
     auto *note = new QLabel(QStringLiteral("* Carbs less fiber and sugar alcohols"), group);
     note->setWordWrap(true);
@@ -39,9 +61,10 @@ QWidget *NutrientFields::MakeGroup(const QString &title, const QList<int> &nutri
 
 void NutrientFields::AddField(int nutrientID, QWidget *group) {
   const QString label = NutrientLabel(session_.nutrients, nutrientID);
-  auto *field = new NumberField(QStringLiteral("txtAddRec0(%1)").arg(nutrientID), label, session_.locale, group);
-  field->setProperty("DataField", Definition(session_.nutrients, nutrientID).fieldName);
-  field->SetRange(0, nutrientID == nutrient_id::netCarbs ? highestNetCarbs : highestNutrient);
+  const QString &fieldName = Definition(session_.nutrients, nutrientID).fieldName;
+  auto *field = new NumberField(MemberName(kind_.name, nutrientID), label, session_.locale, group);
+  field->setProperty("DataField", fieldName);
+  field->SetRange(0, kind_.highest(nutrientID, fieldName));
   field->setFixedWidth(field->fontMetrics().horizontalAdvance(QStringLiteral("1,000,000.000")));
   auto *caption = new QLabel(label, group);
   caption->setTextFormat(Qt::PlainText);
@@ -51,6 +74,15 @@ void NutrientFields::AddField(int nutrientID, QWidget *group) {
   grid->addWidget(caption, row, 0);
   grid->addWidget(field, row, 1);
   fields_.insert(nutrientID, field);
+  captions_.insert(nutrientID, caption);
+}
+
+void NutrientFields::NutrientsChanged() {
+  for (auto caption = captions_.cbegin(); caption != captions_.cend(); ++caption) {
+    const QString label = NutrientLabel(session_.nutrients, caption.key());
+    caption.value()->setText(label);
+    fields_[caption.key()]->setAccessibleName(label);
+  }
 }
 
 void NutrientFields::Arrange(const QList<QWidget *> &groups, int room) {
@@ -91,10 +123,23 @@ FoodValues NutrientFields::Typed() const {
 NumberField *NutrientFields::FirstWrong() const {
   for (const NutrientGroup &group : NutrientGroups()) {
     for (const int id : group.nutrientIDs) {
-      if (!fields_[id]->Complaint().isEmpty()) return fields_[id];
+      NumberField *field = fields_.value(id);
+      if (field && !field->Complaint().isEmpty()) return field;
     }
   }
   return nullptr;
+}
+
+QScrollArea *ScrolledNutrients(const Session &session, const NutrientFieldsKind &kind, const QSize &room,
+                               QWidget *parent, NutrientFields **fields) {
+  auto *scroll = new QScrollArea(parent);
+  scroll->setWidgetResizable(true);
+  scroll->setFrameShape(QFrame::NoFrame);
+  scroll->setFocusPolicy(Qt::NoFocus);  // Tab goes from field to field
+  *fields = new NutrientFields(session, kind, room.width(), scroll);
+  scroll->setWidget(*fields);
+  scroll->setMinimumSize(((*fields)->sizeHint() + QSize(24, 4)).boundedTo(room));
+  return scroll;
 }
 
 }  // namespace trimlog

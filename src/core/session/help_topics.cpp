@@ -33,6 +33,9 @@ constexpr TopicOfClass topics[] = {
     {"FoodPage", "foods#new-food"},
     {"frmAddActivity", "add_exercise"},
     {"ExercisePage", "add_exercise#new"},
+    {"frmAddMeal", "add_food"},
+    {"frmNutTargets", "targets"},
+    {"TargetPage", "targets#new-set"},
 
     {"frmSetup", "options"},
     {"SetupProfilesPage", "options#profiles"},

@@ -16,6 +16,7 @@ struct WindowState {
   bool SuppressReward = false;  ///< set when a navigation button is pressed, cleared when a weight cell gets the focus
   QDate RememberedDate;         ///< the calendar's last active date; cleared by LoadData; told by ActiveDateChanged
   GridClipboard rowClipboard;   ///< rows last copied from a grid
+  QString pickedFoodSort;       ///< how foods stood when one was last picked; "" for by name
 };
 
 }  // namespace trimlog
