@@ -36,7 +36,7 @@ struct FoodPicked {
   int MealTypeID = 1;
   QString servings;  ///< as typed
   int MealID = 0;
-  ShownCells shown;  ///< the food's cells in the list
+  ShownCells shown{};  ///< the food's cells in the list
 };
 
 enum class PickedField { Date, Servings };

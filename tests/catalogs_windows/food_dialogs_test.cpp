@@ -220,7 +220,8 @@ TEST_F(FoodPageTest, OkOnAnUnchangedFoodWritesNothing) {
 }
 
 TEST_F(FoodPageTest, FitsAScreenOfHalfTheSize) {
-  NutrientFields wide(*session, 1180, nullptr), narrow(*session, 560, nullptr);
+  NutrientFields wide(*session, FoodNutrientFields(), 1180, nullptr);
+  NutrientFields narrow(*session, FoodNutrientFields(), 560, nullptr);
   EXPECT_GT(wide.sizeHint().width(), narrow.sizeHint().width());
   EXPECT_LE(narrow.sizeHint().width(), 560);
   EXPECT_LE(wide.sizeHint().width(), 1180);

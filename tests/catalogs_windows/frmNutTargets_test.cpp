@@ -72,7 +72,8 @@ TEST_F(NutTargetsTest, ATargetThatCannotBeStoredKeepsTheWindow) {
   session.boxes.Expect("Invalid Value", "");
   QTest::keyClick(window.get(), Qt::Key_Escape);
   EXPECT_TRUE(window->isVisible());
-  Type(calories, "");
+  QTest::keyClick(QApplication::focusWidget(), Qt::Key_Delete);
+  QTest::keyClick(QApplication::focusWidget(), Qt::Key_Tab);
   EXPECT_EQ(Text(calories), "2000");
   QTest::keyClick(window.get(), Qt::Key_Escape);
   EXPECT_FALSE(window->isVisible());
@@ -92,8 +93,8 @@ TEST_F(NutTargetsTest, ANewSetIsSelectedAndTypedIn) {
   EXPECT_EQ(Stored("Calories", 30), "1900") << "saved before";
   EXPECT_EQ(Find<QComboBox>(*window, "cboNutTargetID").currentText(), "Marathon");
   EXPECT_EQ(Text(calories), "");
-  EXPECT_EQ(QApplication::focusWidget()->objectName(), calories);
-  QTest::keyClicks(QApplication::focusWidget(), "3500");
+  EXPECT_EQ(window->focusWidget()->objectName(), calories);
+  Type(calories, "3500");
   Click("cmdOK");
   EXPECT_EQ(Stored("Calories", 2), "3500");
   EXPECT_EQ(Stored("Carbs", 2), "");
