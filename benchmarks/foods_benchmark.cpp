@@ -16,6 +16,7 @@
 
 #include "catalogs/food_lists.h"
 #include "catalogs/food_search.h"
+#include "catalogs/windows/frmAddMeal.h"
 #include "catalogs/windows/frmSetupFoods.h"
 #include "core/data/nutrients.h"
 #include "core/session/navigator.h"
@@ -104,6 +105,25 @@ void Open(benchmark::State &state, Size size) {
 void OpenTen(benchmark::State &state) { Open(state, Size::Ten); }
 void OpenShipped(benchmark::State &state) { Open(state, Size::Shipped); }
 void OpenTenTimes(benchmark::State &state) { Open(state, Size::TenTimes); }
+/// The dialog that foods are picked in.
+void OpenPicker(benchmark::State &state, Size size) {
+  Catalog &catalog = Of(size);
+  for (auto round : state) {
+    frmAddMeal window(*catalog.session, catalog.navigator, FoodPicking{.caption = {}, .header = {}, .add = {}},
+                      nullptr);
+    window.show();
+    benchmark::DoNotOptimize(window.grab());
+    state.PauseTiming();
+    window.hide();
+    state.ResumeTiming();
+  }
+}
+void OpenPickerTen(benchmark::State &state) { OpenPicker(state, Size::Ten); }
+void OpenPickerShipped(benchmark::State &state) { OpenPicker(state, Size::Shipped); }
+void OpenPickerTenTimes(benchmark::State &state) { OpenPicker(state, Size::TenTimes); }
+BENCHMARK(OpenPickerTen)->Unit(benchmark::kMillisecond);
+BENCHMARK(OpenPickerShipped)->Unit(benchmark::kMillisecond);
+BENCHMARK(OpenPickerTenTimes)->Unit(benchmark::kMillisecond);
 BENCHMARK(OpenTen)->Unit(benchmark::kMillisecond);
 BENCHMARK(OpenShipped)->Unit(benchmark::kMillisecond);
 BENCHMARK(OpenTenTimes)->Unit(benchmark::kMillisecond);
@@ -148,6 +168,21 @@ void SearchShippedBare(benchmark::State &state) { BareKeys(state, Size::Shipped,
 void SearchTenTimesBare(benchmark::State &state) { BareKeys(state, Size::TenTimes, bareSearch); }
 void SortShippedBare(benchmark::State &state) { BareKeys(state, Size::Shipped, bareSort); }
 void SortTenTimesBare(benchmark::State &state) { BareKeys(state, Size::TenTimes, bareSort); }
+void PickSearchShipped(benchmark::State &state) {
+  Show(state, Size::Shipped, FoodSearchSource(PickedFoodLists(true, false), QStringLiteral("cheddar")), true);
+}
+void PickSearchTenTimes(benchmark::State &state) {
+  Show(state, Size::TenTimes, FoodSearchSource(PickedFoodLists(true, false), QStringLiteral("cheddar")), true);
+}
+const char *const barePickSearch =
+    "SELECT MealID FROM meals_list WHERE RecordTypeID <> 0 AND instr(lower(MealDesc), 'cheddar') <> 0 "
+    "ORDER BY MealDesc COLLATE BINARY";
+void PickSearchShippedBare(benchmark::State &state) { BareKeys(state, Size::Shipped, barePickSearch); }
+void PickSearchTenTimesBare(benchmark::State &state) { BareKeys(state, Size::TenTimes, barePickSearch); }
+BENCHMARK(PickSearchShipped)->Unit(benchmark::kMillisecond);
+BENCHMARK(PickSearchShippedBare)->Unit(benchmark::kMillisecond);
+BENCHMARK(PickSearchTenTimes)->Unit(benchmark::kMillisecond);
+BENCHMARK(PickSearchTenTimesBare)->Unit(benchmark::kMillisecond);
 BENCHMARK(SearchShipped)->Unit(benchmark::kMillisecond);
 BENCHMARK(SearchShippedBare)->Unit(benchmark::kMillisecond);
 BENCHMARK(SearchTenTimes)->Unit(benchmark::kMillisecond);
@@ -202,6 +237,10 @@ int main(int count, char **arguments) {
       {"open the window, 87,910 foods / ten foods", "OpenTenTimes", "OpenTen", 1.5},
       {"search, 8,791 foods / the bare scan", "SearchShipped", "SearchShippedBare", 1.5},
       {"search, 87,910 foods / the bare scan", "SearchTenTimes", "SearchTenTimesBare", 1.5},
+      {"open the picker, 8,791 foods / ten foods", "OpenPickerShipped", "OpenPickerTen", 1.5},
+      {"open the picker, 87,910 foods / ten foods", "OpenPickerTenTimes", "OpenPickerTen", 1.5},
+      {"search in the picker, 8,791 foods / the bare scan", "PickSearchShipped", "PickSearchShippedBare", 1.2},
+      {"search in the picker, 87,910 foods / the bare scan", "PickSearchTenTimes", "PickSearchTenTimesBare", 1.2},
       {"sort by protein, 8,791 foods / the bare ORDER BY", "SortShipped", "SortShippedBare", 1.5},
       {"sort by protein, 87,910 foods / the bare ORDER BY", "SortTenTimes", "SortTenTimesBare", 1.5},
   });

@@ -58,6 +58,9 @@ void Program::FillNavigator() {
   navigator_.OpenNutrientSelection = [this](QWidget *owner) {
     trimlog::OpenNutrientSelection(session_, navigator_, owner ? owner : frame_.get());
   };
+  journalDoors_.AddMeal = [this](QWidget *owner, const EntryOpening &opening) {
+    frmAddMeal(session_, navigator_, PickingForDay(session_, opening), owner).exec();
+  };
   navigator_.OpenTargets = [this](QWidget *owner) {
     OpenNutTargets(session_, navigator_, owner ? owner : frame_.get());
   };

@@ -157,8 +157,8 @@ bool ConfirmDeleteFoods(Session &session, const std::vector<qint64> &keys) {
                            BoxButton::No);
 }
 
-FailureExit FoodGridFailure(GridAction action, const QString &loadProcedure) {
-  FailureExit exit{QStringLiteral("frmSetupFoods"), {}, {}, {}, true};
+FailureExit FoodGridFailure(GridAction action, const QString &loadProcedure, bool forPicking) {
+  FailureExit exit{forPicking ? QStringLiteral("frmAddMeal") : QStringLiteral("frmSetupFoods"), {}, {}, {}, true};
   switch (action) {
     case GridAction::Load:
       exit.procedure = loadProcedure;

@@ -29,7 +29,8 @@ bool IsPreLoadedFood(const std::function<Value(const QString &field)> &field);
 /// May these foods be deleted? Asks once, or says that pre-loaded foods stay.
 bool ConfirmDeleteFoods(Session &session, const std::vector<qint64> &keys);
 
-/// The failure exits of the food grids; a failed reading is logged under `loadProcedure`.
-FailureExit FoodGridFailure(GridAction action, const QString &loadProcedure);
+/// The failure exits of the food grids, of the catalog or of the picker; a failed reading is logged under
+/// `loadProcedure`.
+FailureExit FoodGridFailure(GridAction action, const QString &loadProcedure, bool forPicking);
 
 }  // namespace trimlog

@@ -119,7 +119,9 @@ QString SortKeyOf(const FoodListKind &kind, const GridSource &source) {
 
 FoodSelection SelectionHolding(const FoodRecord &food, const FoodSelection &present) {
   FoodSelection holding = present;
-  if (present.list != food_list::all) holding.list = food.RecordTypeID;
+  const bool own = food.RecordTypeID != food_kind::preLoaded;
+  const bool held = present.list == food_list::all || (present.list == food_list::ownWithRecipes && own);
+  if (!held) holding.list = food.RecordTypeID;
   if (present.group != allFoodGroups) holding.group = food.MealGroupID;
   return holding;
 }

@@ -19,12 +19,12 @@ struct FoodPicking {
   /// A day's entry has a date and a meal; an ingredient has neither.
   bool forDay = true;
   bool fixedDate = false;  ///< the date is shown and cannot be changed
-  QDate date;              ///< proposed
+  QDate date{};            ///< proposed
   int MealTypeID = 1;      ///< proposed
   bool recipesOffered = true;
   /// Stores a picked food; an ingredient uses its food and its servings alone. False when it was refused: a box has
   /// told why. What it throws becomes the box of a failed add.
-  std::function<bool(const MealEntry &entry)> add;
+  std::function<bool(const MealEntry &entry)> add{};
 };
 
 /// Foods for a day of the journal or the planner; `opening` must outlive it.

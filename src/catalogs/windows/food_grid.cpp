@@ -36,8 +36,9 @@ BoundGrid *MakeFoodGrid(const FoodGridNames &names, Session &session, QWidget *p
   grid->SetSpareColumn(QStringLiteral("MealDesc"));
 
   GridHooks &hooks = grid->Hooks();
-  hooks.guard = [&session, procedure = names.loadProcedure](GridAction action, const std::function<void()> &work) {
-    return Guarded(session, FoodGridFailure(action, procedure), work);
+  hooks.guard = [&session, procedure = names.loadProcedure, forPicking = names.forPicking](
+                    GridAction action, const std::function<void()> &work) {
+    return Guarded(session, FoodGridFailure(action, procedure, forPicking), work);
   };
   if (names.forPicking) {
     grid->canDelete = false;

@@ -121,7 +121,7 @@ void FoodListPage::OnChosen() {
 
 bool FoodListPage::Show(FoodSelection wanted) {
   if (wanted.list == food_list::recent) wanted.group = allFoodGroups;
-  const FailureExit failure = FoodGridFailure(GridAction::Load, Names().loadProcedure);
+  const FailureExit failure = FoodGridFailure(GridAction::Load, Names().loadProcedure, kind_.forPicking);
   GridSource source;
   const bool shown = grdMealsList->CommitRow() &&
                      Guarded(session_, failure, [&] { source = PrepareFoodList(session_, kind_, wanted); }) &&
@@ -138,7 +138,7 @@ bool FoodListPage::Show(FoodSelection wanted) {
 
 void FoodListPage::GoToFood(int mealID) {
   if (grdMealsList->GoToKey(mealID)) return;
-  const FailureExit failure = FoodGridFailure(GridAction::Load, Names().loadProcedure);
+  const FailureExit failure = FoodGridFailure(GridAction::Load, Names().loadProcedure, kind_.forPicking);
   Guarded(session_, failure, [&] {
     if (Show(SelectionHolding(ReadFood(session_, mealID), shown_))) grdMealsList->GoToKey(mealID);
   });
