@@ -7,8 +7,8 @@
 namespace trimlog {
 namespace {
 
-const QString calories = QStringLiteral("txtTarget(1)");
-const QString carbs = QStringLiteral("txtTarget(2)");
+const QString caloriesTarget = QStringLiteral("txtTarget(1)");
+const QString carbsTarget = QStringLiteral("txtTarget(2)");
 
 class NutTargetsTest : public FoodWindowTest {
  protected:
@@ -38,7 +38,7 @@ TEST_F(NutTargetsTest, ShowsTheSetInForceAndEveryNutrientButTransFat) {
   EXPECT_EQ(window->windowTitle(), "Daily Nutritional Targets");
   EXPECT_EQ(Find<QLabel>(*window, "pnlNutTargetID").text(), "Selected Target for Test Person:");
   EXPECT_EQ(Chosen(), 30);
-  EXPECT_EQ(Text(calories), "2000");
+  EXPECT_EQ(Text(caloriesTarget), "2000");
   const auto fields = window->findChildren<QLineEdit *>(QRegularExpression("^txtTarget\\(\\d+\\)$"));
   EXPECT_EQ(fields.size(), 34);
   EXPECT_EQ(window->findChild<QLineEdit *>("txtTarget(35)"), nullptr);
@@ -49,9 +49,9 @@ TEST_F(NutTargetsTest, ShowsTheSetInForceAndEveryNutrientButTransFat) {
 }
 
 TEST_F(NutTargetsTest, ChoosingAnotherSetSavesTheOneShown) {
-  Type(calories, "2200");
-  Type(carbs, "x");
-  EXPECT_EQ(Text(carbs), Stored("Carbs", 30)) << "no number: what is stored stands there again";
+  Type(caloriesTarget, "2200");
+  Type(carbsTarget, "x");
+  EXPECT_EQ(Text(carbsTarget), Stored("Carbs", 30)) << "no number: what is stored stands there again";
   Choose(40);
   EXPECT_EQ(Stored("Calories", 30), "2200");
   EXPECT_EQ(Text("txtTarget(3)"), "44");
@@ -63,25 +63,25 @@ TEST_F(NutTargetsTest, ChoosingAnotherSetSavesTheOneShown) {
 }
 
 TEST_F(NutTargetsTest, ATargetThatCannotBeStoredKeepsTheWindow) {
-  Type(calories, "1e9");
+  Type(caloriesTarget, "1e9");
   session.boxes.Expect("Invalid Value", "Please type a number from 0 to 32767.");
   Find<QComboBox>(*window, "cboNutTargetID").setFocus();
   QTest::keyClick(QApplication::focusWidget(), Qt::Key_Down);
   EXPECT_EQ(Chosen(), 30);
-  EXPECT_EQ(QApplication::focusWidget()->objectName(), calories);
+  EXPECT_EQ(QApplication::focusWidget()->objectName(), caloriesTarget);
   session.boxes.Expect("Invalid Value", "");
   QTest::keyClick(window.get(), Qt::Key_Escape);
   EXPECT_TRUE(window->isVisible());
   QTest::keyClick(QApplication::focusWidget(), Qt::Key_Delete);
   QTest::keyClick(QApplication::focusWidget(), Qt::Key_Tab);
-  EXPECT_EQ(Text(calories), "2000");
+  EXPECT_EQ(Text(caloriesTarget), "2000");
   QTest::keyClick(window.get(), Qt::Key_Escape);
   EXPECT_FALSE(window->isVisible());
   EXPECT_EQ(Stored("Calories", 30), "2000");
 }
 
 TEST_F(NutTargetsTest, ANewSetIsSelectedAndTypedIn) {
-  Type(calories, "1900");
+  Type(caloriesTarget, "1900");
   WhenModal([this](QWidget &dialog) {
     EXPECT_EQ(dialog.windowTitle(), "Create a New Set of Nutrition Targets");
     session.boxes.Expect("Description Required", "Please enter a description for this nutritional target.");
@@ -92,9 +92,9 @@ TEST_F(NutTargetsTest, ANewSetIsSelectedAndTypedIn) {
   Click("cmdNewTarget");
   EXPECT_EQ(Stored("Calories", 30), "1900") << "saved before";
   EXPECT_EQ(Find<QComboBox>(*window, "cboNutTargetID").currentText(), "Marathon");
-  EXPECT_EQ(Text(calories), "");
-  EXPECT_EQ(window->focusWidget()->objectName(), calories);
-  Type(calories, "3500");
+  EXPECT_EQ(Text(caloriesTarget), "");
+  EXPECT_EQ(window->focusWidget()->objectName(), caloriesTarget);
+  Type(caloriesTarget, "3500");
   Click("cmdOK");
   EXPECT_EQ(Stored("Calories", 2), "3500");
   EXPECT_EQ(Stored("Carbs", 2), "");
@@ -110,15 +110,15 @@ TEST_F(NutTargetsTest, DeletingAsksAndLeavesNone) {
   Click("cmdDeleteTarget");
   EXPECT_EQ(Chosen(), noTargetSet);
   EXPECT_EQ(Stored("TargetID", 30), "");
-  EXPECT_EQ(Text(calories), "");
-  EXPECT_FALSE(Find<QLineEdit>(*window, calories).isEnabled());
+  EXPECT_EQ(Text(caloriesTarget), "");
+  EXPECT_FALSE(Find<QLineEdit>(*window, caloriesTarget).isEnabled());
   EXPECT_FALSE(Find<QPushButton>(*window, "cmdDeleteTarget").isEnabled());
   Click("cmdOK");
   EXPECT_EQ(ProfilesSet(), "0");
 }
 
 TEST_F(NutTargetsTest, ASetDeletedElsewhereIsToldAndTheWindowCanBeLeft) {
-  Type(calories, "1500");
+  Type(caloriesTarget, "1500");
   session.Data().Execute(
       "DELETE nutrition_targets.*, nutrition_targets.TargetID FROM nutrition_targets "
       "WHERE (nutrition_targets.TargetID=30);");
@@ -139,7 +139,7 @@ TEST_F(NutTargetsTest, AFailedDeletionIsLoggedWhereItAlwaysWas) {
   Click("cmdDeleteTarget");
   QFile::rename(session->DataFilePath() + ".away", session->DataFilePath());
   EXPECT_TRUE(session.LogLines().last().contains("frmSetupExercises, cmdDeleteActivity_Click"));
-  EXPECT_EQ(Text(calories), "2000") << "nothing was deleted";
+  EXPECT_EQ(Text(caloriesTarget), "2000") << "nothing was deleted";
 }
 
 TEST_F(NutTargetsTest, OpensTheNutrientsAndItsHelp) {
