@@ -124,7 +124,6 @@ const Room rooms[] = {
      [](House &house) -> std::unique_ptr<QWidget> {
        return std::make_unique<frmDailyValues>(*house.session, nullptr);
      }},
-    {"frmWizard", [](House &house) -> std::unique_ptr<QWidget> {
     {"frmAddMeal",
      [](House &house) -> std::unique_ptr<QWidget> {
        return std::make_unique<frmAddMeal>(
@@ -132,11 +131,10 @@ const Room rooms[] = {
            FoodPicking{.caption = QStringLiteral("Add"), .header = QStringLiteral("Foods"), .add = {}}, nullptr);
      }},
     {"frmNutTargets",
-     [](House &house) -> std::unique_ptr<QWidget> {
-       return std::make_unique<frmNutTargets>(*house.session, house.navigator, nullptr);
-     }},
-    {"frmWizard",
-     [](House &house) -> std::unique_ptr<QWidget> {
+     [](House &house)
+         -> std::unique_ptr<
+             QWidget> { return std::make_unique<frmNutTargets>(*house.session, house.navigator, nullptr); }},
+    {"frmWizard", [](House &house) -> std::unique_ptr<QWidget> {
        auto wizard = std::make_unique<frmWizard>(*house.session, house.navigator, WizardMode::AddingProfile, nullptr);
        wizard->Form_Load();
        return wizard;
