@@ -50,18 +50,16 @@ std::vector<QStringList> MealsClosingRows(const JournalKind &kind, const MealsCl
   std::vector<QStringList> rows = {ClosingRow(columns, {}, {}),
                                    ClosingRow(columns, kind.printedTotals.arg(date), closing.totals)};
   if (closing.targets) rows.push_back(ClosingRow(columns, TargetsCaption(), *closing.targets));
-  if (closing.netCalories) {
-    const auto [figure, formula] = SplitNetCaloriesText(*closing.netCalories);
+  if (!closing.netCalories.isEmpty()) {
+    const auto [figure, formula] = SplitNetCaloriesText(closing.netCalories);
     rows.push_back(ClosingRow(columns, figure, {}));
     rows.push_back(ClosingRow(columns, formula, {}));
   }
   return rows;
 }
 
-QString MealsPrintTitle(const JournalKind &kind, JournalView view, const QString &personName, const QDate &date,
-                        const QLocale &locale) {
-  if (view == JournalView::AllDates) return personName + kind.mealsAllDates;
-  return personName + kind.mealsOnDate.arg(ShortDate(date, locale));
+QString MealsPrintTitle(const JournalKind &kind, JournalView view, const QDate &date, const QLocale &locale) {
+  return view == JournalView::AllDates ? kind.mealsAllDates : kind.mealsOnDate.arg(ShortDate(date, locale));
 }
 
 }  // namespace trimlog

@@ -31,16 +31,15 @@ QString MealsNetCalories(const Session &session, NetCaloriesDay day, double eate
 struct MealsClosing {
   QDate date;
   ShownCells totals;
-  std::optional<ShownCells> targets = {};   ///< where they are shown
-  std::optional<QString> netCalories = {};  ///< the text, where it is shown
+  std::optional<ShownCells> targets = {};  ///< where they are shown
+  QString netCalories = {};                ///< the text; "" where they are not shown
 };
 /// A blank row, the totals, the targets and the net calories, figure and formula; one text for each of the columns
 /// printed, told by their names. Captions stand under the food.
 std::vector<QStringList> MealsClosingRows(const JournalKind &kind, const MealsClosing &closing,
                                           const QStringList &columns, const QLocale &locale);
 
-/// The title over a printed list of meals.
-QString MealsPrintTitle(const JournalKind &kind, JournalView view, const QString &personName, const QDate &date,
-                        const QLocale &locale);
+/// The title over a printed list of meals, behind the profile's name.
+QString MealsPrintTitle(const JournalKind &kind, JournalView view, const QDate &date, const QLocale &locale);
 
 }  // namespace trimlog

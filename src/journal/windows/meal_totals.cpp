@@ -1,13 +1,11 @@
 #include "journal/windows/meal_totals.h"
 
-#include <QHBoxLayout>
-#include <QLabel>
-#include <QPushButton>
+#include <QVBoxLayout>
 
 #include "core/session/failure_guard.h"
 #include "journal/day/meal_columns.h"
-#include "journal/day/net_calories_text.h"
 #include "journal/windows/grid_day_rows.h"
+#include "journal/windows/net_calories_line.h"
 #include "platform/windows/grid/bound_grid.h"
 #include "platform/windows/grid/totals_strip.h"
 
@@ -58,28 +56,11 @@ MealTotals::MealTotals(const JournalParts &parts, BoundGrid &grid, QWidget *pare
     layout->addWidget(grdMealTargets);
   }
   if (kind.hasNetCalories) {
-    MakeNetCalories();
+    netCalories_ = new NetCaloriesLine(parts.session, QStringLiteral("lblTotalsMeals2"), this);
+    layout->addSpacing(4);
     layout->addWidget(netCalories_);
   }
   Arrange();
-}
-
-void MealTotals::MakeNetCalories() {
-  netCalories_ = new QWidget(this);
-  auto *row = new QHBoxLayout(netCalories_);
-  row->setContentsMargins(0, 4, 0, 0);
-  lblTotalsMeals2 = new QLabel(netCalories_);
-  lblTotalsMeals2->setObjectName(QStringLiteral("lblTotalsMeals2"));
-  lblTotalsMeals2->setTextInteractionFlags(Qt::TextSelectableByMouse | Qt::TextSelectableByKeyboard);
-  lblTotalsMeals2->setWordWrap(true);
-  pnlLearnMore = new QPushButton(QStringLiteral("&Learn More"), netCalories_);
-  pnlLearnMore->setObjectName(QStringLiteral("pnlLearnMore"));
-  pnlLearnMore->setToolTip(QStringLiteral("Tells what net calories are."));
-  pnlLearnMore->setAutoDefault(false);
-  connect(pnlLearnMore, &QPushButton::clicked, this,
-          [this] { parts_.session.boxes.Inform(AboutNetCaloriesTitle(), AboutNetCalories()); });
-  row->addWidget(lblTotalsMeals2, 1);
-  row->addWidget(pnlLearnMore);
 }
 
 void MealTotals::Arrange() {
@@ -102,26 +83,25 @@ void MealTotals::Update() {
       ShowFigures(*grdMealTargets, targets_);
       grdMealTargets->setVisible(parts_.session.profile.NutTargetID != 0);
     }
-    if (netCalories_) ShowNetCalories(date_, day.sums);
+    if (netCalories_) netCalories_->Tell(NetCalories(day.sums));
   });
 }
 
-void MealTotals::ShowNetCalories(const QDate &date, const NutrientSums &sums) {
+QString MealTotals::NetCalories(const NutrientSums &sums) {
   const std::optional<std::size_t> calories = CaloriesPosition(parts_.session.nutrients);
-  netCalories_->setVisible(calories.has_value());
-  if (!calories) return;
-  if (!day_ || day_->date != date) {
-    const std::vector<NetCaloriesDay> days = ReadNetCalories(parts_.session, date, date);
+  if (!calories) return {};
+  if (!day_ || day_->date != date_) {
+    const std::vector<NetCaloriesDay> days = ReadNetCalories(parts_.session, date_, date_);
     day_ = days.empty() ? NetCaloriesDay() : days.front();
-    day_->date = date;
+    day_->date = date_;
   }
-  lblTotalsMeals2->setText(MealsNetCalories(parts_.session, *day_, sums[*calories]));
+  return MealsNetCalories(parts_.session, *day_, sums[*calories]);
 }
 
 MealsClosing MealTotals::Closing() const {
   MealsClosing closing{.date = date_, .totals = totals_};
   if (grdMealTargets && !grdMealTargets->isHidden()) closing.targets = targets_;
-  if (netCalories_ && !netCalories_->isHidden()) closing.netCalories = lblTotalsMeals2->text();
+  if (netCalories_) closing.netCalories = netCalories_->Text();
   return closing;
 }
 

@@ -7,12 +7,10 @@
 #include "journal/day_totals.h"
 #include "journal/windows/journal_page.h"
 
-class QLabel;
-class QPushButton;
-
 namespace trimlog {
 
 class BoundGrid;
+class NetCaloriesLine;
 class TotalsStrip;
 
 /// What stands below the list of meals: the day's totals under their columns, how far they are from the targets, and
@@ -32,16 +30,13 @@ class MealTotals : public QWidget {
   MealsClosing Closing() const;
 
  private:
-  void MakeNetCalories();
-  void ShowNetCalories(const QDate &date, const NutrientSums &sums);
+  QString NetCalories(const NutrientSums &sums);
 
   const JournalParts parts_;
   BoundGrid &grid_;
   TotalsStrip *grdMealTotals;
   TotalsStrip *grdMealTargets = nullptr;
-  QWidget *netCalories_ = nullptr;
-  QLabel *lblTotalsMeals2 = nullptr;
-  QPushButton *pnlLearnMore = nullptr;
+  NetCaloriesLine *netCalories_ = nullptr;
   ShownCells totals_;
   ShownCells targets_;
   QDate date_;                         ///< of the totals

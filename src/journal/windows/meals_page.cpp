@@ -3,14 +3,13 @@
 #include <QPushButton>
 #include <QVBoxLayout>
 
-#include "core/profiles/person.h"
-#include "core/session/error_log.h"
 #include "core/session/failure_guard.h"
 #include "core/session/print.h"
 #include "core/windows/controls/grid_menu.h"
 #include "journal/day/grid_layout.h"
 #include "journal/day/meal_columns.h"
 #include "journal/day/meal_edit.h"
+#include "journal/day/printed_heading.h"
 #include "journal/windows/day_grid.h"
 #include "journal/windows/frmConfirmMealUpdates.h"
 #include "journal/windows/meal_totals.h"
@@ -40,6 +39,13 @@ FailureExit ServingsFailure() {
           QStringLiteral("The nutrients of this food could not be adjusted.  "), true};
 }
 
+/// A door that leads nowhere yet disables what would open it, and says so.
+void DisableWithout(bool leads, QPushButton &button) {
+  if (leads) return;
+  button.setEnabled(false);
+  button.setToolTip(leadsNowhere);
+}
+
 void GoToColumn(BoundGrid &grid, const QString &column) {
   const QModelIndex row = grid.currentIndex();
   if (row.isValid()) grid.Selection().GoTo(row.siblingAtColumn(grid.Model().ColumnByName(column)));
@@ -49,7 +55,6 @@ void GoToColumn(BoundGrid &grid, const QString &column) {
 
 MealsPage::MealsPage(const JournalParts &parts, QWidget *parent)
     : JournalPage(parts, QStringLiteral("MealsPage"), parent),
-      parts_(parts),
       buttons_(new PageButtons(parts.day.Kind().isSmall, this)),
       grdMeals(MakeDayGrid(parts, MealsGridNames(), this)),
       totals_(nullptr) {
@@ -69,18 +74,21 @@ MealsPage::MealsPage(const JournalParts &parts, QWidget *parent)
   connect(&session_.changes, &DataChanges::SettingsChanged, this, &MealsPage::UpdateTotals);
 }
 
+// The rows speak to the page until they are gone.
+MealsPage::~MealsPage() { delete grdMeals; }
+
 void MealsPage::AddButtons() {
   cmdNewMeal = buttons_->AddNew(QStringLiteral("cmdNewMeal"), QStringLiteral("Adds foods and meals."));
   cmdDeleteMeal = buttons_->AddDelete(QStringLiteral("cmdDeleteMeal"), QStringLiteral("Deletes the marked rows."));
   cmdPrintMeal = buttons_->AddPrint(QStringLiteral("cmdPrintMeal"), QStringLiteral("Prints this list and its totals."));
-  cmdNewMeal->setEnabled(static_cast<bool>(doors_.AddMeal));
+  DisableWithout(static_cast<bool>(doors_.AddMeal), *cmdNewMeal);
   connect(cmdNewMeal, &QPushButton::clicked, this, &MealsPage::OnNew);
   connect(cmdDeleteMeal, &QPushButton::clicked, this, [this] { grdMeals->DeleteSelected(); });
   connect(cmdPrintMeal, &QPushButton::clicked, this, &MealsPage::Print);
   if (day_.Kind().isSmall) return buttons_->AddStretch();
   const auto addDoor = [this](const PageButton &button, const std::function<void(QWidget *)> &door) {
     QPushButton *const made = buttons_->Add(button);
-    made->setEnabled(static_cast<bool>(door));
+    DisableWithout(static_cast<bool>(door), *made);
     // These windows may give the list other columns: what is being typed is saved first.
     connect(made, &QPushButton::clicked, this, [this, &door] {
       if (grdMeals->CommitRow()) door(window());
@@ -103,15 +111,13 @@ void MealsPage::ConnectGrid() {
   hooks.afterCell = [this](GridRowEdit &row, const QString &column) { FollowCell(row, column); };
   connect(&grdMeals->Model(), &GridModel::CellEdited, this, [this](int, const QString &column) { AfterCell(column); });
   connect(&grdMeals->Model(), &GridModel::RowStateChanged, this, &MealsPage::UpdateTotals);
+  FollowCurrentRow(*grdMeals, day_);
   connect(grdMeals, &BoundGrid::CurrentRowChanged, this, &MealsPage::OnRow);
 }
 
-EditOutcome MealsPage::SaveOpenEdit() {
-  if (grdMeals->CommitRow()) return EditOutcome::Saved;
-  return grdMeals->Model().RefusalOfRow().isEmpty() ? EditOutcome::Failed : EditOutcome::Refused;
-}
+EditOutcome MealsPage::SaveOpenEdit() { return SaveDayGrid(session_, *grdMeals); }
 
-void MealsPage::DropOpenEdit() { grdMeals->UndoRow(); }
+void MealsPage::DropOpenEdit() { DropDayGrid(*grdMeals); }
 
 void MealsPage::TakeFocus() {
   UpdateTotals();
@@ -132,18 +138,20 @@ void MealsPage::ShowView(JournalView) { SetColumns(); }
 
 void MealsPage::ShowRows() {
   grdMeals->Open(session_.Data(), MealsSource(day_.Scope(), day_.Kind().entries));
-  shown_ = true;
   if (!day_.IsSingleDate()) GoToColumn(*grdMeals, QLatin1String(servingsColumn));
   OnRow();
+  UpdateTotals();
+}
+
+void MealsPage::showEvent(QShowEvent *event) {
+  JournalPage::showEvent(event);
+  UpdateTotals();
 }
 
 void MealsPage::UpdateTotals() {
-  if (!shown_) return;
+  if (!isVisible() || !grdMeals->Model().IsOpen()) return;
   totals_->Update();
-  UpdateButtons();
 }
-
-void MealsPage::UpdateButtons() { cmdDeleteMeal->setEnabled(grdMeals->CurrentKey().has_value()); }
 
 // A value that no number can hold leaves the row as it was.
 void MealsPage::FollowCell(GridRowEdit &row, const QString &column) {
@@ -160,14 +168,16 @@ void MealsPage::AfterCell(const QString &column) {
     };
     QMetaObject::invokeMethod(this, toServings, Qt::QueuedConnection);
   }
-  if (column == QStringLiteral("ThisDate")) OnRow();
+  if (column == QStringLiteral("ThisDate")) {
+    day_.FollowRow(grdMeals->CurrentField(column).toDate());
+    UpdateTotals();
+  }
 }
 
+// All rows of a single date are of one day: another one of them changes no total.
 void MealsPage::OnRow() {
-  if (!shown_) return;
-  const QDate date = grdMeals->CurrentField(QStringLiteral("ThisDate")).toDate();
-  day_.FollowRow(date);
-  UpdateTotals();
+  cmdDeleteMeal->setEnabled(grdMeals->CurrentKey().has_value());
+  if (!day_.IsSingleDate()) UpdateTotals();
 }
 
 void MealsPage::OnNew() {
@@ -186,18 +196,16 @@ void MealsPage::OnNew() {
 
 void MealsPage::OnAdded(int recordID, const QDate &date) {
   day_.FollowAdded(date);
-  if (grdMeals->GoToKey(recordID)) return GoToColumn(*grdMeals, QStringLiteral("MealTypeID"));
-  LogError(session_, QStringLiteral("basMain"), QStringLiteral("AddRec"),
-           QStringLiteral("Unable to find a match for criteria: RecordID=%1").arg(recordID));
+  GoToAddedRow(session_, *grdMeals, recordID, QStringLiteral("MealTypeID"));
 }
 
 void MealsPage::OnChanged(const DataChange &change) {
+  if (!grdMeals->Model().IsOpen()) return;
   switch (change.table) {
     case Table::MealsList:
-      if (shown_) grdMeals->Refresh();  // the foods' names stand in it
+      grdMeals->Refresh();  // the foods' names stand in it
       break;
     case Table::SelectedNutrients:
-      if (!shown_) return;
       SetColumns();
       grdMeals->Refresh();
       break;
@@ -227,10 +235,8 @@ void MealsPage::Print() {
 }
 
 PrintedList MealsPage::PrintedMeals() {
-  const std::optional<Person> person = ReadPerson(session_, session_.profile.CurrentPersonID);
-  PrintedList list = PrintedGrid(
-      *grdMeals,
-      MealsPrintTitle(day_.Kind(), day_.View(), person ? person->PersonName : QString(), day_.Date(), session_.locale));
+  const QString title = MealsPrintTitle(day_.Kind(), day_.View(), day_.Date(), session_.locale);
+  PrintedList list = PrintedGrid(*grdMeals, PrintedHeading(session_, title));
   QStringList names;
   for (const int column : TextColumns(grdMeals->Model())) names.append(grdMeals->Model().Columns()[column].name);
   list.closing = MealsClosingRows(day_.Kind(), totals_->Closing(), names, session_.locale);

@@ -16,6 +16,7 @@ class MealsPage : public JournalPage {
   Q_OBJECT
  public:
   MealsPage(const JournalParts &parts, QWidget *parent);
+  ~MealsPage() override;
 
   BoundGrid *Grid() const { return grdMeals; }
   /// For what a window adds to the page, e.g. a list of other actions.
@@ -31,6 +32,7 @@ class MealsPage : public JournalPage {
  protected:
   void ShowView(JournalView view) override;
   void ShowRows() override;
+  void showEvent(QShowEvent *event) override;
 
  private:
   void AddButtons();
@@ -42,17 +44,14 @@ class MealsPage : public JournalPage {
   void OnNew();
   void OnAdded(int recordID, const QDate &date);
   void OnChanged(const DataChange &change);
-  void UpdateButtons();
   PrintedList PrintedMeals();
 
-  const JournalParts parts_;
   PageButtons *buttons_;
   BoundGrid *grdMeals;
   MealTotals *totals_;
   QPushButton *cmdNewMeal = nullptr;
   QPushButton *cmdDeleteMeal = nullptr;
   QPushButton *cmdPrintMeal = nullptr;
-  bool shown_ = false;  ///< the rows were read
 };
 
 }  // namespace trimlog
