@@ -13,7 +13,7 @@
 namespace trimlog {
 namespace {
 
-const QDate someDay(2026, 3, 28);
+const QDate printedDay(2026, 3, 28);
 
 std::string LaidOut(const QString &text) {
   GridColumns columns = {{.name = QStringLiteral("MealID"), .width = 36},
@@ -131,21 +131,21 @@ TEST_F(MealEditTest, WhatNoColumnCanHoldChangesNothing) {
 TEST(MealTexts, StandBelowTheListOnScreenAndPaper) {
   const QLocale english(QLocale::English, QLocale::UnitedStates);
   const auto caption = [&](const JournalKind &kind, JournalView view) {
-    return DailyTotalsCaption(kind, view, someDay, english).toStdString();
+    return DailyTotalsCaption(kind, view, printedDay, english).toStdString();
   };
   EXPECT_EQ(caption(JournalKind::Diary(), JournalView::SingleDate), "Daily Totals  ");
   EXPECT_EQ(caption(JournalKind::Planner(), JournalView::AllDates), "Daily Totals (3/28/2026)  ");
   EXPECT_EQ(caption(JournalKind::Quick(), JournalView::SingleDate), "Daily Totals:");
 
   const auto title = [&](const JournalKind &kind, JournalView view) {
-    return MealsPrintTitle(kind, view, someDay, english).toStdString();
+    return MealsPrintTitle(kind, view, printedDay, english).toStdString();
   };
   EXPECT_EQ(title(JournalKind::Diary(), JournalView::SingleDate), ": Meals Eaten on 3/28/2026");
   EXPECT_EQ(title(JournalKind::Diary(), JournalView::AllDates), ": Meals Eaten for All Dates");
   EXPECT_EQ(title(JournalKind::Planner(), JournalView::SingleDate), ": Planned Meals for 3/28/2026");
   EXPECT_EQ(title(JournalKind::Planner(), JournalView::AllDates), ": Planned Meals for All Dates");
 
-  MealsClosing closing{.date = someDay, .totals = {"600", "", "9.00"}};
+  MealsClosing closing{.date = printedDay, .totals = {"600", "", "9.00"}};
   const QStringList columns = {"ThisDate", "MealID", "Amount", "Nut1", "Nut3", "GIValue"};
   const auto lines = [&](const JournalKind &kind) {
     QStringList told;
