@@ -4,7 +4,6 @@
 #include <QLineEdit>
 
 #include "journal/day/journal_day.h"
-#include "journal/windows/measurements_page.h"
 #include "journal/windows/step_bar.h"
 #include "page_window.h"
 #include "support/locales.h"
@@ -14,12 +13,10 @@ namespace {
 
 /// The water of a window as a journal has it.
 struct WaterWindow : QWidget {
-  WaterWindow(Session &session, JournalDay &day, MeasurementsPage *measurements = nullptr)
-      : water(new WaterPanel(session, day, this)) {
+  WaterWindow(Session &session, JournalDay &day) : water(new WaterPanel(session, day, this)) {
     auto *layout = new QVBoxLayout(this);
     layout->addWidget(water);
     layout->addWidget(elsewhere);
-    if (measurements) water->rowDate = [measurements] { return measurements->RowDate(); };
     water->Follow();
     show();
     QApplication::setActiveWindow(this);
@@ -139,37 +136,29 @@ TEST(Water, EveryDayVisitedHasItsOwn) {
   EXPECT_EQ(window.Text(), "7");
 }
 
-TEST(Water, AmongAllDatesItIsThatOfTheMeasuredRow) {
+TEST(Water, AmongAllDatesItIsThatOfTheCurrentRow) {
   TestSession session;
   session->settings.LastDiaryView = 1;
-  PageWindow<MeasurementsPage> journal(*session);
-  WaterWindow window(*session, journal.day, journal.page);
-  EXPECT_FALSE(window.water->isEnabled()) << "no row, no day";
-  for (const int daysAgo : {5, 2}) {
-    AddMeasurements(*session, today.addDays(-daysAgo), {});
-    SaveWater(*session, LoadWaterRecord(*session, today.addDays(-daysAgo), today.addDays(-daysAgo)), today);
-  }
-  journal.page->TakeFocus();
-  QObject::connect(journal.page, &MeasurementsPage::RowDateChanged, window.water, &WaterPanel::Follow);
-  journal.day.ShowView(JournalView::SingleDate);
-  journal.day.ShowView(JournalView::AllDates);
-  EXPECT_EQ(window.Caption(), "Glasses of water on 2/27/2026:");
+  JournalDay day(*session, JournalKind::Diary(), today);
+  WaterWindow window(*session, day);
+  QDate row;
+  window.water->rowDate = [&] { return row; };
+  const auto goTo = [&](const QDate &date, const QDate &meant) {
+    row = date;
+    day.FollowRow(meant);
+    window.water->Follow();
+    return window.Text() + " " + window.Caption();
+  };
+  EXPECT_EQ(goTo(today.addDays(-1), today.addDays(-1)), "0 Water on 2/28/2026:");
   QTest::keyClick(&window.Spinner(), Qt::Key_Plus);
-  EXPECT_EQ(Glasses(session, today.addDays(-2)), "1");
-  // A row of meals means another day; the water stays with the measured one.
-  journal.day.FollowRow(today.addDays(-9));
-  EXPECT_EQ(window.Caption(), "Glasses of water on 2/27/2026:");
-  QTest::keyClick(&journal.Get<QWidget>("grdMeasurements"), Qt::Key_Down);
-  EXPECT_EQ(window.Caption(), "Glasses of water on 2/24/2026:");
-  // A measured day without a record: the new one stands on the day meant, once.
-  AddMeasurements(*session, today.addDays(-40), {});
+  EXPECT_EQ(Glasses(session, today.addDays(-1)), "1");
+  EXPECT_EQ(goTo(today.addDays(-2), today.addDays(-2)), "0 Water on 2/27/2026:");
+  EXPECT_EQ(goTo({}, today.addDays(-1)), "0 Water on 2/27/2026:") << "no row, no other day";
+  // A row's day without a record: the new one stands on the day meant, once.
   const int before = Rows(session);
-  journal.day.GoToDate(today.addDays(-3));
-  journal.day.ShowView(JournalView::AllDates);
-  for (int i = 0; i < 2; ++i) {
-    LoadWaterRecord(*session, today.addDays(-40), today.addDays(-60));
-  }
-  EXPECT_EQ(Rows(session), before + 2) << "the day stepped to, and one for the measured day";
+  EXPECT_EQ(goTo(today.addDays(-40), today.addDays(-60)), "0 Water on 12/31/2025:");
+  EXPECT_EQ(goTo(today.addDays(-40), today.addDays(-60)), "0 Water on 12/31/2025:");
+  EXPECT_EQ(Rows(session), before + 1);
 }
 
 }  // namespace

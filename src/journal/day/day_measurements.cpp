@@ -51,14 +51,6 @@ MeasurementRefusal RefusalOf(std::size_t field) {
           QStringLiteral("Please enter a valid %1 (a numeric value only, with no special characters).").arg(name)};
 }
 
-QDate NewestMeasurementsDate(const Session &session) {
-  const Recordset row =
-      session.Data().OpenRecordset(QStringLiteral("SELECT measurements.ThisDate FROM measurements WHERE "
-                                                  "((measurements.PersonID)=?) ORDER BY measurements.ThisDate DESC;"),
-                                   {session.profile.CurrentPersonID.toInt()}, RecordsetKind::Forward);
-  return row.Eof() ? QDate() : row.Field(QStringLiteral("ThisDate")).toDate();
-}
-
 PrintedList MeasurementsToPrint(const Session &session, const QDate &date, const PerMeasurement<QString> &current) {
   const PreviousMeasurements previous = LoadPreviousMeasurements(session, date);
   const PerMeasurement<QString> differences =

@@ -31,9 +31,6 @@ struct MeasurementRefusal {
 };
 MeasurementRefusal RefusalOf(std::size_t field);
 
-/// The newest day that was measured; invalid when none was.
-QDate NewestMeasurementsDate(const Session &session);
-
 /// A day's measurements as a list to print: size, previous one, difference.
 PrintedList MeasurementsToPrint(const Session &session, const QDate &date, const PerMeasurement<QString> &current);
 

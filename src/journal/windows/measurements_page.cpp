@@ -125,7 +125,7 @@ void MeasurementsPage::MakeGrid(QWidget *parent) {
   };
   (new GridMenu(session_, navigator_, this))->Attach(*grdMeasurements);
   FollowCurrentRow(*grdMeasurements, day_);
-  connect(grdMeasurements, &BoundGrid::CurrentRowChanged, this, &MeasurementsPage::OnRowChanged);
+  connect(grdMeasurements, &BoundGrid::CurrentRowChanged, this, [this] { totals_->ShowTotals(); });
   GridModel &model = grdMeasurements->Model();
   connect(&model, &QAbstractItemModel::dataChanged, this, [this] { totals_->ShowTotals(); });
   for (const auto rowsChange : {&QAbstractItemModel::rowsInserted, &QAbstractItemModel::rowsRemoved}) {
@@ -143,18 +143,6 @@ void MeasurementsPage::BodyFatFollowsWaist(GridRowEdit &row) {
     if (!estimate) return;
     row.Set(QLatin1String(measurementFields[bodyFatField].column), ValueOrZero(*estimate, session_.locale));
   });
-}
-
-void MeasurementsPage::OnRowChanged() {
-  totals_->ShowTotals();
-  Q_EMIT RowDateChanged();
-}
-
-QDate MeasurementsPage::RowDate() const {
-  if (grdMeasurements && grdMeasurements->Model().IsOpen()) return grdMeasurements->CurrentField(dateField).toDate();
-  QDate newest;
-  GuardedQuietly([&] { newest = NewestMeasurementsDate(session_); });
-  return newest;
 }
 
 void MeasurementsPage::ShowView(JournalView view) { views_->setCurrentIndex(view == JournalView::SingleDate ? 0 : 1); }

@@ -26,12 +26,6 @@ class MeasurementsPage : public JournalPage {
   void AddNew();
   /// Deletes the day's set, or the chosen ones of the list, after the question where it is wanted.
   void DeleteMeasurements();
-  /// Among all dates the day of the list's current row; before the list was looked at its first one. Invalid without a
-  /// row.
-  QDate RowDate() const;
-
- Q_SIGNALS:
-  void RowDateChanged();
 
  protected:
   void ShowView(JournalView view) override;
@@ -42,7 +36,6 @@ class MeasurementsPage : public JournalPage {
   QWidget *MakeList();
   void MakeGrid(QWidget *parent);
   void BodyFatFollowsWaist(GridRowEdit &row);
-  void OnRowChanged();
   void ShowGender();
   void UpdateButtons();
   QDate ProposedDate() const;

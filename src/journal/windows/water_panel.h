@@ -23,7 +23,7 @@ class WaterPanel : public QWidget {
  public:
   WaterPanel(Session &session, JournalDay &day, QWidget *parent);
 
-  /// Among all dates the day whose glasses are shown: that of the measurements' current row. An invalid one changes
+  /// Among all dates the day whose glasses are shown: that of the list's current row. An invalid one changes
   /// nothing. Call Follow() when it is another.
   std::function<QDate()> rowDate;
   /// Reads the glasses of the day meant.
