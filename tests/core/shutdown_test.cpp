@@ -117,7 +117,7 @@ TEST_F(Stop, TheHandheldComesLast) {
 class Conflicts : public ::testing::Test {
  protected:
   void HaveDriver(const char *device, const char *provider, const char *version, const char *date) {
-    const QString key = "System\\CurrentControlSet\\Services\\Class\\Display\\" + device;
+    const QString key = QStringLiteral("System\\CurrentControlSet\\Services\\Class\\Display\\") + device;
     bench.system.values = {{key + "|ProviderName", provider}, {key + "|Ver", version}, {key + "|DriverDate", date}};
   }
   bool GoesOn() { return CheckForConflicts(bench.session, bench.system); }
