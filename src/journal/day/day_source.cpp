@@ -27,15 +27,14 @@ GridSource EntriesIn(const QString &table, const DayScope &scope, EntryKind entr
 
 GridSource MealsSource(const DayScope &scope, EntryKind entries) {
   GridSource source = EntriesIn(QStringLiteral("meals"), scope, entries);
-  source.from = QStringLiteral("meals LEFT JOIN meals_list ON meals.MealID = meals_list.MealID");
+  source.beside = QStringLiteral("LEFT JOIN meals_list ON meals.MealID = meals_list.MealID");
   source.order.append({QStringLiteral("MealTypeID")});
   return source;
 }
 
 GridSource ActivitiesSource(const DayScope &scope, EntryKind entries) {
   GridSource source = EntriesIn(QStringLiteral("activities"), scope, entries);
-  source.from =
-      QStringLiteral("activities LEFT JOIN activities_list ON activities.ActivityID = activities_list.ActivityID");
+  source.beside = QStringLiteral("LEFT JOIN activities_list ON activities.ActivityID = activities_list.ActivityID");
   return source;
 }
 

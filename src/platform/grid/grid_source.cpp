@@ -18,7 +18,11 @@ struct Condition {
   }
 };
 
-QString FromClause(const GridSource &source) { return source.from.isEmpty() ? source.table : source.from; }
+QString OwnTables(const GridSource &source) { return source.from.isEmpty() ? source.table : source.from; }
+
+QString FromClause(const GridSource &source) {
+  return source.beside.isEmpty() ? OwnTables(source) : OwnTables(source) + QLatin1Char(' ') + source.beside;
+}
 
 void AddScope(Condition &condition, const GridSource &source) {
   for (const auto &[field, value] : source.scope) {
@@ -84,7 +88,7 @@ GridStatement KeysStatement(const GridSource &source, int top) { return SelectKe
 GridStatement CountStatement(const GridSource &source) {
   if (!source.count.isEmpty()) return {source.count, {}};
   const Condition condition = Shown(source);
-  return {QStringLiteral("SELECT Count(*) AS RowCount FROM %1%2;").arg(FromClause(source), condition.Where()),
+  return {QStringLiteral("SELECT Count(*) AS RowCount FROM %1%2;").arg(OwnTables(source), condition.Where()),
           condition.params};
 }
 

@@ -26,7 +26,9 @@ struct GridSource {
   QString key = {};    ///< the whole-number column that tells the rows apart (within `scope`)
   /// Columns with one value for the whole grid: they filter it, complete the key and are written into new rows.
   QList<std::pair<QString, Value>> scope = {};
-  QString from = {};   ///< the FROM clause when other tables are joined in; default: the table alone
+  QString from = {};  ///< the FROM clause when other tables are joined in; default: the table alone
+  /// Tables whose fields stand beside the rows, as LEFT JOIN clauses; which rows there are does not depend on them.
+  QString beside = {};
   QString where = {};  ///< a condition without WHERE; a `?` takes the next of `params`
   Params params = {};
   QString count = {};  ///< counts the rows as RowCount, where that is quicker than counting what `where` lets through
