@@ -88,6 +88,9 @@ TEST_P(TypedSizes, AreStoredOrHoldTheFocus) {
     EXPECT_EQ(test.Stored("Hips"), stored ? stored : "41");
     EXPECT_EQ(window.focusWidget() == &Measured::Box(window, "Hips"), !stored);
     if (stored) continue;
+    window.page->hide();
+    EXPECT_TRUE(window.page->SaveOpenEdit() == EditOutcome::Refused);
+    window.page->show();
     test.session.boxes.Expect(QStringLiteral("Invalid Hips Size"), QStringLiteral("Please enter a valid"));
     EXPECT_FALSE(window.day.Step(1));
     QTest::keyClick(&Measured::Box(window, "Hips"), Qt::Key_Escape);

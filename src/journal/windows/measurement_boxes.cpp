@@ -209,7 +209,10 @@ EditOutcome MeasurementBoxes::Save() {
   std::map<std::size_t, std::optional<double>> typed;
   for (std::size_t field = 0; field < boxes_.size(); ++field) {
     if (!boxes_[field]->isModified()) continue;
-    if (!checks_[field]->Insist()) return EditOutcome::Refused;
+    // A page that is not seen shows no box; what it holds is refused all the same.
+    if (!checks_[field]->Insist() || !IsMeasurement(boxes_[field]->text(), session_.locale, true)) {
+      return EditOutcome::Refused;
+    }
     typed[field] = boxes_[field]->Number();
   }
   return typed.empty() ? EditOutcome::Saved : Store(typed);

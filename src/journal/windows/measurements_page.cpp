@@ -46,7 +46,7 @@ GridColumns MeasurementColumns() {
          .caption = field == bodyFatField ? QStringLiteral("Body Fat %") : name,
          .field = name,
          .type = GridType::Number,
-         .width = 10,
+         .width = 7,
          .editable = true,
          .validate = [field](const Value &value) { return value.toDouble() < 0 ? RefusalOf(field).text : QString(); }});
   }

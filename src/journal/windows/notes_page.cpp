@@ -102,7 +102,7 @@ void NotesPage::MakeGrid(QWidget *parent) {
                          .caption = QStringLiteral("Notes"),
                          .field = notesColumn,
                          .type = GridType::Memo,
-                         .width = 80,
+                         .width = 30,
                          .editable = true}});
   grdNotes->SetSpareColumn(notesColumn);
   grdNotes->SetPlaceholderText(QStringLiteral("No notes yet. \"New...\" writes one."));
