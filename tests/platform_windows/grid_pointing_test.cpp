@@ -40,6 +40,18 @@ TEST_F(GridPointingTest, TheRowUnderTheMouseIsTheOneThatIsMeant) {
   EXPECT_EQ(grid.CurrentColumn(), "Nut1");
 }
 
+TEST_F(GridPointingTest, APlainClickMeansItsRowAloneAndKeysMayFollowAtOnce) {
+  GoTo(1, "FoodDesc");
+  Press(Qt::Key_A, Qt::ControlModifier);
+  ASSERT_EQ(grid.MarkedKeys().size(), 40U);
+  Click(PlaceOf(Cell(5, "FoodDesc")));
+  EXPECT_EQ(grid.MarkedKeys(), std::vector<qint64>{5});
+  Click(PlaceOf(Cell(5, "FoodDesc")));  // on the chosen row: a second click might follow
+  Type(QStringLiteral("Quick"));
+  Press(Qt::Key_Tab);
+  EXPECT_EQ(Text(5, "FoodDesc").toStdString(), "Quick");
+}
+
 // Whoever refreshes from elsewhere may have moved the rows all the same.
 TEST_F(GridPointingTest, RowsThatMoveWhileOneIsLeftDoNotChangeWhatIsMeant) {
   grid.Hooks().isReadOnly = [](const auto &field) { return field("FoodID").toInt() == 6; };

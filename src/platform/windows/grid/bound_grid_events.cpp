@@ -44,6 +44,8 @@ bool BoundGrid::edit(const QModelIndex &index, EditTrigger trigger, QEvent *even
                                                : trigger == EditKeyPressed || trigger == AllEditTriggers;
   const bool covered = frozen_ && frozen_->isVisible() && index.column() == frozen_->Column();
   if (covered && begins && CanChange(index)) horizontalScrollBar()->setValue(0);
+  // A click on the chosen row waits whether a second one follows, and Qt would let no key begin meanwhile.
+  if (begins) QTableView::edit(index, CurrentChanged, nullptr);
   return QTableView::edit(index, trigger, event);
 }
 
@@ -97,6 +99,13 @@ QItemSelectionModel::SelectionFlags BoundGrid::selectionCommand(const QModelInde
     if (jump && held == (Qt::ControlModifier | Qt::ShiftModifier)) {
       return QItemSelectionModel::SelectCurrent | QItemSelectionModel::Rows;
     }
+  }
+  if (event && event->type() == QEvent::MouseButtonPress && index.isValid()) {
+    // A plain click means its row alone; the view would leave a row that is marked with others among them.
+    const auto *press = static_cast<const QMouseEvent *>(event);
+    const bool marks = (press->modifiers() & (Qt::ShiftModifier | Qt::ControlModifier)) != Qt::NoModifier;
+    if (press->button() == Qt::LeftButton && !marks)
+      return QItemSelectionModel::ClearAndSelect | QItemSelectionModel::Rows;
   }
   return QTableView::selectionCommand(index, event);
 }
