@@ -1,9 +1,14 @@
-#include <signal.h>
-#include <sys/resource.h>
+#include <QDialogButtonBox>
+#include <QMessageBox>
+#include <QPrintDialog>
+#include <QPrinterInfo>
+#include <QPushButton>
+#include <QTimer>
 
 #include "grid_fixture.h"
 #include "platform/windows/printing/grid_printer.h"
 #include "platform/windows/printing/system_printing.h"
+#include "support/full_disk.h"
 #include "support/queued_boxes.h"
 
 namespace trimlog {
@@ -225,18 +230,73 @@ TEST_F(PdfPrinting, AFullDiskLeavesTheGoodFileAndSaysSo) {
   Choose(folder.filePath("page.pdf"));
   ASSERT_TRUE(printing.PrintText({"Good", {"text"}}));
   const QByteArray good = Content("page.pdf");
-  rlimit former{};
-  getrlimit(RLIMIT_FSIZE, &former);
-  signal(SIGXFSZ, SIG_IGN);  // a write past the limit fails as on a full disk
   for (const rlim_t room : {rlim_t{0}, rlim_t{4000}}) {
-    rlimit limit{room, former.rlim_max};
-    setrlimit(RLIMIT_FSIZE, &limit);
     Choose(folder.filePath("page.pdf"));
-    EXPECT_THROW(printing.PrintList(Words(50, 3, "Bread")), Error) << room;
-    setrlimit(RLIMIT_FSIZE, &former);
+    {
+      const FullDisk full(room);
+      EXPECT_THROW(printing.PrintList(Words(50, 3, "Bread")), Error) << room;
+    }
     EXPECT_EQ(Content("page.pdf"), good) << room;
     EXPECT_EQ(QDir(folder.path()).entryList(QDir::Files | QDir::Hidden).size(), 1) << "nothing is left beside it";
   }
+}
+
+/// The machine's own preview, where there is no printer: its print button leads to a PDF file.
+class OwnPreview final : public PageOutput {
+ public:
+  bool HasPrinter() const override { return true; }
+  void Print(PagedDocument &document, QWidget *owner) override { system_->Print(document, owner); }
+  void Preview(PagedDocument &document, QWidget *owner) override { system_->Preview(document, owner); }
+
+ private:
+  const std::unique_ptr<PageOutput> system_ = SystemPageOutput();
+};
+
+/// Answers what comes up as a person does who prints from the preview into a file that may be there already.
+class PreviewUser : public QObject {
+ public:
+  explicit PreviewUser(const QString &path) : path_(path) { startTimer(10); }
+
+ protected:
+  void timerEvent(QTimerEvent *) override {
+    QWidget *modal = QApplication::activeModalWidget();
+    if (auto *box = qobject_cast<QMessageBox *>(modal)) {
+      QTimer::singleShot(0, box->button(QMessageBox::Yes), &QAbstractButton::click);
+    } else if (auto *printer = qobject_cast<QPrintDialog *>(modal)) {
+      auto *name = printer->findChild<QLineEdit *>("filename");
+      if (!name || name->text() == path_) return;
+      name->setText(path_);
+      const auto *buttons = printer->findChild<QDialogButtonBox *>();
+      QTimer::singleShot(0, buttons->button(QDialogButtonBox::Ok), &QAbstractButton::click);
+    } else if (modal && modal->inherits("QPrintPreviewDialog") && !printed_) {
+      for (QAction *action : modal->findChildren<QAction *>()) {
+        if (action->text() == "Print") QTimer::singleShot(0, action, &QAction::trigger);
+        printed_ = true;
+      }
+    }
+  }
+
+ private:
+  const QString path_;
+  bool printed_ = false;
+};
+
+TEST_F(PdfPrinting, WhatThePreviewPrintsIntoAFileIsWholeOrTheFormerFile) {
+  if (!QPrinterInfo::availablePrinters().isEmpty()) GTEST_SKIP() << "with a printer the preview asks for that";
+  OwnPreview preview;
+  SystemPrinting paper(boxes, preview);
+  const QString path = folder.filePath("list.pdf");
+  {
+    const PreviewUser user(path);
+    EXPECT_TRUE(paper.PrintList(Words(50, 3, "Bread")));
+  }
+  const QByteArray good = Content("list.pdf");
+  EXPECT_TRUE(good.startsWith("%PDF-") && good.trimmed().endsWith("%%EOF"));
+  const FullDisk full(4000);
+  const PreviewUser user(path);
+  EXPECT_THROW(paper.PrintList(Words(500, 3, "Bread")), Error);
+  EXPECT_EQ(Content("list.pdf"), good);
+  EXPECT_EQ(QDir(folder.path()).entryList(QDir::Files | QDir::Hidden).size(), 1) << "nothing is left beside it";
 }
 
 TEST_F(PdfPrinting, ALongListShowsThatItWorksAndCanBeCancelledAtEveryStage) {

@@ -195,6 +195,12 @@ class Trimlog:
         self.keystrokes += len(text)
         self.wait_for_rest()
 
+    def point_at(self, x, y):
+        """Moves the mouse over a place of the window in front, and a little further, as a hand does."""
+        for step in range(2):
+            self._xdotool("getactivewindow", "mousemove", "--window", "%1", str(x + step), str(y))
+            self.wait_for_rest()
+
     def picture(self, name):
         """A picture of the window in front, in the road's folder or at a path."""
         path = self.folder / name
