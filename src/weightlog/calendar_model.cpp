@@ -101,15 +101,18 @@ bool CalendarModel::FindRecords() {
   });
 }
 
-void CalendarModel::FillCalendarNutrients() {
+void CalendarModel::FillCalendarNutrients(const QDate &day) {
   if (!session_.settings.ShowCalories) return;
-  for (CalendarCell &cell : month_.cells) {
+  const QDate first = day.isValid() ? day : month_.Cell(1).date;
+  const QDate last = day.isValid() ? day : month_.Cell(calendarCells).date;
+  if (month_.IndexOf(first) == 0) return;
+  for (QDate date = first; date <= last; date = date.addDays(1)) {
+    CalendarCell &cell = month_.Cell(month_.IndexOf(date));
     cell.calories.clear();
     cell.caloriesTip.clear();
   }
-  GuardedQuietly([this] {
-    for (const auto &[date, figure] :
-         ReadCalendarNutrients(session_, month_.Cell(1).date, month_.Cell(calendarCells).date)) {
+  GuardedQuietly([&] {
+    for (const auto &[date, figure] : ReadCalendarNutrients(session_, first, last)) {
       CalendarCell &cell = month_.Cell(month_.IndexOf(date));
       cell.calories = figure.text;
       cell.caloriesTip = figure.tip;

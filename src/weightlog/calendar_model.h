@@ -30,8 +30,9 @@ class CalendarModel {
   bool BuildMonth(const QDate &anyDay);
   /// Reads the weights of the days shown.
   bool FindRecords();
-  /// Fills the figures of the setting NutrientID; nothing while calories are hidden.
-  void FillCalendarNutrients();
+  /// Fills the figures of the setting NutrientID, of one day or of all that are shown; nothing while calories are
+  /// hidden. Of a day that is not shown nothing is read.
+  void FillCalendarNutrients(const QDate &day = {});
   /// Brings everything in line with settings and data that may have changed. The active cell stays.
   void Refresh();
 

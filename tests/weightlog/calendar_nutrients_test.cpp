@@ -78,6 +78,20 @@ TEST_F(CalendarNutrients, NetCaloriesFollowTheWeightThatTheBasalRateGoesBy) {
   EXPECT_EQ(calendar.Cell("2026-03-03").calories, withRate);
 }
 
+TEST_F(CalendarNutrients, OneDaysFigureIsReadByItself) {
+  Eat("2026-03-03", 2000, 0, 0);
+  calendar.session->settings.NutrientID = 1;
+  calendar.model->BuildMonth(Day("2026-03-01"));
+  Eat("2026-03-03", 500, 0, 0);
+  Eat("2026-03-04", 300, 0, 0);
+  calendar.model->FillCalendarNutrients(Day("2026-03-03"));
+  EXPECT_TRUE(calendar.Cell("2026-03-03").calories.startsWith(QStringLiteral("2500")));
+  EXPECT_EQ(calendar.Cell("2026-03-04").calories, QString());
+  const qint64 before = calendar.session.Data().Counts().statements;
+  calendar.model->FillCalendarNutrients(Day("2026-06-03"));
+  EXPECT_EQ(calendar.session.Data().Counts().statements, before) << "a day of another month";
+}
+
 TEST_F(CalendarNutrients, HiddenFiguresAreNotReadAndAnUnknownNutrientShowsNothing) {
   Eat("2026-03-03", 2000, 0, 0);
   calendar.session->settings.NutrientID = 1;

@@ -232,12 +232,20 @@ void frmData::OnData(const DataChange &change) {
     return;
   }
   if (change.origin == &model_ || !change.Concerns(session_.profile.CurrentPersonID)) return;
-  if (change.table == Table::WeightLoss) {
-    model_.Refresh();
-  } else {
-    model_.FillCalendarNutrients();
+  switch (change.table) {
+    case Table::WeightLoss:
+      model_.Refresh();
+      return ShowMonth();
+    case Table::Meals:
+    case Table::Activities:
+      model_.FillCalendarNutrients(change.date);
+      return ShowTexts();
+    case Table::People:  // the basal rate is theirs
+      model_.FillCalendarNutrients();
+      return ShowTexts();
+    default:
+      return;
   }
-  ShowMonth();
 }
 
 void frmData::OnSettings() {

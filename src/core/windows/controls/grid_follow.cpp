@@ -7,10 +7,29 @@ namespace trimlog {
 
 namespace {
 
-void AnnounceFrom(BoundGrid &grid, Session &session, Table table, const std::vector<qint64> &keys) {
+const QString dayField = QStringLiteral("ThisDate");
+
+void AnnounceFrom(BoundGrid &grid, Session &session, const DataChange &what) {
   Change change(session, &grid);
-  change.Announce({.table = table, .keys = keys});
+  change.Announce(what);
   change.Commit();
+}
+
+/// The one day that a changed row stands on, before as after; none for rows of no day, or of two.
+QDate DayOf(const GridRowEdit &row) {
+  const QDate day = row.Get(dayField).toDate();
+  return row.IsNew() || row.StoredValue(dayField).toDate() == day ? day : QDate();
+}
+
+/// The one day that all of these rows, which the grid still holds, stand on.
+QDate DayOf(const BoundGrid &grid, const std::vector<qint64> &keys) {
+  QDate day;
+  for (const qint64 key : keys) {
+    const QDate found = grid.Model().FieldOf(grid.Model().RowOfKey(key), dayField).toDate();
+    if (!found.isValid() || (day.isValid() && found != day)) return {};
+    day = found;
+  }
+  return day;
 }
 
 }  // namespace
@@ -19,11 +38,11 @@ void FollowTable(BoundGrid &grid, Session &session, Table table) {
   GridHooks &hooks = grid.Hooks();
   hooks.withUpdate = [&grid, &session, table, own = hooks.withUpdate](const GridRowEdit &row, qint64 key) {
     if (own) own(row, key);
-    AnnounceFrom(grid, session, table, {key});
+    AnnounceFrom(grid, session, {.table = table, .keys = {key}, .date = DayOf(row)});
   };
   hooks.withDelete = [&grid, &session, table, own = hooks.withDelete](const std::vector<qint64> &keys) {
     if (own) own(keys);
-    AnnounceFrom(grid, session, table, keys);
+    AnnounceFrom(grid, session, {.table = table, .keys = keys, .date = DayOf(grid, keys)});
   };
   QObject::connect(&session.changes, &DataChanges::Changed, &grid, [&grid, table](const DataChange &change) {
     if (change.table == table && change.origin != &grid) grid.RefreshRows(change.keys);
