@@ -44,9 +44,11 @@ struct House {
   std::unique_ptr<OperatingSystem> system = RunningSystem();
 };
 
+using Opened = std::unique_ptr<QWidget>;
+
 struct Room {
   const char *window;
-  std::function<std::unique_ptr<QWidget>(House &)> open;
+  std::function<Opened(House &)> open;
 };
 
 std::unique_ptr<QWidget> OpenFrame(House &house) {
@@ -61,80 +63,66 @@ std::unique_ptr<QWidget> OpenFrame(House &house) {
 const Room rooms[] = {
     {"frmMDI", OpenFrame},
     {"frmSetup",
-     [](House &house) -> std::unique_ptr<QWidget> {
+     [](House &house) -> Opened {
        return std::make_unique<frmSetup>(*house.session, house.navigator, QList<SetupPageMaker>{RewardsTab()}, nullptr);
      }},
     {"frmPassword",
-     [](House &house) -> std::unique_ptr<QWidget> {
-       return std::make_unique<frmPassword>(*house.session, "1", true, nullptr);
-     }},
+     [](House &house) -> Opened { return std::make_unique<frmPassword>(*house.session, "1", true, nullptr); }},
     {"frmEditPassword",
-     [](House &house) -> std::unique_ptr<QWidget> {
-       return std::make_unique<frmEditPassword>(*house.session, "1", "Ann", nullptr);
-     }},
+     [](House &house) -> Opened { return std::make_unique<frmEditPassword>(*house.session, "1", "Ann", nullptr); }},
     {"frmCalendar",
-     [](House &house) -> std::unique_ptr<QWidget> {
-       return std::make_unique<frmCalendar>(*house.session, QDate(2026, 3, 1), nullptr);
-     }},
-    {"frmMeter",
-     [](House &) -> std::unique_ptr<QWidget> { return std::make_unique<frmMeter>("Title", "Caption", 5, nullptr); }},
+     [](House &house) -> Opened { return std::make_unique<frmCalendar>(*house.session, QDate(2026, 3, 1), nullptr); }},
+    {"frmMeter", [](House &) -> Opened { return std::make_unique<frmMeter>("Title", "Caption", 5, nullptr); }},
     {"frmSplash",
-     [](House &house) -> std::unique_ptr<QWidget> {
-       return std::make_unique<frmSplash>(*house.session, *house.system, true, nullptr);
-     }},
+     [](House &house) -> Opened { return std::make_unique<frmSplash>(*house.session, *house.system, true, nullptr); }},
     {"frmReward",
-     [](House &house) -> std::unique_ptr<QWidget> {
+     [](House &house) -> Opened {
        return std::make_unique<frmReward>(
            *house.session, RewardNotice{"Daily Reward", "You have lost 2 pounds", "Well done", {}}, nullptr);
      }},
     {"frmTools, goal planner",
-     [](House &house) -> std::unique_ptr<QWidget> {
+     [](House &house) -> Opened {
        return std::make_unique<frmTools>(*house.session, house.navigator, ToolsPanel::GoalPlanner);
      }},
     {"frmTools, caloric needs",
-     [](House &house) -> std::unique_ptr<QWidget> {
+     [](House &house) -> Opened {
        return std::make_unique<frmTools>(*house.session, house.navigator, ToolsPanel::CaloricNeeds);
      }},
     {"frmTools, body fat",
-     [](House &house) -> std::unique_ptr<QWidget> {
+     [](House &house) -> Opened {
        return std::make_unique<frmTools>(*house.session, house.navigator, ToolsPanel::BodyFat);
      }},
     {"frmMedicalDisclaimer",
-     [](House &house) -> std::unique_ptr<QWidget> { return std::make_unique<frmMedicalDisclaimer>(*house.session); }},
+     [](House &house) -> Opened { return std::make_unique<frmMedicalDisclaimer>(*house.session); }},
     {"frmSetupFoods",
-     [](House &house) -> std::unique_ptr<QWidget> {
-       return std::make_unique<frmSetupFoods>(*house.session, house.navigator, nullptr);
-     }},
+     [](House &house) -> Opened { return std::make_unique<frmSetupFoods>(*house.session, house.navigator, nullptr); }},
     {"frmAddActivity",
-     [](House &house) -> std::unique_ptr<QWidget> {
+     [](House &house) -> Opened {
        const EntryOpening opening{.kind = JournalKind::Diary(), .date = QDate(2026, 2, 1)};
        return std::make_unique<frmAddActivity>(*house.session, house.navigator, opening, nullptr);
      }},
     {"frmAddRec, exercise",
-     [](House &house) -> std::unique_ptr<QWidget> {
+     [](House &house) -> Opened {
        auto dialog = std::make_unique<frmAddRec>(nullptr);
        dialog->SetPage(new ExercisePage(*house.session, dialog.get()));
        return dialog;
      }},
     {"frmSelectedNutrients",
-     [](House &house) -> std::unique_ptr<QWidget> {
+     [](House &house) -> Opened {
        return std::make_unique<frmSelectedNutrients>(*house.session, house.navigator, nullptr);
      }},
     {"frmDailyValues",
-     [](House &house) -> std::unique_ptr<QWidget> {
-       return std::make_unique<frmDailyValues>(*house.session, nullptr);
-     }},
+     [](House &house) -> Opened { return std::make_unique<frmDailyValues>(*house.session, nullptr); }},
     {"frmAddMeal",
-     [](House &house) -> std::unique_ptr<QWidget> {
-       return std::make_unique<frmAddMeal>(
-           *house.session, house.navigator,
-           FoodPicking{.caption = QStringLiteral("Add"), .header = QStringLiteral("Foods"), .add = {}}, nullptr);
+     [](House &house) -> Opened {
+       return std::make_unique<frmAddMeal>(*house.session, house.navigator,
+                                           FoodPicking{.caption = "Add", .header = "Foods", .add = {}}, nullptr);
      }},
     {"frmNutTargets",
-     [](House &house)
-         -> std::unique_ptr<
-             QWidget> { return std::make_unique<frmNutTargets>(*house.session, house.navigator, nullptr); }},
-    {"frmWizard", [](House &house) -> std::unique_ptr<QWidget> {
+     [](House &house) -> std::unique_ptr<QWidget> {
+       return std::make_unique<frmNutTargets>(*house.session, house.navigator, nullptr);
+     }},
+    {"frmWizard", [](House &house) -> Opened {
        auto wizard = std::make_unique<frmWizard>(*house.session, house.navigator, WizardMode::AddingProfile, nullptr);
        wizard->Form_Load();
        return wizard;

@@ -102,13 +102,34 @@ TEST_F(FoodLists, SortByNutrientAndThenByName) {
   EXPECT_FALSE(IsSortShown(columns, "VitaminB12"));
 }
 
+TEST_F(FoodLists, TheGridRefusesWhatNoFoodHas) {
+  session->nutrients.SelectedNutrients[9] = {nutrient_id::netCarbs, "Net Carbs", true, {}};
+  const GridColumns columns = FoodColumns(*session, "ddn");
+  for (const auto &[name, typed, fine] :
+       std::initializer_list<std::tuple<const char *, Value, bool>>{{"MealDesc", " ", false},
+                                                                    {"MealDesc", "Soup", true},
+                                                                    {"Nut1", Value(), true},
+                                                                    {"Nut1", -1, false},
+                                                                    {"Nut1", 0, true},
+                                                                    {"Nut1", 1000000, true},
+                                                                    {"Nut1", 1000001, false},
+                                                                    {"Nut10", Value(), true},
+                                                                    {"Nut10", -1, false},
+                                                                    {"Nut10", 0, true},
+                                                                    {"Nut10", 32767, true},
+                                                                    {"Nut10", 32768, false}}) {
+    const auto column = std::ranges::find(columns, QString(name), &GridColumn::name);
+    ASSERT_TRUE(column != columns.end() && column->validate) << name;
+    EXPECT_EQ(column->validate(typed).isEmpty(), fine) << name << " " << typed.toString();
+  }
+}
+
 TEST_F(FoodLists, ASelectionThatHoldsAFoodIsNearToThePresentOne) {
   FoodRecord food;
   food.MealGroupID = 7;
   struct Case {
     FoodSelection present;
-    int list;
-    int group;
+    int list, group;
   };
   const std::vector<Case> cases = {{{}, food_list::all, allFoodGroups},
                                    {{.list = food_kind::preLoaded, .group = 3}, food_kind::myFoods, 7},
@@ -187,9 +208,7 @@ TEST(FoodDerived, KeepsFieldsInStep) {
   struct Case {
     const char *grams;
     int factor;
-    const char *calories;
-    const char *expected;
-    const char *percent;
+    const char *calories, *expected, *percent;
   };
   // 0.5 g x 9 = 4.5 -> 4; 4 / 100 = 4 %. 2.5 x 9 = 22.5 -> 22; 22 / 176 = 12.5 % -> 12.
   const std::vector<Case> cases = {{"0.5", 9, "100", "4", "4"}, {"2.5", 9, "176", "22", "12"},

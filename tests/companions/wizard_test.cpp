@@ -92,8 +92,7 @@ TEST(WizardNutrients, RefuseATargetThatItsColumnCannotHold) {
   TestSession session;
   struct Case {
     int nutrientID;
-    const char *typed;
-    const char *sentence;
+    const char *typed, *sentence;
   };
   for (const Case &c : {Case{1, "32767", ""},
                         {1, "32767.6", "Please type a number from 0 to 32767."},

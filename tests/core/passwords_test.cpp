@@ -8,13 +8,10 @@ namespace trimlog {
 namespace {
 
 struct PasswordCase {
-  const char *name;
-  const char *stored;
+  const char *name, *stored;
   PasswordEntry entry;
   PasswordOutcome outcome;
-  const char *title;
-  const char *text;
-  const char *storedAfter;
+  const char *title, *text, *storedAfter;
 };
 
 PasswordEntry Entry(const char *old, const char *changed, const char *confirmed) {

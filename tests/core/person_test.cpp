@@ -118,8 +118,7 @@ TEST(Goal, IsReadByOneRuleWhereverItIsUsed) {
   struct Case {
     const char *stored;
     double number;  // -1: none
-    const char *english;
-    const char *german;
+    const char *english, *german;
   };
   for (const Case &c : {Case{"150.5", 150.5, "150.5", "150,5"},
                         {"150,5", 150.5, "150.5", "150,5"},

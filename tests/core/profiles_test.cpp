@@ -19,8 +19,7 @@ int RowsOf(TestSession &session, const char *table, int personID) {
 
 TEST(ApplyProfile, TakesColourTargetsAndStanding) {
   struct Case {
-    const char *name;
-    const char *personID;
+    const char *name, *personID;
     const char *stored;  // SQL that prepares people; "" for none
     double colours;
     bool loginMode;

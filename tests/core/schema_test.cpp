@@ -80,8 +80,7 @@ TEST(Schema, APersonsRowsGoWithThePersonAndFollowANewNumber) {
 
 TEST(Schema, EntriesGoWithTheirFoodTheirRecipeAndTheirExercise) {
   struct Case {
-    const char *what;
-    const char *parent;
+    const char *what, *parent;
     QStringList emptied;
     QStringList kept;
   };

@@ -167,8 +167,7 @@ TEST_F(Geometry, EachGroupIsWrittenAloneAndReadBack) {
 TEST_F(Geometry, EditionFlags) {
   struct Case {
     const char *text;
-    bool bizEd;
-    bool serava;
+    bool bizEd, serava;
   };
   for (const Case &c : {Case{"", false, false}, Case{"-1", true, true}, Case{"0", false, false}, Case{"1", false, true},
                         Case{"True", false, true}}) {

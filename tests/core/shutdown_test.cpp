@@ -139,10 +139,7 @@ TEST_F(Conflicts, WithoutAProblemBothAreSettledForGood) {
 TEST_F(Conflicts, OnlyTheDriverInQuestionCounts) {
   struct Case {
     int system;
-    const char *device;
-    const char *provider;
-    const char *version;
-    const char *date;
+    const char *device, *provider, *version, *date;
     bool problem;
   };
   const Case cases[] = {

@@ -200,8 +200,7 @@ TEST_F(Start, ProfileThatIsChosen) {
 
 TEST_F(Start, ColourAndTargetsOfTheProfile) {
   struct Case {
-    const char *backColor;
-    const char *target;
+    const char *backColor, *target;
     double screenColours;
     quint32 expectedColour;
     int expectedTarget;

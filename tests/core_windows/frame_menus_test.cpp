@@ -98,8 +98,7 @@ class EveryCommand : public FrameTest {
 
 TEST_F(EveryCommand, OpensItsOwnAndAFailureIsShownAndLogged) {
   const struct {
-    const char *menu;
-    const char *opens;
+    const char *menu, *opens;
     bool saves = true;  ///< what is being typed first
   } rows[] = {{"mnuToolsGoalPlanner", "tools 0"},
               {"mnuToolsCaloricNeeds", "tools 1"},

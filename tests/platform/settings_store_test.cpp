@@ -78,8 +78,7 @@ TEST_F(SettingsFile, NumbersThatDoNotFitCountAsMissing) {
   const auto store = Open();
   struct Case {
     const char *text;
-    int asLong;
-    int asByte;
+    int asLong, asByte;
   };
   for (const Case &c :
        {Case{"255", 255, 255}, Case{"256", 256, 7}, Case{"-1", -1, 7}, Case{"2147483647", 2147483647, 7},

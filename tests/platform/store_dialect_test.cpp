@@ -30,8 +30,7 @@ class DialectTest : public StoreTest {
 
 TEST_F(DialectTest, ReadsRowsByTheirMeaning) {
   const struct {
-    const char *sql;
-    const char *rows;
+    const char *sql, *rows;
   } cases[] = {
       // dates
       {"SELECT RecordID FROM meals WHERE (((meals.ThisDate) Between #1/31/2004# And #2/3/2004#)) ORDER BY RecordID",
@@ -104,9 +103,7 @@ TEST_F(DialectTest, ReadsRowsByTheirMeaning) {
 
 TEST_F(DialectTest, WritesByItsMeaning) {
   const struct {
-    const char *sql;
-    const char *check;
-    const char *rows;
+    const char *sql, *check, *rows;
   } cases[] = {
       {"DELETE weight_loss.*, weight_loss.ThisDate FROM weight_loss WHERE ((weight_loss.PersonID=1) AND "
        "(weight_loss.ThisDate=#2/1/2004#)); ",

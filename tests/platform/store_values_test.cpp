@@ -67,8 +67,7 @@ TEST_F(ValuesTest, EveryWayOfWritingKeepsTheRulesOfTheColumn) {
     const QString column = row.column;
     const auto trace = QStringLiteral("%1 <- %2 ").arg(column, row.value.toString()).toStdString();
     const struct {
-      QString sql;
-      QString where;
+      QString sql, where;
     } ways[] = {{"UPDATE kinds SET kinds.[%1] = ? WHERE ID = 1", "kinds WHERE ID = 1"},
                 {"INSERT INTO kinds (ID, [%1]) SELECT 2 AS Expr1, ? AS Expr2", "kinds WHERE ID = 2"},
                 {"INSERT INTO kinds (ID, [%1]) VALUES (2, ?)", "kinds WHERE ID = 2"},

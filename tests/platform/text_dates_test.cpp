@@ -13,8 +13,7 @@ const QLocale swedish(QLocale::Swedish, QLocale::Sweden);
 TEST(FormatDate, Patterns) {
   struct Case {
     QDate date;
-    const char *pattern;
-    const char *shown;
+    const char *pattern, *shown;
   };
   const QDate day(2026, 3, 1);  // a Sunday
   const Case cases[] = {{day, "mmmm, yyyy", "March, 2026"},

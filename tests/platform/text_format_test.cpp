@@ -22,8 +22,7 @@ int NumberOf(const std::function<void()> &work) {
 
 TEST(Rounding, TheThreeRoundingsDiffer) {
   struct Case {
-    double value;
-    double halfUp;
+    double value, halfUp;
     int halfEven;
     double halfAway;
   };
@@ -64,8 +63,7 @@ TEST(Rounding, WhatDoesNotFitIsRefused) {
 TEST(Format, Patterns) {
   struct Case {
     double value;
-    const char *pattern;
-    const char *shown;
+    const char *pattern, *shown;
   };
   const Case cases[] = {{1.25, "0.0", "1.3"},
                         {-1.25, "0.0", "-1.3"},

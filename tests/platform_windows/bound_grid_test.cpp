@@ -5,11 +5,7 @@ namespace {
 
 TEST_F(GridTest, TypedValuesAreReadShownAndStoredByType) {
   struct Row {
-    const char *column;
-    const char *typed;
-    const char *shown;
-    const char *field;
-    const char *stored;
+    const char *column, *typed, *shown, *field, *stored;
   };
   for (const Row &row :
        {Row{"FoodDesc", "Say \"cheese\" 100%", "Say \"cheese\" 100%", "FoodDesc", "Say \"cheese\" 100%"},

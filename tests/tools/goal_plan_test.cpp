@@ -70,8 +70,7 @@ TEST(GoalPlanner, ADateGivesTheRateByCalendarWeeks) {
 
 TEST(GoalPlanner, JudgesTheGoalByItsIndex) {
   struct Case {
-    const char *goal;
-    const char *text;
+    const char *goal, *text;
   };
   const QString chart = "According to the BMI chart, a healthy weight for you would be between 130 and 143 Lbs.";
   // At 66 inches a pound is 0.161548 of the index: 114.5 lbs are 18.497, 114.6 are 18.513, and so on.

@@ -10,11 +10,9 @@ namespace {
 
 TEST(RewardForm, OnlyDefaultsFollowTheUnitSystem) {
   struct Case {
-    const char *daily;
-    const char *weekly;
+    const char *daily, *weekly;
     int uomID;
-    const char *dailyAfter;
-    const char *weeklyAfter;
+    const char *dailyAfter, *weeklyAfter;
   };
   const Case cases[] = {{"0.5", "2.0", 2, "0.25", "0.9"}, {"0.25", "0.9", 1, "0.5", "2.0"},
                         {"0.50", "2", 2, "0.25", "0.9"},  {"0.6", "2.1", 2, "0.6", "2.1"},

@@ -251,16 +251,6 @@ TEST(FrmData, TypesTheDecimalCommaFromTheKeypad) {
   EXPECT_EQ(c.Field(1)->text(), "93,5");
 }
 
-TEST(FrmData, PastedTextIsTakenWhenItIsANumber) {
-  Calendar c;
-  c.Open();
-  QGuiApplication::clipboard()->setText("  １８２.５\r\n");
-  c.Field(1)->paste();
-  c.Press(Qt::Key_Tab);
-  EXPECT_EQ(c.Weight(QDate(2026, 3, 1)), "182.5");
-  EXPECT_EQ(c.Field(1)->text(), "182.5");
-}
-
 TEST(FrmData, StoresWhatIsShownAtOnce) {
   Calendar c;
   c.Open();
@@ -472,13 +462,6 @@ TEST(FrmData, WeightsGrowWithTheirCellsAndStayUncut) {
     return widget->mapTo(c.form.get(), widget->rect().center()).x();
   };
   EXPECT_NEAR(centre("txtTotalMonth"), centre("txtTotal(1)"), 2) << "the month's total stands under its column";
-}
-
-TEST(FrmData, DisablesDoorsThatLeadNowhere) {
-  Calendar c;
-  c.Open();
-  EXPECT_FALSE(c.Find<QToolButton>("cmdDiary")->isEnabled());
-  EXPECT_FALSE(c.Find<QToolButton>("cmdTips")->isEnabled());
 }
 
 TEST(FrmData, IsPrintedWithoutColoursAndButtonsAndComesBackAsItWas) {
