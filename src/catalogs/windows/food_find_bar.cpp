@@ -6,6 +6,7 @@
 
 #include "catalogs/food_catalog.h"
 #include "core/session/failure_guard.h"
+#include "platform/windows/controls/named_controls.h"
 #include "platform/windows/fields/text_field.h"
 #include "platform/windows/grid/bound_grid.h"
 
@@ -18,6 +19,7 @@ FoodFindBar::FoodFindBar(Session &session, BoundGrid &foods, QWidget *parent)
   auto *label = new QLabel(QStringLiteral("&Find in list:"), this);
   txtFind = new TextField(QStringLiteral("txtFind"), QStringLiteral("Find in list"), foodTextLength, this);
   txtFind->setClearButtonEnabled(true);
+  txtFind->setMinimumWidth(FieldWidth(txtFind, 8));
   label->setBuddy(txtFind);
   cmdFind = new QPushButton(QStringLiteral("F&ind"), this);
   cmdFind->setObjectName(QStringLiteral("cmdFind"));

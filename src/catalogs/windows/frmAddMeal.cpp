@@ -13,14 +13,13 @@
 #include "catalogs/windows/food_list_page.h"
 #include "catalogs/windows/food_page.h"
 #include "catalogs/windows/food_search_page.h"
+#include "catalogs/windows/picked_day.h"
 #include "catalogs/windows/row_button.h"
 #include "catalogs/windows/servings_field.h"
 #include "catalogs/windows/servings_selector.h"
 #include "core/session/failure_guard.h"
 #include "core/windows/controls/art.h"
-#include "core/windows/controls/show_calendar.h"
 #include "core/windows/profiles/add_rec_page.h"
-#include "journal/day/meal_types.h"
 #include "platform/text/text_format.h"
 #include "platform/windows/controls/spoken_label.h"
 #include "platform/windows/fields/date_field.h"
@@ -63,7 +62,10 @@ frmAddMeal::frmAddMeal(Session &session, const Navigator &navigator, const FoodP
   cmdSelectFood->setToolTip(QStringLiteral("Adds this food and stays here. (Enter on the food)"));
   resize(QSize(1060, 640).boundedTo(screen()->availableSize() * 9 / 10));
   const bool loaded = Guarded(session_, LoadingPickerFailure(), [&] {
-    if (picking_.forDay) AddDay(layout);
+    if (picking_.forDay) {
+      day_ = new PickedDay(session_, picking_, this);
+      layout->addWidget(day_);
+    }
     SSTab1 = new QTabWidget(this);
     SSTab1->setObjectName(QStringLiteral("SSTab1"));
     SSTab1->setAccessibleName(QStringLiteral("Foods"));
@@ -88,32 +90,6 @@ void frmAddMeal::AddHeading(QVBoxLayout *layout) {
   lblHeader->setWordWrap(true);
   row->addWidget(picture);
   row->addWidget(lblHeader, 1);
-}
-
-void frmAddMeal::AddDay(QVBoxLayout *layout) {
-  auto *row = new QHBoxLayout;
-  layout->addLayout(row);
-  auto *lblDate = new QLabel(QStringLiteral("&Date:"), this);
-  txtDate = new DateField(QStringLiteral("txtDate"), QStringLiteral("Date"), session_.locale, this);
-  txtDate->setFixedWidth(txtDate->fontMetrics().horizontalAdvance(QStringLiteral("00/00/0000000")));
-  txtDate->SetDate(picking_.date);
-  lblDate->setBuddy(txtDate);
-  QAbstractButton *cmdDate = AttachCalendar(session_, *txtDate, QStringLiteral("cmdDate"));
-  auto *lblMealType = new QLabel(QStringLiteral("&Meal:"), this);
-  cboMealType = new QComboBox(this);
-  cboMealType->setObjectName(QStringLiteral("cboMealType"));
-  for (const MealType &type : ReadMealTypes(session_.Data())) cboMealType->addItem(type.MealTypeDesc, type.MealTypeID);
-  cboMealType->setCurrentIndex(std::max(0, cboMealType->findData(picking_.MealTypeID)));
-  lblMealType->setBuddy(cboMealType);
-  row->addWidget(lblDate);
-  row->addWidget(txtDate);
-  row->addWidget(cmdDate);
-  row->addSpacing(12);
-  row->addWidget(lblMealType);
-  row->addWidget(cboMealType);
-  row->addStretch();
-  txtDate->setEnabled(!picking_.fixedDate);
-  cmdDate->setEnabled(!picking_.fixedDate);
 }
 
 void frmAddMeal::AddPages() {
@@ -146,11 +122,12 @@ frmAddMeal::Tab frmAddMeal::MakeTab(QWidget *page, BoundGrid *grid, QBoxLayout *
 }
 
 void frmAddMeal::AddButtons(QVBoxLayout *layout) {
+  lblAdded = new SpokenLabel(QStringLiteral("lblAdded"), this);
+  lblAdded->setSizePolicy(QSizePolicy::Ignored, QSizePolicy::Preferred);  // a long name shall not widen the window
+  layout->addWidget(lblAdded);
   auto *row = new QHBoxLayout;
   layout->addLayout(row);
-  lblAdded = new SpokenLabel(QStringLiteral("lblAdded"), this);
-  lblAdded->setSizePolicy(QSizePolicy::Ignored, QSizePolicy::Preferred);
-  row->addWidget(lblAdded, 1);
+  row->addStretch();
   cmdNewMeal = AddButton(row, QStringLiteral("cmdNewMeal"), QStringLiteral("&New Food..."),
                          QStringLiteral("Makes a food of your own and selects it."));
   cmdOK = AddButton(row, QStringLiteral("cmdOK"), QStringLiteral("&OK"),
@@ -226,9 +203,9 @@ void frmAddMeal::OnSearched() {
 FoodPicked frmAddMeal::Picked() const {
   const BoundGrid &grid = *CurrentTab().grid;
   FoodPicked picked;
-  if (picking_.forDay) {
-    picked.date = txtDate->Date();
-    picked.MealTypeID = cboMealType->currentData().toInt();
+  if (day_) {
+    picked.date = day_->Date();
+    picked.MealTypeID = day_->MealTypeID();
   }
   picked.servings = CurrentTab().servings->Field()->text();
   picked.MealID = static_cast<int>(grid.CurrentKey().value_or(0));
@@ -244,7 +221,7 @@ bool frmAddMeal::CheckPicked(const FoodPicked &picked) {
   if (!refusal) return true;
   session_.boxes.Critical(refusal->title, refusal->text);
   QLineEdit *field =
-      refusal->field == PickedField::Date ? static_cast<QLineEdit *>(txtDate) : CurrentTab().servings->Field();
+      refusal->field == PickedField::Date ? static_cast<QLineEdit *>(day_->DateBox()) : CurrentTab().servings->Field();
   field->setFocus();
   field->selectAll();
   return false;
@@ -257,8 +234,7 @@ bool frmAddMeal::AddPicked() {
   Guarded(session_, AddingFoodFailure(), [&] { added = picking_.add(EntryOf(session_, picked)); });
   if (added) {
     lblAdded->Tell(AddedText(CurrentTab().grid->CurrentField(QStringLiteral("MealDesc")).toString(), picked.servings,
-                             picking_.forDay ? cboMealType->currentText() : QString(),
-                             ShortDate(picked.date, session_.locale)));
+                             day_ ? day_->MealText() : QString(), ShortDate(picked.date, session_.locale)));
   }
   return added;
 }
@@ -295,7 +271,7 @@ void frmAddMeal::keyPressEvent(QKeyEvent *event) {
     QDialog::keyPressEvent(event);
   } else if (at == CurrentTab().servings->Field()) {
     if (AddPicked()) CurrentTab().grid->setFocus();
-  } else if (at == txtDate || qobject_cast<QComboBox *>(at)) {
+  } else if ((day_ && at == day_->DateBox()) || qobject_cast<QComboBox *>(at)) {
     CurrentTab().grid->setFocus();
   }
 }

@@ -7,7 +7,6 @@
 #include "core/session/navigator.h"
 
 class QBoxLayout;
-class QComboBox;
 class QPushButton;
 class QTabWidget;
 class QVBoxLayout;
@@ -15,10 +14,9 @@ class QVBoxLayout;
 namespace trimlog {
 
 class BoundGrid;
-class DateField;
 class FoodListPage;
 class FoodSearchPage;
-class NumberField;
+class PickedDay;
 class RowButton;
 class ServingsField;
 class ServingsSelector;
@@ -46,7 +44,6 @@ class frmAddMeal : public QDialog {
     ServingsField *servings = nullptr;
   };
   void AddHeading(QVBoxLayout *layout);
-  void AddDay(QVBoxLayout *layout);
   void AddPages();
   Tab MakeTab(QWidget *page, BoundGrid *grid, QBoxLayout *gridRow, int index);
   void AddButtons(QVBoxLayout *layout);
@@ -67,8 +64,7 @@ class frmAddMeal : public QDialog {
   const FoodPicking picking_;
   const FoodListKind &kind_;
   int listAtFirst_ = 0;
-  DateField *txtDate = nullptr;
-  QComboBox *cboMealType = nullptr;
+  PickedDay *day_ = nullptr;  ///< none for an ingredient
   QTabWidget *SSTab1 = nullptr;
   FoodListPage *listPage_ = nullptr;
   FoodSearchPage *searchPage_ = nullptr;

@@ -38,6 +38,7 @@ ServingsField::ServingsField(int index, const QLocale &locale, ServingsSelector 
   layout->addWidget(label);
   layout->addWidget(txtServ);
   layout->addWidget(cmdServ);
+  setSizePolicy(QSizePolicy::Fixed, QSizePolicy::Preferred);
   connect(cmdServ, &QToolButton::clicked, this, [this] { selector_.OpenFor(*txtServ); });
 }
 
