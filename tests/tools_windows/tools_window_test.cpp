@@ -188,8 +188,16 @@ TEST_F(ToolsWindow, OpensWithoutScrollBarsAndStaysOnTheScreen) {
       EXPECT_TRUE(scroll->widget()->height() >= scroll->widget()->heightForWidth(scroll->widget()->width())) << weight;
     }
   }
+  // A bar that a smaller window needed goes with the need.
+  const QSize roomy = window->size();
+  window->resize(roomy.width(), roomy.height() / 2);
+  QCoreApplication::processEvents();
+  ASSERT_TRUE(window->findChild<QScrollArea *>()->verticalScrollBar()->isVisible());
+  for (const int tool : {1, 0}) Find<QComboBox>(*window, "cboTools").setCurrentIndex(tool);
+  QCoreApplication::processEvents();
+  EXPECT_FALSE(window->findChild<QScrollArea *>()->verticalScrollBar()->isVisible());
   window->move(600, 500);
-  Find<QComboBox>(*window, "cboTools").setCurrentIndex(0);
+  Find<QComboBox>(*window, "cboTools").setCurrentIndex(1);
   EXPECT_TRUE(window->screen()->availableGeometry().contains(window->frameGeometry()))
       << "no title bar above the screen and no button below it";
 }

@@ -127,6 +127,10 @@ void frmTools::AddButtons(QLayout *layout) {
   });
 }
 
+int frmTools::PanelsHeight(int width) const {
+  return std::max(panels_->minimumSizeHint().height(), panels_->heightForWidth(width));
+}
+
 void frmTools::FitToPanels() {
   // Captions may just have grown: their rows must know before they are asked.
   for (QWidget *page : Pages()) page->layout()->activate();
@@ -134,13 +138,24 @@ void frmTools::FitToPanels() {
   const QSize room = screen()->availableSize() - QSize(16, 48);
   const int others = layout()->sizeHint().height() - scroll_->sizeHint().height();
   const int width = panels_->sizeHint().expandedTo(panels_->minimumSizeHint()).width();
-  // How high the notes are is known only once their width is.
-  const int height = std::max(panels_->minimumSizeHint().height(), panels_->heightForWidth(width));
+  const int height = PanelsHeight(width);
   // A bar at the right must not make one at the bottom necessary.
   const bool scrolls = height + others > room.height();
   const int bar = scrolls ? style()->pixelMetric(QStyle::PM_ScrollBarExtent, nullptr, this) : 0;
   resize(QSize(width + bar, height + others).expandedTo(size()).boundedTo(room));
+  ShowBarWhereNeeded();
   if (isVisible()) KeepOnScreen();
+}
+
+// A bar narrows the notes, which makes them higher: asked with the bar in place, it would keep itself necessary.
+void frmTools::ShowBarWhereNeeded() {
+  const bool fits = PanelsHeight(scroll_->width()) <= scroll_->height();
+  scroll_->setVerticalScrollBarPolicy(fits ? Qt::ScrollBarAlwaysOff : Qt::ScrollBarAsNeeded);
+}
+
+void frmTools::resizeEvent(QResizeEvent *event) {
+  QDialog::resizeEvent(event);
+  ShowBarWhereNeeded();
 }
 
 void frmTools::KeepOnScreen() {

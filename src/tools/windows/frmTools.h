@@ -28,6 +28,7 @@ class frmTools : public QDialog {
   void done(int result) override;
 
  protected:
+  void resizeEvent(QResizeEvent *event) override;
   void showEvent(QShowEvent *event) override;
 
  private:
@@ -45,8 +46,11 @@ class frmTools : public QDialog {
   void LeaveFor(const std::function<void()> &door);
   void SelectTool(int index);
   void FillTool();
+  /// How high the panels are at a width, which their notes wrap at.
+  int PanelsHeight(int width) const;
   /// Grows the window until no panel is cut, as far as the screen allows.
   void FitToPanels();
+  void ShowBarWhereNeeded();
   void KeepOnScreen();
   void FollowChange(const DataChange &change);
   void PrintResults();
