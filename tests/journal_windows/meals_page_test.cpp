@@ -128,6 +128,21 @@ TEST_F(MealsPageTest, TheQuestionAnswersOnceAndItsOptionsForever) {
   EXPECT_EQ(Stored("Amount", row), "7");
 }
 
+TEST_F(MealsPageTest, AClickOnAnotherRowAnswersTheQuestionAndGoesThere) {
+  const int first = Eat(dayOne, 1);
+  const int second = Eat(dayOne, 2);
+  Open();
+  GoTo(first, "Amount");
+  QTest::keyClicks(&Focus(), QStringLiteral("3"));
+  WhenModal([](QWidget &window) { QTest::keyClick(&window, Qt::Key_Return); });
+  ClickRow(second, "Nut1");
+  EXPECT_EQ(Stored("Amount", first), "3");
+  EXPECT_EQ(Stored("Calories", first), "300");
+  EXPECT_EQ(Grid().CurrentKey(), second);
+  EXPECT_EQ(Grid().CurrentColumn(), "Nut1");
+  EXPECT_EQ(Total(1), "500");
+}
+
 TEST_F(MealsPageTest, AValueThatNoCellCanHoldLeavesTheRowAsItWas) {
   ShowNutrients({nutrient_id::calories, nutrient_id::netCarbs});
   session->settings.ConfirmMealsUpdates = 1;

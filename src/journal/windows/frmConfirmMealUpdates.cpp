@@ -1,5 +1,6 @@
 #include "journal/windows/frmConfirmMealUpdates.h"
 
+#include <QGroupBox>
 #include <QPushButton>
 #include <QVBoxLayout>
 
@@ -15,6 +16,7 @@ frmConfirmMealUpdates::frmConfirmMealUpdates(Session &session, QWidget *owner) :
   auto *layout = new QVBoxLayout(this);
   AddNote(layout, QStringLiteral("lblQuestion"),
           QStringLiteral("Adjust the Nutrients for this meal to reflect the new serving size?"));
+  layout->addSpacing(6);
   QHBoxLayout *answers = AddRow(layout);
   answers->addStretch();
   auto *cmdOK = AddButton<QPushButton>(answers, QStringLiteral("cmdOK"), QStringLiteral("&Yes"));
@@ -23,15 +25,17 @@ frmConfirmMealUpdates::frmConfirmMealUpdates(Session &session, QWidget *owner) :
   connect(cmdOK, &QPushButton::clicked, this, &QDialog::accept);
   connect(cmdNo, &QPushButton::clicked, this, &QDialog::reject);
 
-  AddHeading(layout, QStringLiteral("lblFromNowOn"), QStringLiteral("From now on:"));
+  auto *fromNowOn = new QGroupBox(QStringLiteral("From now on"), this);
+  auto *choices = new QVBoxLayout(fromNowOn);
+  layout->addWidget(fromNowOn);
   const QStringList captions = {QStringLiteral("Ne&ver Adjust"), QStringLiteral("&Always Adjust"),
                                 QStringLiteral("Always As&k Me What to do")};
   for (int choice = 0; choice < captions.size(); ++choice) {
-    options_.append(AddOption(layout, QStringLiteral("optConfirmMealUpdates%1").arg(choice), captions.at(choice)));
+    options_.append(AddOption(choices, QStringLiteral("optConfirmMealUpdates%1").arg(choice), captions.at(choice)));
   }
   GroupOptions(this, options_);
   options_.value(session.settings.ConfirmMealsUpdates, options_.last())->setChecked(true);
-  layout->setSizeConstraint(QLayout::SetFixedSize);
+  setMinimumWidth(fontMetrics().averageCharWidth() * 56);
   cmdOK->setFocus();
 }
 
