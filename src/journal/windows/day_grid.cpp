@@ -49,7 +49,8 @@ BoundGrid *MakeDayGrid(const JournalParts &parts, const DayGridNames &names, QWi
   Session &session = parts.session;
   auto *grid = new BoundGrid(names.grid, names.label, session.locale, parent);
   grid->recordSource = names.recordSource;
-  grid->KeepWidths(session.store, settingsRoot + QStringLiteral("\\Grids\\") + names.grid);
+  const QString place = parts.day.Kind().isSmall ? QStringLiteral("\\Grids\\Small\\") : QStringLiteral("\\Grids\\");
+  grid->KeepWidths(session.store, settingsRoot + place + names.grid);
   grid->SetDatePicker(CalendarForGrid(session));
   PaintOddRows(grid, session.profile.BackColor);
   GridHooks &hooks = grid->Hooks();

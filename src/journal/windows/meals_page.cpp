@@ -111,6 +111,7 @@ void MealsPage::ConnectGrid() {
   hooks.afterCell = [this](GridRowEdit &row, const QString &column) { FollowCell(row, column); };
   connect(&grdMeals->Model(), &GridModel::CellEdited, this, [this](int, const QString &column) { AfterCell(column); });
   connect(&grdMeals->Model(), &GridModel::RowStateChanged, this, &MealsPage::UpdateTotals);
+  connect(&grdMeals->Model(), &QAbstractItemModel::modelReset, this, &MealsPage::UpdateTotals, Qt::QueuedConnection);
   FollowCurrentRow(*grdMeals, day_);
   connect(grdMeals, &BoundGrid::CurrentRowChanged, this, &MealsPage::OnRow);
 }

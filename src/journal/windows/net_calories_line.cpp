@@ -13,6 +13,7 @@ NetCaloriesLine::NetCaloriesLine(Session &session, const QString &name, QWidget 
     : QWidget(parent), text_(new ResultText(name, this)) {
   auto *line = new QHBoxLayout(this);
   line->setContentsMargins(0, 0, 0, 0);
+  text_->setWordWrap(true);  // a narrow window shows all of it too
   line->addWidget(text_, 1);
   auto *pnlLearnMore =
       AddCommand(line, QStringLiteral("pnlLearnMore"), tr("&Learn More..."), tr("What net calories are."));
