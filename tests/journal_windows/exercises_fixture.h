@@ -41,9 +41,10 @@ class ExercisesPageTest : public ::testing::Test {
         "VALUES ( ?, ?, ?, ?, 'brisk', '2 miles', ?, 2 );",
         {key, name, minutes, calories, sets});
   }
-  void Weigh(double weight, const QDate &date = exerciseDay) {
+  void Weigh(double weight) {
     session.Data().Execute(
-        "INSERT INTO weight_loss ( PersonID, ThisDate, ThisWeight, ThisLoss ) VALUES ( 1, ?, ?, 0 );", {date, weight});
+        "INSERT INTO weight_loss ( PersonID, ThisDate, ThisWeight, ThisLoss ) VALUES ( 1, ?, ?, 0 );",
+        {exerciseDay, weight});
   }
   int AddEntry(const QString &minutes, double calories, const QDate &date = exerciseDay, int exercise = 9001) {
     ActivityEntry entry;

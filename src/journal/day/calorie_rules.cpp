@@ -1,5 +1,7 @@
 #include "journal/day/calorie_rules.h"
 
+#include <cmath>
+
 #include "core/session/session.h"
 #include "health/body_formulas.h"
 #include "platform/store/recordset.h"
@@ -16,6 +18,12 @@ constexpr double referenceKilograms = 68;
 
 double MinutesFactor(double storedMinutes, double newMinutes) {
   return storedMinutes == 0 ? 1 : newMinutes / storedMinutes;
+}
+
+double CaloriesTimes(double calories, double factor) {
+  const double product = calories * factor;
+  if (!std::isfinite(product)) throw Error(error_number::overflow, QStringLiteral("Overflow"));
+  return product;
 }
 
 double ReferenceBodyWeight(int UomID) { return UomID == poundsSystem ? referencePounds : referenceKilograms; }

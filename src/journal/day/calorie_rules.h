@@ -14,6 +14,9 @@ inline const QString caloriesPattern = QStringLiteral("0.###");
 /// were stored (0), since nothing can be concluded from them.
 double MinutesFactor(double storedMinutes, double newMinutes);
 
+/// Calories times such a factor, unrounded. Throws overflow for what no number can hold.
+double CaloriesTimes(double calories, double factor);
+
 /// The calories of listed exercises are stated for a body of this weight: 150 lbs or 68 kg.
 double ReferenceBodyWeight(int UomID);
 

@@ -58,7 +58,7 @@ ActivityEntry EntryOf(const Session &session, const ListedExercise &exercise, co
           .ActivityID = exercise.ActivityID,
           .Duration = minutes ? PlainText(*minutes) : QString(),
           .Pace = exercise.Pace,
-          .Calories = CaloriesAtStart(session, exercise, date, byWeight) * factor,
+          .Calories = CaloriesTimes(CaloriesAtStart(session, exercise, date, byWeight), factor),
           .Amount = exercise.Amount,
           .Sets = exercise.Sets,
           .Reps = exercise.Reps};
@@ -68,9 +68,10 @@ void TakeOverExercise(const Session &session, GridRowEdit &entry, bool byWeight)
   const auto exercise = ReadExercise(session, entry.Get(QStringLiteral("ActivityID")).toInt());
   if (!exercise) return;
   const QDate date = entry.Get(QStringLiteral("ThisDate")).toDate();
+  const double calories = CaloriesAtStart(session, *exercise, date, byWeight);  // may throw: before anything is set
   entry.Set(QStringLiteral("Duration"), exercise->Duration);
   entry.Set(QStringLiteral("Pace"), exercise->Pace);
-  entry.Set(QStringLiteral("Calories"), CaloriesAtStart(session, *exercise, date, byWeight));
+  entry.Set(QStringLiteral("Calories"), calories);
   entry.Set(QStringLiteral("Amount"), exercise->Amount);
   entry.Set(QStringLiteral("Sets"), CountOf(exercise->Sets));
   entry.Set(QStringLiteral("Reps"), CountOf(exercise->Reps));
@@ -80,7 +81,7 @@ void AdjustCaloriesToMinutes(GridRowEdit &entry) {
   const QString duration = QStringLiteral("Duration");
   const QString calories = QStringLiteral("Calories");
   const double factor = MinutesFactor(MinutesIn(entry.StoredValue(duration)), MinutesIn(entry.Get(duration)));
-  entry.Set(calories, entry.Get(calories).toDouble() * factor);
+  entry.Set(calories, CaloriesTimes(entry.Get(calories).toDouble(), factor));
 }
 
 }  // namespace trimlog

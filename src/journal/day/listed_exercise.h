@@ -50,10 +50,10 @@ ActivityEntry EntryOf(const Session &session, const ListedExercise &exercise, co
                       std::optional<double> minutes, bool byWeight);
 
 /// An entry takes another exercise: all its values come from the list, the calories as EntryOf makes them. An exercise
-/// that is gone changes nothing.
+/// that is gone changes nothing. Throws overflow before anything is changed.
 void TakeOverExercise(const Session &session, GridRowEdit &entry, bool byWeight);
 
-/// The minutes of an entry were changed: its calories follow, by the minutes that are stored.
+/// The minutes of an entry were changed: its calories follow, by the minutes that are stored. Throws overflow.
 void AdjustCaloriesToMinutes(GridRowEdit &entry);
 
 }  // namespace trimlog

@@ -26,10 +26,18 @@ namespace trimlog {
 
 namespace {
 
-enum ConfirmUpdates { NeverAdjust = 0, AlwaysAdjust = 1, AskToAdjust = 2 };
+// Values of the setting ConfirmExerciseUpdates; 0 never adjusts.
+constexpr int alwaysAdjust = 1;
+constexpr int askToAdjust = 2;
 
 const QString exerciseColumn = QStringLiteral("ActivityID");
 const QString minutesColumn = QStringLiteral("Duration");
+
+FailureExit CaloriesFailure() {
+  return {QStringLiteral("basDiaryFunctions"), QStringLiteral("grdActivities_AfterColUpdate"),
+          QStringLiteral("Error Adjusting Calories"),
+          QStringLiteral("The calories of this exercise could not be adjusted.  "), true};
+}
 
 /// A door that leads nowhere yet disables what would open it, and says so.
 void DisableWithout(bool leads, QPushButton &button) {
@@ -163,20 +171,24 @@ void ExercisesPage::ShowRowState() {
   if (!day_.IsSingleDate()) ShowTotals();
 }
 
+// Figures that no number can hold leave the row as it was.
 void ExercisesPage::OnCell(GridRowEdit &row, const QString &column) {
+  std::function<void()> follow;
   if (column == exerciseColumn) {
-    TakeOverExercise(session_, row, session_.settings.RecalcCalories && day_.Kind().scalesByWeight);
-    return;
+    follow = [&] { TakeOverExercise(session_, row, session_.settings.RecalcCalories && day_.Kind().scalesByWeight); };
+  } else if (column == minutesColumn && WantsCaloriesAdjusted()) {
+    follow = [&] { AdjustCaloriesToMinutes(row); };
   }
-  if (column != minutesColumn) return;
-  const int confirm = session_.settings.ConfirmExerciseUpdates;
-  const bool adjust =
-      confirm == AlwaysAdjust ||
-      (confirm == AskToAdjust &&
-       session_.boxes.Ask(
-           QStringLiteral("Adjust Calories Burned"),
-           QStringLiteral("Adjust the Calories Burned for this exercise to reflect the new minutes of activity?")));
-  if (adjust) AdjustCaloriesToMinutes(row);
+  if (follow && !Guarded(session_, CaloriesFailure(), follow)) row.Undo(column);
+}
+
+bool ExercisesPage::WantsCaloriesAdjusted() {
+  if (session_.settings.ConfirmExerciseUpdates != askToAdjust) {
+    return session_.settings.ConfirmExerciseUpdates == alwaysAdjust;
+  }
+  return session_.boxes.Ask(
+      QStringLiteral("Adjust Calories Burned"),
+      QStringLiteral("Adjust the Calories Burned for this exercise to reflect the new minutes of activity?"));
 }
 
 // A chosen exercise is followed by its minutes, wherever the list was left; keys that go on go on from there.

@@ -34,6 +34,7 @@ class ExercisesPage : public JournalPage {
   void MakeGrid(const JournalParts &parts, QVBoxLayout &content);
   void FollowOthers();
   void OnCell(GridRowEdit &row, const QString &column);
+  bool WantsCaloriesAdjusted();
   void OnCellEdited(const QString &column);
   void OnNew();
   void OnAdded(int recordID, const QDate &date);
