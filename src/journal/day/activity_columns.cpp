@@ -31,7 +31,7 @@ std::shared_ptr<const GridLookup> ExerciseLookup() {
   return std::make_shared<const GridLookup>(
       GridLookup{.source = ListedExercises(),
                  .text = QStringLiteral("ActivityDesc"),
-                 .columns = {column(QStringLiteral("ActivityDesc"), QStringLiteral("Exercise Description"), 36),
+                 .columns = {column(QStringLiteral("ActivityDesc"), QStringLiteral("Exercise Description"), 40),
                              column(QStringLiteral("Duration"), QStringLiteral("Duration"), 8, GridType::NumberText),
                              column(QStringLiteral("Pace"), QStringLiteral("Pace"), 14),
                              column(QStringLiteral("Calories"), QStringLiteral("Cal"), 7, GridType::Number),

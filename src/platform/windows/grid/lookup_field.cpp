@@ -4,6 +4,7 @@
 #include <QHeaderView>
 #include <QKeyEvent>
 #include <QScreen>
+#include <QScrollBar>
 #include <QVBoxLayout>
 #include <algorithm>
 
@@ -54,8 +55,8 @@ void LookupField::ShowList() {
   if (!list_) MakeList();
   if (list_->isVisible()) return;
   const QRect screenRect = screen()->availableGeometry();
-  int wanted = 30;
-  for (const GridColumn &column : lookup_.columns) wanted += fontMetrics().averageCharWidth() * column.width + 10;
+  const int wanted =
+      grid_->horizontalHeader()->length() + grid_->verticalScrollBar()->sizeHint().width() + 4 * list_->frameWidth();
   const int width = std::min(std::max(this->width(), wanted), screenRect.width());
   const int height = std::min(grid_->verticalHeader()->defaultSectionSize() * 12 + 30, screenRect.height() / 2);
   QPoint place = mapToGlobal(rect().bottomLeft());
