@@ -147,6 +147,19 @@ TEST_F(MeasurementsTest, BodyFatFollowsTheWaistUnlessItIsTypedOver) {
   Box(window, "Waist").setFocus(Qt::TabFocusReason);
   window.Leave();
   EXPECT_EQ(Text(window, "BodyFat"), "19.5");
+  // The day is left by keys, from within the waist.
+  Type(window, "Waist", QStringLiteral("35"));
+  EXPECT_TRUE(window.day.Step(1));
+  EXPECT_EQ(Stored("Waist") + " " + Stored("BodyFat"), "35 15.22");
+  EXPECT_TRUE(window.day.Step(-1));
+  Type(window, "BodyFat", QStringLiteral("19.5"));
+  QTest::keyClick(&Box(window, "BodyFat"), Qt::Key_Return);
+  EXPECT_EQ(Stored("BodyFat"), "19.5") << "Enter in the last box";
+  Type(window, "Waist", QStringLiteral("-36"));
+  session.boxes.Expect(QStringLiteral("Invalid Waist Size"), QStringLiteral("Please enter a valid Waist Size"));
+  EXPECT_FALSE(window.day.Step(1));
+  QTest::keyClick(&Box(window, "Waist"), Qt::Key_Escape);
+  EXPECT_EQ(Text(window, "BodyFat"), "19.5");
   QTest::mouseClick(&follows, Qt::LeftButton, {}, {5, follows.height() / 2});
   EXPECT_FALSE(session->settings.BodyFat);
   Type(window, "Waist", QStringLiteral("40"));
@@ -284,6 +297,7 @@ TEST_F(MeasurementsTest, DeletionAsksAndPrintingTellsWhenThereIsNothing) {
   AddMeasurements(*session, today.addDays(-7), {41, 36, 42, 13, 11, 22, 15, 21.5});
   AddMeasurements(*session, today, {40.5, 35, 42.25, 13, 11, 22, 15, 20});
   Window window(*session);
+  EXPECT_FALSE(window.Get<QWidget>("cmdNewMeasurement").isEnabled());
   window.Click("cmdPrintMeasurement");
   ASSERT_EQ(session.printing.lists.size(), 1u);
   const PrintedList &list = session.printing.lists.front();
@@ -298,6 +312,8 @@ TEST_F(MeasurementsTest, DeletionAsksAndPrintingTellsWhenThereIsNothing) {
   }
   EXPECT_EQ(MeasurementsOn(*session, today), std::nullopt);
   EXPECT_FALSE(Box(window, "Chest").isEnabled());
+  EXPECT_TRUE(window.Get<QWidget>("cmdNewMeasurement").isEnabled());
+  EXPECT_FALSE(window.Get<QWidget>("cmdDeleteMeasurement").isEnabled());
   session.boxes.Expect(QStringLiteral("No Data to Print"),
                        QStringLiteral("There is currently no journal data to print."));
   window.Click("cmdPrintMeasurement");

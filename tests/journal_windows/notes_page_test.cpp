@@ -292,6 +292,28 @@ TEST_F(NotesTest, TheListIsChangedLikeTheBoxAndKeepsOneNoteADay) {
   EXPECT_EQ(Stored(QDate(1899, 1, 1)), "new");
 }
 
+TEST_F(NotesTest, RowsArePastedEvenOntoADayThatHasANoteAndStayToBeChanged) {
+  AddNote(*session, today, QStringLiteral("a"));
+  AddNote(*session, today.addDays(-1), QStringLiteral("b"));
+  session->settings.LastDiaryView = 1;
+  Window window(*session);
+  BoundGrid &grid = Grid(window);
+  grid.setFocus();
+  grid.MarkRows({1, 2});
+  GridClipboard copied;
+  ASSERT_TRUE(grid.CopyRows(copied));
+  const qint64 before = Commits();
+  EXPECT_TRUE(grid.PasteRows(copied));
+  EXPECT_EQ(Commits(), before + 1);
+  EXPECT_EQ(grid.Model().RecordCount(), 4);
+  ASSERT_TRUE(grid.GoToKey(4));
+  grid.setCurrentIndex(grid.currentIndex().siblingAtColumn(1));
+  QTest::keyClick(&grid, Qt::Key_F2);
+  QTest::keyClicks(grid.OpenEditor(), QStringLiteral("second of its day"));
+  EXPECT_TRUE(window.page->SaveOpenEdit() == EditOutcome::Saved);
+  EXPECT_EQ(NoteText(*session, 4).toStdString(), "second of its day");
+}
+
 TEST_F(NotesTest, TheLinesOfTheListAreRemembered) {
   AddNote(*session, today, QStringLiteral("a"));
   session->settings.LastDiaryView = 1;

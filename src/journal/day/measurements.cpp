@@ -10,8 +10,9 @@ namespace trimlog {
 
 namespace {
 
-/// Without the dust that subtracting decimals in binary leaves: 11 - 10.755 is 0.245.
-double Lost(double before, double after) { return RoundHalfAway(before - after, 9); }
+/// Without the dust that decimals leave in binary: 11 - 10.755 is 0.245.
+double WithoutDust(double value) { return RoundHalfAway(value, 9); }
+double Lost(double before, double after) { return WithoutDust(before - after); }
 
 }  // namespace
 
@@ -60,7 +61,7 @@ std::optional<QString> BodyFatFromWaist(const Session &session, const QString &w
   const std::optional<double> size = ParseNumber(waist, session.locale);
   if (!size || !date.isValid()) return std::nullopt;
   const double fraction = CalcBodyFat(session, *size, 0, 0, date);
-  return Format(fraction * 100, QStringLiteral("Fixed"), session.locale);
+  return Format(WithoutDust(fraction * 100), QStringLiteral("Fixed"), session.locale);
 }
 
 }  // namespace trimlog

@@ -206,6 +206,7 @@ void MeasurementBoxes::ShowDifferences() {
 }
 
 EditOutcome MeasurementBoxes::Save() {
+  if (boxes_[waistField]->isModified()) BodyFatFollowsWaist();
   std::map<std::size_t, std::optional<double>> typed;
   for (std::size_t field = 0; field < boxes_.size(); ++field) {
     if (!boxes_[field]->isModified()) continue;
@@ -260,7 +261,11 @@ bool MeasurementBoxes::OnKey(std::size_t field, int key) {
   const bool down = key == Qt::Key_Down || key == Qt::Key_Return || key == Qt::Key_Enter;
   if (down || key == Qt::Key_Up) {
     const std::size_t target = down ? field + 1 : field - 1;
-    if (target < boxes_.size()) boxes_[target]->setFocus(Qt::TabFocusReason);
+    if (target < boxes_.size()) {
+      boxes_[target]->setFocus(Qt::TabFocusReason);
+    } else {
+      Save();
+    }
     return true;
   }
   if (key != Qt::Key_Escape || !boxes_[field]->isModified()) return false;
@@ -277,7 +282,7 @@ void MeasurementBoxes::OnEntered(std::size_t field) {
 
 void MeasurementBoxes::OnLeft(std::size_t field, bool byThePerson) {
   if (saving_ || !IsMeasurement(boxes_[field]->text(), session_.locale, true)) return;
-  if (field == waistField && byThePerson) BodyFatFollowsWaist();
+  if (field == waistField && (byThePerson || boxes_[field]->isModified())) BodyFatFollowsWaist();
   // No box can open while the focus is on its way. A window of ours that is left shows no other figures than the next.
   QMetaObject::invokeMethod(this, &MeasurementBoxes::SaveLeft, Qt::QueuedConnection);
 }
@@ -295,10 +300,12 @@ void MeasurementBoxes::SaveLeft() {
 // A figure that was typed over the estimate is not lost by walking through the waist.
 void MeasurementBoxes::BodyFatFollowsWaist() {
   NumberField *const fat = boxes_[bodyFatField];
-  const bool wanted = boxes_[waistField]->text() != waistEntered_ || fat->ValueOrZero() == 0;
+  const QString waist = boxes_[waistField]->text();
+  if (!IsMeasurement(waist, session_.locale, false)) return;
+  const bool wanted = std::exchange(waistEntered_, waist) != waist || fat->ValueOrZero() == 0;
   if (!chkBodyFat->isChecked() || !wanted) return;
   std::optional<QString> estimate;
-  GuardedQuietly([&] { estimate = BodyFatFromWaist(session_, boxes_[waistField]->text(), date_); });
+  GuardedQuietly([&] { estimate = BodyFatFromWaist(session_, waist, date_); });
   if (!estimate || fat->text() == *estimate) return;
   fat->setText(*estimate);
   fat->setModified(true);
