@@ -133,6 +133,7 @@ TEST_F(AddActivityTest, ANewExerciseIsMadeOnTheSpotAndSelected) {
     ASSERT_TRUE(QTest::qWaitForWindowActive(&window));
     EXPECT_EQ(window.windowTitle(), "Create a New Exercise or Workout");
     EXPECT_EQ(window.focusWidget()->objectName(), "txtActivityDesc");
+    EXPECT_TRUE(Find<QLabel>(window, "lblReferenceWeight").text().endsWith("for a body of 150 lbs."));
     session.boxes.Expect("Description Required", "Please enter a description for this exercise.");
     Click(window, "cmdOK");
     TypeInto(window, "txtActivityDesc", "Juggling");

@@ -218,6 +218,21 @@ TEST_F(ExercisesPageTest, EachWindowShowsItsOwnEntries) {
   EXPECT_GE(Grid().viewport()->height(), 3 * Grid().rowHeight(0));
 }
 
+TEST_F(ExercisesPageTest, EachViewHasItsLayoutFile) {
+  for (const char *file : {"view_single_activities.grd", "view_all_activities.grd"}) {
+    QFile layout(session.directory.filePath(QLatin1String(file)));
+    ASSERT_TRUE(layout.open(QIODevice::WriteOnly));
+    layout.write(file[5] == 's' ? "Pace hidden\n" : "Sets hidden\n");
+  }
+  const auto hidden = [this](const char *column) {
+    return Grid().isColumnHidden(Grid().Model().ColumnByName(QLatin1String(column)));
+  };
+  Open();
+  EXPECT_TRUE(hidden("Pace") && !hidden("Sets") && hidden("ThisDate"));
+  day->ShowView(JournalView::AllDates);
+  EXPECT_TRUE(!hidden("Pace") && hidden("Sets") && !hidden("ThisDate"));
+}
+
 TEST_F(ExercisesPageTest, RowsArePastedToTheDayShownAndDeleted) {
   AddEntry("30", 200.25);
   Open();
@@ -269,6 +284,16 @@ TEST_F(ExercisesPageTest, NewOpensTheDialogForTheDayAndGoesToWhatItStored) {
   Open(JournalKind::Diary(), JournalView::AllDates);
   Click("cmdNewActivity");
   EXPECT_EQ(proposed, session->Today()) << "no row says which day is meant";
+
+  onAdd = [](const EntryOpening &opening) { opening.stored(77, exerciseDay); };
+  Click("cmdNewActivity");
+  EXPECT_TRUE(session.LogLines().last().endsWith("basMain, AddRec, Unable to find a match for criteria: RecordID=77"));
+  doors.AddActivity = nullptr;
+  Open();
+  for (const char *button : {"cmdNewActivity", "cmdExerciseSetup"}) {
+    EXPECT_FALSE(Find<QPushButton>(*page, button).isEnabled());
+    EXPECT_EQ(Find<QPushButton>(*page, button).toolTip(), leadsNowhere);
+  }
 }
 
 TEST_F(ExercisesPageTest, PrintsTheRowsAndWhatStandsBelowThem) {
@@ -288,6 +313,13 @@ TEST_F(ExercisesPageTest, PrintsTheRowsAndWhatStandsBelowThem) {
   EXPECT_EQ(list.closing[1].join('|'), "Daily Totals (2/10/2026):|40||300.5|||");
   EXPECT_EQ(list.closing[2].first(), "-300.5 Net Calories");
   EXPECT_EQ(list.closing[3].first(), "Net Cal = 0 (Consumed) - 300.5 (Burned)");
+
+  AddActivity(*session, EntryKind::Planned, {exerciseDay, 9001, "12", "", 99, "", {}, {}});
+  Open(JournalKind::Planner());
+  page->Print();
+  EXPECT_EQ(session.printing.lists.back().heading, "Test Person: Planned Exercises for 2/10/2026");
+  ASSERT_EQ(session.printing.lists.back().closing.size(), 2U);
+  EXPECT_EQ(session.printing.lists.back().closing[1].first(), "Totals for 2/10/2026:");
 }
 
 }  // namespace
