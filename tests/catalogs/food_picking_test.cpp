@@ -209,7 +209,6 @@ TEST_F(FoodPickingTest, AnEntryIsASnapshotStoredUnderItsServingsAsTyped) {
 
   picked.MealID = 99999;
   EXPECT_THROW(EntryOf(*session, picked), Error);
-  EXPECT_TRUE(PickingForDay(*session, {.kind = JournalKind::Quick(), .date = {}}).fixedDate);
 }
 
 TEST_F(FoodPickingTest, OpensWithTheListAndOrderOfLastTimeWhereTheyAreStillThere) {

@@ -3,16 +3,13 @@
 
 #include <QTabWidget>
 
-#include "catalogs/nutrient_selection.h"
 #include "food_windows_fixture.h"
-#include "support/locales.h"
 
 namespace trimlog {
 namespace {
 
 class AddMealTest : public FoodWindowTest {
  protected:
-  explicit AddMealTest(const QLocale &locale = us) : FoodWindowTest(locale) {}
   void Open(const JournalKind &kind = JournalKind::Diary()) {
     opening.emplace(EntryOpening{
         .kind = kind, .date = {2026, 3, 1}, .MealTypeID = 3, .stored = [this](int recordID, const QDate &) {
@@ -182,29 +179,18 @@ TEST_F(AddMealTest, AFailedAddIsToldAndStays) {
   EXPECT_TRUE(session.LogLines().last().contains("basMain, AddRec"));
 }
 
-TEST_F(AddMealTest, TheQuickJournalsDateStands) {
-  Open(JournalKind::Quick());
-  EXPECT_FALSE(Find<QWidget>(*window, "txtDate").isEnabled());
-  EXPECT_FALSE(Find<QWidget>(*window, "cmdDate").isEnabled());
-  EXPECT_EQ(TextOf(*window, "txtDate"), "3/1/2026");
-  EXPECT_EQ(Find<QComboBox>(*window, "cboMealType").currentText(), "Lunch");
-}
-
 TEST_F(AddMealTest, TheSelectorFillsTheServings) {
   Open();
   Find<QWidget>(*window, "txtServ(0)").setFocus();
   Key(Qt::Key_F4);
   QWidget &selector = Find<QWidget>(*window, "fraServings");
   ASSERT_TRUE(selector.isVisible());
-  const auto toggle = [&](int i) -> QAbstractButton & {
-    return Find<QAbstractButton>(selector, QStringLiteral("pshServings(%1)").arg(i));
-  };
-  EXPECT_TRUE(toggle(8).isChecked());
-  QTest::mouseClick(&toggle(4), Qt::LeftButton);
-  EXPECT_EQ(TextOf(*window, "txtServ(0)"), "1.5");
-  QTest::mouseClick(&toggle(10), Qt::LeftButton);
+  const auto toggle = [&](const char *name) -> QAbstractButton & { return Find<QAbstractButton>(selector, name); };
+  EXPECT_TRUE(toggle("pshServings(8)").isChecked());
+  QTest::mouseClick(&toggle("pshServings(4)"), Qt::LeftButton);
+  QTest::mouseClick(&toggle("pshServings(10)"), Qt::LeftButton);
   EXPECT_EQ(TextOf(*window, "txtServ(0)"), "3.5");
-  EXPECT_TRUE(toggle(4).isChecked() && toggle(10).isChecked() && !toggle(8).isChecked());
+  EXPECT_TRUE(toggle("pshServings(4)").isChecked() && !toggle("pshServings(8)").isChecked());
   QTest::mouseClick(&Find<QAbstractButton>(selector, "pnlServingsClose"), Qt::LeftButton);
   EXPECT_FALSE(selector.isVisible());
   EXPECT_TRUE(window->isVisible());
@@ -231,7 +217,9 @@ TEST_F(AddMealTest, FindsInTheListAndSaysWhenNothingIsThere) {
 }
 
 TEST_F(AddMealTest, ANewFoodIsSelectedAndNothingInTheListCanBeChanged) {
+  session->windows.pickedFoodSort = "-Protein";
   Open();
+  EXPECT_EQ(Find<QComboBox>(*window, "cboSort").currentData(), "-Protein") << "the order of last time";
   Choose(*window, "cboRecordTypeMeals", -3);
   EXPECT_FALSE(Find<QPushButton>(*window, "cmdOK").isEnabled()) << "nothing was eaten lately";
   WhenModal([](QWidget &dialog) {
@@ -252,19 +240,10 @@ TEST_F(AddMealTest, ANewFoodIsSelectedAndNothingInTheListCanBeChanged) {
   EXPECT_EQ(session.ValueOf("Calories", "meals", "PersonID=1 AND RecordID=1"), "120");
 }
 
-TEST_F(AddMealTest, FollowsOtherNutrientsAndKeepsTheOrder) {
-  Open();
-  Choose(*window, "cboSort", "-Protein");
-  NutrientSelection selection = ReadNutrientSelection(*session);
-  selection[0] = {7, QStringLiteral("New"), true, {}};
-  SaveNutrientSelection(*session, selection);
-  EXPECT_EQ(List().Model().headerData(List().Model().ColumnByName("Nut1"), Qt::Horizontal).toString(), "New\n(mg)");
-  window->close();
-  Open();
-  EXPECT_EQ(Find<QComboBox>(*window, "cboSort").currentData(), "-Protein");
-}
-
-TEST_F(AddMealTest, AnIngredientHasNeitherDateNorMealAndMayBeRefused) {
+TEST_F(AddMealTest, TheDateMayBeFixedAndAnIngredientHasNeitherDateNorMeal) {
+  Open(JournalKind::Quick());
+  EXPECT_FALSE(Find<QWidget>(*window, "txtDate").isEnabled());
+  EXPECT_FALSE(Find<QWidget>(*window, "cmdDate").isEnabled());
   AddOwn("Aaa");
   std::vector<MealEntry> added;
   OpenForRecipe([&](const MealEntry &entry) {
@@ -281,22 +260,6 @@ TEST_F(AddMealTest, AnIngredientHasNeitherDateNorMealAndMayBeRefused) {
   EXPECT_EQ(Added(), "Added: 2 x Aaa");
   Click("cmdOK");
   EXPECT_TRUE(window->isVisible()) << "refused: it does not close";
-}
-
-class GermanAddMealTest : public AddMealTest {
- protected:
-  GermanAddMealTest() : AddMealTest(german) {}
-};
-
-TEST_F(GermanAddMealTest, CommaServingsAndCellsCount) {
-  const int own = AddOwn("Aaa");
-  session.Data().Execute("UPDATE meals_list SET Calories = 101, Fat = 1.5 WHERE (MealID=?);", {own});
-  Open();
-  TypeInto(*window, "txtServ(0)", "1,5");
-  Click("cmdSelectFood");
-  EXPECT_EQ(Entries().last(), "Aaa 1,5 3 2026-03-01");
-  EXPECT_EQ(session.ValueOf("Calories", "meals", "PersonID=1 AND RecordID=1"), "152");
-  EXPECT_EQ(session.ValueOf("Fat", "meals", "PersonID=1 AND RecordID=1"), "2.25");
 }
 
 }  // namespace
