@@ -3,7 +3,6 @@
 #include <QEvent>
 #include <QHeaderView>
 #include <QLabel>
-#include <QScrollBar>
 #include <algorithm>
 
 #include "core/windows/controls/figure_field.h"
@@ -15,7 +14,7 @@ namespace trimlog {
 
 namespace {
 
-constexpr int widestFigure = 8;  ///< digits that have room where a column has less
+constexpr int widestFigure = 12;  ///< digits that have room where a column has less
 
 FigureField *MakeTotal(const QString &name, const QString &spoken, QWidget *parent) {
   auto *figure = new FigureField(name, Qt::AlignRight | Qt::AlignVCenter, parent);
@@ -40,7 +39,6 @@ ExerciseTotalsRow::ExerciseTotalsRow(BoundGrid &grid, QWidget *parent)
   const auto align = [this] { Align(); };
   connect(grid.horizontalHeader(), &QHeaderView::sectionResized, this, align);
   connect(grid.horizontalHeader(), &QHeaderView::geometriesChanged, this, align);
-  connect(grid.horizontalScrollBar(), &QScrollBar::valueChanged, this, align);
   connect(&grid.Model(), &QAbstractItemModel::modelReset, this, align, Qt::QueuedConnection);
 }
 
@@ -50,22 +48,21 @@ void ExerciseTotalsRow::Tell(const ExerciseTotalsText &totals) {
   lblCaloriesActivities->ShowText(totals.calories);
 }
 
-// A column that is scrolled away or narrow leaves its total in sight, at the edge.
-void ExerciseTotalsRow::PutUnder(const QString &column, QWidget &figure) {
+// The figures stay where their columns stand while nothing is scrolled, within the row and beside each other.
+int ExerciseTotalsRow::PutUnder(const QString &column, QWidget &figure, int room) {
   const int at = grid_.Model().ColumnByName(column);
-  if (at < 0) return;
+  if (at < 0) return room;
   const int heads = grid_.viewport()->mapTo(grid_.parentWidget(), QPoint()).x() - x();
-  const int right = heads + grid_.columnViewportPosition(at) + grid_.columnWidth(at);
-  const int least = fontMetrics().averageCharWidth() * widestFigure + heads;
+  const int end = std::min(room, heads + grid_.horizontalHeader()->sectionPosition(at) + grid_.columnWidth(at));
   const int figureWidth = std::max(grid_.columnWidth(at), fontMetrics().averageCharWidth() * widestFigure);
-  const int end = std::clamp(right, least, std::max(least, width()));
   figure.setGeometry(end - figureWidth, 0, figureWidth, height());
+  return end - figureWidth;
 }
 
 void ExerciseTotalsRow::Align() {
-  PutUnder(QStringLiteral("Duration"), *lblMinutes);
-  PutUnder(QStringLiteral("Calories"), *lblCaloriesActivities);
-  lblTotalsActivities->setGeometry(0, 0, std::max(0, lblMinutes->x()), height());
+  const int left = PutUnder(QStringLiteral("Calories"), *lblCaloriesActivities, width());
+  lblTotalsActivities->setGeometry(0, 0, std::max(0, PutUnder(QStringLiteral("Duration"), *lblMinutes, left)),
+                                   height());
 }
 
 void ExerciseTotalsRow::resizeEvent(QResizeEvent *event) {

@@ -23,7 +23,7 @@ class ExerciseTotalsRow : public QWidget {
 
  private:
   void Align();
-  void PutUnder(const QString &column, QWidget &figure);
+  int PutUnder(const QString &column, QWidget &figure, int room);  ///< returns where it begins
 
   BoundGrid &grid_;
   QLabel *lblTotalsActivities;
