@@ -4,7 +4,6 @@
 #include <QFile>
 
 #include "journal/day/grid_layout.h"
-#include "journal/day/meal_columns.h"
 #include "journal/day/meal_edit.h"
 #include "journal/day/meal_texts.h"
 #include "platform/grid/grid_row_edit.h"
@@ -64,101 +63,38 @@ TEST(GridLayout, ABrokenFileIsPassedOverWithALogLine) {
       "LoadLayout, view_all_meals.grd is passed over: line 2 is no column and width: nonsense"));
 }
 
-/// An entry of a listed food with 100 calories, 10 g of carbs and a stored custom nutrient.
-class MealEditTest : public ::testing::Test {
- protected:
-  MealEditTest() {
-    session.Data().Execute(
-        QStringLiteral("INSERT INTO meals_list ( MealID, MealDesc, RecordTypeID, MealGroupID, Calories, Carbs, "
-                       "Custom1, CalFromFatPct, NetCarbs ) VALUES ( 900001, 'Food', 2, 1, 100, 10, 3, 40, 20000 );"));
-    Show({nutrient_id::calories, nutrient_id::carbs, nutrient_id::firstCustom, nutrient_id::calFromFatPct});
-    session->nutrients.SelectedNutrients[2].NutTotal = false;
-  }
-  void Show(const QList<int> &ids) {
-    for (int place = 0; place < shownNutrients; ++place) {
-      session->nutrients.SelectedNutrients[static_cast<std::size_t>(place)] = {ids.value(place), {}, true, {}};
-    }
-  }
-  /// The calories, carbs, custom nutrient and share after a change of a cell to a value.
-  std::string After(const QString &column, const Value &value) {
-    GridRowEdit row(1, false, [this](const QString &field) { return stored.value(field); });
-    row.Set(column, value);
-    FollowMealCell(*session, row, column, [this] { return ++asked, answer; });
-    QStringList told;
-    for (const char *field : {"Calories", "Carbs", "Custom1", "CalFromFatPct", "NetCarbs"}) {
-      told.append(row.Get(QLatin1String(field)).toString());
-    }
-    return told.join(u' ').toStdString();
-  }
+TEST(MealEdit, OnlyWhatHasDailyTotalsAndStillHasItsFoodFollows) {
   TestSession session;
-  QVariantMap stored{{"MealID", 900001}, {"Amount", "1"},        {"Calories", 77.0}, {"Carbs", 7.0},
-                     {"Custom1", 7.0},   {"CalFromFatPct", 7.0}, {"NetCarbs", 7}};
-  int asked = 0;
-  bool answer = true;
-};
-
-TEST_F(MealEditTest, ShownNutrientsFollowServingsAndFood) {
-  session->settings.ConfirmMealsUpdates = 2;
-  EXPECT_EQ(After("Amount", "2.5"), "250 25 7 40 7") << "not what has no daily totals, nor what is not shown";
-  answer = false;
-  EXPECT_EQ(After("Amount", "2.5"), "77 7 7 7 7");
-  EXPECT_EQ(asked, 2);
-  session->settings.ConfirmMealsUpdates = 0;
-  EXPECT_EQ(After("Amount", "2.5"), "77 7 7 7 7");
-  EXPECT_EQ(After("MealID", 900001), "100 10 3 40 7") << "another food brings its own, whatever the setting";
-  EXPECT_EQ(After("MealID", 123456789), "77 7 7 7 7") << "a food that is gone changes nothing";
   session->settings.ConfirmMealsUpdates = 1;
-  EXPECT_EQ(After("Nut1", 5.0), "77 7 7 7 7");
-  EXPECT_EQ(asked, 2);
+  session.Data().Execute(
+      "INSERT INTO meals_list ( MealID, MealDesc, RecordTypeID, MealGroupID, Calories, Custom1 ) "
+      "VALUES ( 900001, 'Food', 2, 1, 100, 3 );");
+  session->nutrients.SelectedNutrients = {};
+  session->nutrients.SelectedNutrients[0] = {nutrient_id::calories, {}, true, {}};
+  session->nutrients.SelectedNutrients[1] = {nutrient_id::firstCustom, {}, false, {}};
+  const auto after = [&](const QString &column, const Value &value) {
+    const QVariantMap stored{{"MealID", 900001}, {"Amount", "1"}, {"Calories", 77.0}, {"Custom1", 7.0}};
+    GridRowEdit row(1, false, [&stored](const QString &field) { return stored.value(field); });
+    row.Set(column, value);
+    FollowMealCell(*session, row, column, [] { return true; });
+    return (row.Get("Calories").toString() + u' ' + row.Get("Custom1").toString()).toStdString();
+  };
+  EXPECT_EQ(after("Amount", "2.5"), "250 7");
+  EXPECT_EQ(after("MealID", 900001), "100 3") << "its food again";
+  EXPECT_EQ(after("MealID", 123456789), "77 7") << "a food that is gone";
 }
 
-TEST_F(MealEditTest, WhatNoColumnCanHoldChangesNothing) {
-  session->settings.ConfirmMealsUpdates = 1;
-  Show({nutrient_id::calories, nutrient_id::netCarbs});
-  stored["Amount"] = "1";
-  GridRowEdit row(1, false, [this](const QString &field) { return stored.value(field); });
-  row.Set("Amount", "2");
-  row.Set("NetCarbs", 40000);
-  EXPECT_EQ(CheckMealRow(row), "Net carbs can be at most 32,767.");
-  row.Set("NetCarbs", 32767);
-  EXPECT_EQ(CheckMealRow(row), "");
-  session.Data().Execute(QStringLiteral("UPDATE meals_list SET Carbs = 20000 WHERE MealID = 900001;"));
-  row.Undo("NetCarbs");
-  EXPECT_THROW(FollowMealCell(*session, row, "Amount", [] { return true; }), Error);
-  EXPECT_EQ(row.Changes().size(), 1);
-}
-
-TEST(MealTexts, StandBelowTheListOnScreenAndPaper) {
+TEST(MealTexts, PlannedMealsPrintUnderTheirOwnWords) {
   const QLocale english(QLocale::English, QLocale::UnitedStates);
-  const auto caption = [&](const JournalKind &kind, JournalView view) {
-    return DailyTotalsCaption(kind, view, printedDay, english).toStdString();
-  };
-  EXPECT_EQ(caption(JournalKind::Diary(), JournalView::SingleDate), "Daily Totals  ");
-  EXPECT_EQ(caption(JournalKind::Planner(), JournalView::AllDates), "Daily Totals (3/28/2026)  ");
-  EXPECT_EQ(caption(JournalKind::Quick(), JournalView::SingleDate), "Daily Totals:");
-
-  const auto title = [&](const JournalKind &kind, JournalView view) {
-    return MealsPrintTitle(kind, view, printedDay, english).toStdString();
-  };
-  EXPECT_EQ(title(JournalKind::Diary(), JournalView::SingleDate), ": Meals Eaten on 3/28/2026");
-  EXPECT_EQ(title(JournalKind::Diary(), JournalView::AllDates), ": Meals Eaten for All Dates");
-  EXPECT_EQ(title(JournalKind::Planner(), JournalView::SingleDate), ": Planned Meals for 3/28/2026");
-  EXPECT_EQ(title(JournalKind::Planner(), JournalView::AllDates), ": Planned Meals for All Dates");
-
-  MealsClosing closing{.date = printedDay, .totals = {"600", "", "9.00"}};
+  const JournalKind &planner = JournalKind::Planner();
+  EXPECT_EQ(MealsPrintTitle(planner, JournalView::SingleDate, printedDay, english), ": Planned Meals for 3/28/2026");
+  EXPECT_EQ(MealsPrintTitle(planner, JournalView::AllDates, printedDay, english), ": Planned Meals for All Dates");
+  const MealsClosing closing{.date = printedDay, .totals = {"600", "", "9.00"}, .targets = {{"-50", "", "+1.00"}}};
   const QStringList columns = {"ThisDate", "MealID", "Amount", "Nut1", "Nut3", "GIValue"};
-  const auto lines = [&](const JournalKind &kind) {
-    QStringList told;
-    for (const QStringList &row : MealsClosingRows(kind, closing, columns, english)) told.append(row.join(u'|'));
-    return told.join(u'\n').toStdString();
-  };
-  EXPECT_EQ(lines(JournalKind::Diary()), "|||||\n|Daily Totals (3/28/2026):||600|9.00|");
-  EXPECT_EQ(lines(JournalKind::Planner()), "|||||\n|Totals for 3/28/2026:||600|9.00|");
-  closing.targets = {"-50", "", "+1.00"};
-  closing.netCalories = "-5 Net Calories       Net Cal = 600 (Consumed) - 605 (Burned)";
-  EXPECT_EQ(lines(JournalKind::Diary()),
-            "|||||\n|Daily Totals (3/28/2026):||600|9.00|\n|Over (+) or Under (-) Target:||-50|+1.00|\n"
-            "|-5 Net Calories||||\n|Net Cal = 600 (Consumed) - 605 (Burned)||||");
+  const std::vector<QStringList> rows = MealsClosingRows(planner, closing, columns, english);
+  ASSERT_EQ(rows.size(), 3U);
+  EXPECT_EQ(rows[1].join(u'|'), "|Totals for 3/28/2026:||600|9.00|");
+  EXPECT_EQ(rows[2].join(u'|'), "|Over (+) or Under (-) Target:||-50|+1.00|");
 }
 
 }  // namespace
