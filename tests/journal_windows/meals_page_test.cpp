@@ -325,6 +325,13 @@ TEST_F(MealsPageTest, WhatChangesElsewhereShowsAtOnce) {
   session->settings.NetCaloriesBMR = false;
   session->changes.AnnounceSettings();
   EXPECT_EQ(Label("lblTotalsMeals2"), "350 Net Calories       Net Cal = 500 (Consumed) - 150 (Burned)");
+  session->Data().Execute("UPDATE people SET BirthDate = #1/1/1980#, HeightFeet = 5, HeightInches = 5, GenderID = 2;");
+  session->Data().Execute("INSERT INTO weight_loss VALUES ( 1, #3/1/2026#, 150, 0 );");
+  session.Announce({.table = Table::WeightLoss});
+  session->settings.NetCaloriesBMR = true;
+  session->changes.AnnounceSettings();
+  EXPECT_TRUE(Label("lblTotalsMeals2").ends_with(" (BMR)"));
+  EXPECT_FALSE(Label("lblTotalsMeals2").ends_with(" 0 (BMR)")) << "the rate is read when it begins to count";
   session.boxes.Expect("About Net Calories", "Calories In - Calories Out");
   QTest::mouseClick(&Find<QPushButton>(*page, "pnlLearnMore"), Qt::LeftButton);
 

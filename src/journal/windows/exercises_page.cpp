@@ -39,13 +39,6 @@ FailureExit CaloriesFailure() {
           QStringLiteral("The calories of this exercise could not be adjusted.  "), true};
 }
 
-/// A door that leads nowhere yet disables what would open it, and says so.
-void DisableWithout(bool leads, QPushButton &button) {
-  if (leads) return;
-  button.setEnabled(false);
-  button.setToolTip(leadsNowhere);
-}
-
 }  // namespace
 
 ExercisesPage::ExercisesPage(const JournalParts &parts, QWidget *parent)

@@ -39,13 +39,6 @@ FailureExit ServingsFailure() {
           QStringLiteral("The nutrients of this food could not be adjusted.  "), true};
 }
 
-/// A door that leads nowhere yet disables what would open it, and says so.
-void DisableWithout(bool leads, QPushButton &button) {
-  if (leads) return;
-  button.setEnabled(false);
-  button.setToolTip(leadsNowhere);
-}
-
 void GoToColumn(BoundGrid &grid, const QString &column) {
   const QModelIndex row = grid.currentIndex();
   if (row.isValid()) grid.Selection().GoTo(row.siblingAtColumn(grid.Model().ColumnByName(column)));
@@ -61,17 +54,21 @@ MealsPage::MealsPage(const JournalParts &parts, QWidget *parent)
   const QString spare = QLatin1String(foodColumn);
   grdMeals->SetSpareColumn(spare);
   grdMeals->SetStayingColumn(spare);
-  grdMeals->SetPlaceholderText(QStringLiteral("Nothing is entered for this day.  Click New to add a food."));
+  const bool planned = parts.day.Kind().entries == EntryKind::Planned;
+  grdMeals->SetPlaceholderText(planned ? QStringLiteral("No food is planned.\nClick New to plan one.")
+                                       : QStringLiteral("No food yet.\nClick New to add one."));
   totals_ = new MealTotals(parts, *grdMeals, this);
   QVBoxLayout *const content = buttons_->LayOutPage();
   content->addWidget(grdMeals, 1);
   content->addWidget(totals_);
   AddButtons();
   ConnectGrid();
-  setTabOrder(grdMeals, buttons_);
   (new GridMenu(session_, navigator_, this))->Attach(*grdMeals);
   connect(&session_.changes, &DataChanges::Changed, this, &MealsPage::OnChanged);
-  connect(&session_.changes, &DataChanges::SettingsChanged, this, &MealsPage::UpdateTotals);
+  connect(&session_.changes, &DataChanges::SettingsChanged, this, [this] {
+    totals_->ForgetDay();  // the basal rate may count now
+    UpdateTotals();
+  });
 }
 
 // The rows speak to the page until they are gone.
@@ -83,7 +80,10 @@ void MealsPage::AddButtons() {
   cmdPrintMeal = buttons_->AddPrint(QStringLiteral("cmdPrintMeal"), QStringLiteral("Prints this list and its totals."));
   DisableWithout(static_cast<bool>(doors_.AddMeal), *cmdNewMeal);
   connect(cmdNewMeal, &QPushButton::clicked, this, &MealsPage::OnNew);
-  connect(cmdDeleteMeal, &QPushButton::clicked, this, [this] { grdMeals->DeleteSelected(); });
+  connect(cmdDeleteMeal, &QPushButton::clicked, this, [this] {
+    grdMeals->DeleteSelected();
+    grdMeals->setFocus();
+  });
   connect(cmdPrintMeal, &QPushButton::clicked, this, &MealsPage::Print);
   if (day_.Kind().isSmall) return buttons_->AddStretch();
   const auto addDoor = [this](const PageButton &button, const std::function<void(QWidget *)> &door) {

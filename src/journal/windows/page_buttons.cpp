@@ -3,6 +3,7 @@
 #include <QPushButton>
 #include <QVBoxLayout>
 
+#include "core/session/form_door.h"
 #include "core/windows/controls/art.h"
 
 namespace trimlog {
@@ -72,6 +73,12 @@ QVBoxLayout *PageButtons::LayOutPage() {
   page->addWidget(this);
   page->addLayout(content, 1);
   return content;
+}
+
+void DisableWithout(bool leads, QPushButton &button) {
+  if (leads) return;
+  button.setEnabled(false);
+  button.setToolTip(leadsNowhere);
 }
 
 }  // namespace trimlog
