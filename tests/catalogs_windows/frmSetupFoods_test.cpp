@@ -429,6 +429,15 @@ TEST_F(SetupFoodsTest, ARefusedRowKeepsTheWindowOpen) {
   EXPECT_FALSE(window->isVisible());
 }
 
+TEST_F(SetupFoodsTest, NamesTakeTheSpareWidthAndWidthsAreKept) {
+  window->resize(2400, 700);
+  QApplication::processEvents();
+  EXPECT_EQ(List().horizontalHeader()->length(), List().viewport()->width());
+  List().setColumnWidth(List().Model().ColumnByName("Nut1"), 123);
+  window->hide();
+  EXPECT_EQ(session.store->GetSettingLong(settingsRoot + "\\Grids\\grdMealsList", "Nut1", 0), 123);
+}
+
 TEST_F(SetupFoodsTest, OpensFastWhateverIsListed) {
   window->hide();
   const qint64 before = session.Data().Counts().rowsRead;

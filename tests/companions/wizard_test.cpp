@@ -188,6 +188,8 @@ TEST(WizardNutrients, RefuseNoneAndMoreThanTen) {
                        "It appears that you have not selected any nutrients.  Please select at "
                        "least one nutrient from the list.");
   EXPECT_FALSE(CheckWizardNutrients(*session));
+  session.Data().Execute("UPDATE temp_meals_search SET IsModified = True WHERE (MealID=15);");
+  EXPECT_TRUE(CheckWizardNutrients(*session)) << "one is enough";
 }
 
 TEST(WizardNutrients, OfferEveryNutrientButTheCustomOnesAsTheMostImportant) {

@@ -30,6 +30,10 @@ TEST(NutrientVocabulary, EveryNutrientHasItsColumnAndPattern) {
     EXPECT_TRUE(columns.contains(field)) << expected[i].first;
     EXPECT_FALSE(nutrients.NutrientDefs[i].description.isEmpty()) << expected[i].first;
   }
+  for (int id = 0; id <= nutrientCount + 1; ++id) {
+    EXPECT_EQ(IsPercentOfCalories(id), id == 23 || id == 25 || id == 27) << id;
+    EXPECT_EQ(IsCustomNutrient(id), id >= 28 && id <= 32) << id;
+  }
   EXPECT_EQ(nutrients.NutrientDefs[34].descriptionPlusUnit, "Trans Fat (g)");
   EXPECT_EQ(GetNutrientFormat("WaterConsumed"), "0.00");
 }

@@ -75,8 +75,9 @@ TEST(ApplyProfile, ReadsTargetsBeforeRewardsAndStatisticsLast) {
     EXPECT_GT(session->nutrients.SelectedNutrients[0].NutrientID, 0);
     order.append("statistics");
   };
+  QObject::connect(&session->changes, &DataChanges::ProfileLoaded, [&order] { order.append("told"); });
   ApplyProfile(*session, hooks, "7");
-  EXPECT_EQ(order.join(", "), "rewards of 7, statistics");
+  EXPECT_EQ(order.join(", "), "rewards of 7, statistics, told");
 }
 
 std::string MenuOf(TestSession &session) {

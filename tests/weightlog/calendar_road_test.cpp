@@ -278,6 +278,7 @@ TEST(CalendarMonths, KeepTheDayAndClipItToTheMonth) {
   EXPECT_EQ(calendar.model->Month().currentDate, Day("2025-12-28"));
   calendar.model->GotoToday();
   EXPECT_EQ(calendar.model->Month().currentDate, Day("2026-03-01"));
+  calendar.model->EnterCell(calendar.model->Month().IndexOf(Day("2026-03-05")));
   int marked = 0;
   for (const CalendarCell &cell : calendar.model->Month().cells)
     marked += cell.background == calendar.session->profile.BackColor;

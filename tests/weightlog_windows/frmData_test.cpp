@@ -365,12 +365,16 @@ TEST(FrmData, SaysWhatToDoUntilTheFirstWeightIsThere) {
   Calendar c;
   c.Open();
   EXPECT_TRUE(c.Find<QLabel>("lblNewcomer")->isVisible());
-  EXPECT_FALSE(c.Find<QWidget>("txtTotal(1)")->isVisible());
-  EXPECT_FALSE(c.Find<QWidget>("txtTotalMonth")->isVisible());
+  const auto totals = [&c](bool shown) {
+    for (const char *name : {"txtTotal(1)", "txtTotalMonth", "lblTotal2"}) {
+      EXPECT_EQ(c.Find<QWidget>(name)->isVisible(), shown) << name;
+    }
+  };
+  totals(false);
   c.Type("200");
   c.Press(Qt::Key_Tab);
   EXPECT_FALSE(c.Find<QLabel>("lblNewcomer")->isVisible());
-  EXPECT_TRUE(c.Find<QWidget>("txtTotal(1)")->isVisible());
+  totals(true);
   EXPECT_EQ(c.Text("txtTotalMonth"), "0.0");
 }
 
@@ -422,6 +426,9 @@ TEST(FrmData, AMonthMoveShowsTheWeightOfTheDayItLandsOn) {
   c.Press(Qt::Key_PageDown);
   EXPECT_EQ(c.Field(1)->selectedText(), "200");
   EXPECT_EQ(c.session.Data().Counts().commits, before);
+  c.Find<QCheckBox>("chkShowLoss")->setFocus();
+  c.Click(c.Find<QToolButton>("cmdPrevMonth"));
+  EXPECT_EQ(c.Field(1)->text(), "201") << "also when the focus is in no day";
 }
 
 TEST(FrmData, FiguresExplainThemselvesAndCarryTheirColours) {
@@ -442,6 +449,10 @@ TEST(FrmData, FiguresExplainThemselvesAndCarryTheirColours) {
   EXPECT_EQ(colour("txtLoss(3)"), QColor(255, 0, 0));
   EXPECT_EQ(c.Find<QLineEdit>("txtTotal(1)")->palette().color(QPalette::Text), QColor(255, 0, 0));
   EXPECT_EQ(c.Find<QLineEdit>("txtTotalMonth")->palette().color(QPalette::Text), QColor(255, 0, 0));
+  auto *figures = c.Find<QComboBox>("cboNutrientID");
+  figures->setFocus();
+  QTest::keyClick(figures, Qt::Key_Up);
+  EXPECT_EQ(c.Text("txtCalories(2)"), "") << "nothing burned on that day";
 }
 
 TEST(FrmData, WeightsGrowWithTheirCellsAndStayUncut) {
