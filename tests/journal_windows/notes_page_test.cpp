@@ -1,5 +1,6 @@
 #include "journal/windows/notes_page.h"
 
+#include <QCalendarWidget>
 #include <QComboBox>
 #include <QElapsedTimer>
 #include <QPlainTextEdit>
@@ -23,10 +24,9 @@ class NotesTest : public ::testing::Test {
     return note ? NoteText(*session, *note).toStdString() : "(none)";
   }
   qint64 Commits() { return session.Data().Counts().commits; }
-  /// Types in the box's end.
+  /// Types on: the cursor stands at the end.
   void Type(Window &window, const QString &text) {
     Box(window).setFocus();
-    Box(window).moveCursor(QTextCursor::End);
     QTest::keyClicks(&Box(window), text);
   }
   /// Adds a note through the dialog: the date as typed, where it is not the proposed one, and the text.
@@ -290,6 +290,14 @@ TEST_F(NotesTest, TheListIsChangedLikeTheBoxAndKeepsOneNoteADay) {
   window.page->DropOpenEdit();
   EXPECT_TRUE(type(QStringLiteral("1/1/1899")));
   EXPECT_EQ(Stored(QDate(1899, 1, 1)), "new");
+  WhenModal([&](QWidget &picker) {
+    EXPECT_EQ(Find<QCalendarWidget>(picker, QStringLiteral("calDate")).selectedDate(), QDate(1899, 1, 1));
+    Find<QPushButton>(picker, QStringLiteral("cmdToday")).click();
+    Find<QPushButton>(picker, QStringLiteral("cmdOK")).click();
+  });
+  QTest::keyClick(&grid, Qt::Key_F4);
+  EXPECT_TRUE(window.page->SaveOpenEdit() == EditOutcome::Saved);
+  EXPECT_EQ(Stored(today), "new");
 }
 
 TEST_F(NotesTest, RowsArePastedEvenOntoADayThatHasANoteAndStayToBeChanged) {

@@ -60,8 +60,11 @@ void NoteBox::Read() {
 void NoteBox::Show(const DayNote &note) {
   const bool comesOrGoes = HasNote() != note.RecordID.has_value();
   note_ = note;
-  // The same text again must not move the cursor or forget what can be undone.
-  if (MemoText(*this, note.text) != note.text) setPlainText(note.text);
+  // The same text again must not move the cursor or forget what can be undone. Another one is gone on with at its end.
+  if (MemoText(*this, note.text) != note.text) {
+    setPlainText(note.text);
+    moveCursor(QTextCursor::End);
+  }
   document()->setModified(false);
   failed_ = false;
   pause_.stop();

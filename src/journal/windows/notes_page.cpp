@@ -194,8 +194,7 @@ void NotesPage::AddNew() {
 
 void NotesPage::GoToAdded(int recordID) {
   if (day_.IsSingleDate()) {
-    txtNotes->setFocus();
-    return txtNotes->moveCursor(QTextCursor::End);
+    return txtNotes->setFocus();
   }
   grdNotes->setFocus();
   if (GoToAddedRow(session_, *grdNotes, recordID, notesColumn)) grdNotes->EditCell(grdNotes->currentIndex());

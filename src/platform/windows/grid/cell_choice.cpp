@@ -12,9 +12,12 @@ bool CellChoice::PickDate(const QModelIndex &cell) {
   const bool isDate = cell.isValid() && model.Columns()[cell.column()].type == GridType::Date;
   if (!pickDate_ || !isDate || !cell.flags().testFlag(Qt::ItemIsEditable)) return false;
   grid_.CloseOpenEditor(true);
-  const QPersistentModelIndex kept = cell;
+  // While the person chooses, the rows may be read afresh and stand elsewhere.
+  const int column = cell.column();
+  const std::optional<qint64> key = model.KeyOfRow(cell.row());
   const std::optional<QDate> date = pickDate_(grid_, cell.data(GridModel::ValueRole).toDate());
-  if (date && kept.isValid()) model.setData(kept, *date, GridModel::ValueRole);
+  const int row = key ? model.RowOfKey(*key) : model.RecordCount();
+  if (date && row >= 0) model.setData(model.index(row, column), *date, GridModel::ValueRole);
   grid_.setFocus();
   return true;
 }
