@@ -20,7 +20,7 @@ namespace trimlog {
 
 namespace {
 
-constexpr const char *sizeCaptions[] = {"Chest",   "&Waist", "Hips",  "&Biceps",
+constexpr const char *sizeCaptions[] = {"Chest",    "&Waist", "Hips",  "&Biceps",
                                         "F&orearm", "Thi&gh", "C&alf", "Body Fat"};
 constexpr int smallRows = 4;
 
