@@ -208,6 +208,10 @@ TEST_F(MealsPageTest, AllDatesFollowTheRowAndReadOnlyWhatTheyMust) {
   EXPECT_EQ(Label("lblTotalsMeals"), "Daily Totals (3/2/2026)  ");
   GoTo(old, "Amount");
   EXPECT_EQ(day->Date(), dayOne);
+  QDate proposed;
+  addMeal = [&proposed](const EntryOpening &opening) { proposed = opening.date; };
+  QTest::mouseClick(&Find<QPushButton>(*page, "cmdNewMeal"), Qt::LeftButton);
+  EXPECT_EQ(proposed, dayOne);
   EXPECT_EQ(Total(1), "300");
   const StoreCounts before = session.Data().Counts();
   GoTo(older, "Amount");

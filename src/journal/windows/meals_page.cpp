@@ -100,7 +100,6 @@ void MealsPage::AddButtons() {
   addDoor({QStringLiteral("cmdNutrients"), QStringLiteral("N&utrients..."),
            QStringLiteral("Chooses the nutrients that are shown.")},
           navigator_.OpenNutrientSelection);
-  if (!day_.Kind().hasTargets) return;
   addDoor({QStringLiteral("cmdTargets"), QStringLiteral("Tar&gets..."), QStringLiteral("Sets the daily targets.")},
           navigator_.OpenTargets);
 }
@@ -184,11 +183,7 @@ void MealsPage::OnRow() {
 void MealsPage::OnNew() {
   if (!grdMeals->CommitRow()) return;
   EntryOpening opening{.kind = day_.Kind(), .date = day_.Date()};
-  if (grdMeals->CurrentKey()) {
-    const QDate ofRow = grdMeals->CurrentField(QStringLiteral("ThisDate")).toDate();
-    if (!day_.IsSingleDate() && ofRow.isValid()) opening.date = ofRow;
-    opening.MealTypeID = grdMeals->CurrentField(QStringLiteral("MealTypeID")).toInt();
-  }
+  if (grdMeals->CurrentKey()) opening.MealTypeID = grdMeals->CurrentField(QStringLiteral("MealTypeID")).toInt();
   opening.stored = [this](int recordID, const QDate &date) { OnAdded(recordID, date); };
   doors_.AddMeal(window(), opening);
   UpdateTotals();
