@@ -2,6 +2,7 @@
 
 #include <QApplication>
 #include <QScreen>
+#include <QTimer>
 
 #include "platform/twips.h"
 #include "platform/windows/machine/window_stacking.h"
@@ -68,6 +69,12 @@ void Program::ComeForward() {
 
 void Program::EndForMachine() {
   if (ended_) return;
+  // What is being written and lets events run meanwhile is one piece: the end waits for it.
+  if (session_.database && session_.database->InTransaction()) {
+    constexpr int look = 20;  // milliseconds
+    QTimer::singleShot(look, &instance_, [this] { EndForMachine(); });
+    return;
+  }
   endedBy_ = EndedBy::Machine;
   session_.boxes.silent = true;
   session_.windows.SuppressReward = true;

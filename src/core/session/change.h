@@ -35,4 +35,8 @@ class Change {
   Transaction transaction_;
 };
 
+/// For who is told within a transaction of the store and opens none of its own, as a grid's hooks are: announces once
+/// the outermost one stands on the disk.
+void AnnounceAfterCommit(Session &session, DataChange change);
+
 }  // namespace trimlog

@@ -9,12 +9,6 @@ namespace {
 
 const QString dayField = QStringLiteral("ThisDate");
 
-void AnnounceFrom(BoundGrid &grid, Session &session, const DataChange &what) {
-  Change change(session, &grid);
-  change.Announce(what);
-  change.Commit();
-}
-
 /// The one day that a changed row stands on, before as after; none for rows of no day, or of two.
 QDate DayOf(const GridRowEdit &row) {
   const QDate day = row.Get(dayField).toDate();
@@ -38,11 +32,11 @@ void FollowTable(BoundGrid &grid, Session &session, Table table) {
   GridHooks &hooks = grid.Hooks();
   hooks.withUpdate = [&grid, &session, table, own = hooks.withUpdate](const GridRowEdit &row, qint64 key) {
     if (own) own(row, key);
-    AnnounceFrom(grid, session, {.table = table, .keys = {key}, .date = DayOf(row)});
+    AnnounceAfterCommit(session, {.table = table, .keys = {key}, .date = DayOf(row), .origin = &grid});
   };
   hooks.withDelete = [&grid, &session, table, own = hooks.withDelete](const std::vector<qint64> &keys) {
     if (own) own(keys);
-    AnnounceFrom(grid, session, {.table = table, .keys = keys, .date = DayOf(grid, keys)});
+    AnnounceAfterCommit(session, {.table = table, .keys = keys, .date = DayOf(grid, keys), .origin = &grid});
   };
   QObject::connect(&session.changes, &DataChanges::Changed, &grid, [&grid, table](const DataChange &change) {
     if (change.table == table && change.origin != &grid) grid.RefreshRows(change.keys);
