@@ -244,6 +244,7 @@ TEST_F(ExercisesPageTest, RowsArePastedToTheDayShownAndDeleted) {
   EXPECT_EQ(Figure("lblMinutes"), "30");
   session.boxes.Expect("Delete Rows?", "Delete the selected row?", BoxButton::Yes);
   Click("cmdDeleteActivity");
+  EXPECT_TRUE(Grid().hasFocus()) << "the keys go on in the list";
   EXPECT_EQ(Figure("lblMinutes"), "0");
   EXPECT_FALSE(Find<QPushButton>(*page, "cmdDeleteActivity").isEnabled());
   EXPECT_EQ(Stored("Duration", 1), "30");

@@ -138,7 +138,6 @@ void ExercisesPage::ShowView(JournalView view) {
 void ExercisesPage::ShowRows() {
   grdActivities->Open(session_.Data(), ActivitiesSource(day_.Scope(), day_.Kind().entries));
   GoToColumn(day_.IsSingleDate() ? exerciseColumn : minutesColumn);
-  ShowRowState();
   ShowTotals();
 }
 
