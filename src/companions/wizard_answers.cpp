@@ -2,6 +2,7 @@
 
 #include "core/profiles/goal.h"
 #include "core/profiles/height.h"
+#include "core/settings/unit_system.h"
 #include "health/body_formulas.h"
 #include "platform/text/text_format.h"
 #include "weightlog/weight_log.h"
@@ -21,7 +22,7 @@ QString RepairedNumber(const QString &text, const QLocale &locale) {
 
 QString RepairedHeight2(const QString &text, int UomID, const QLocale &locale) {
   const QString repaired = RepairedNumber(text, locale);
-  const bool tooManyInches = UomID == 1 && ValueOrZero(repaired, locale) > 11;
+  const bool tooManyInches = UomID == poundsSystem && ValueOrZero(repaired, locale) > 11;
   return tooManyInches ? QStringLiteral("11") : repaired;
 }
 

@@ -31,9 +31,7 @@ int CompletedYears(const QDate &from, const QDate &to) {
 
 }  // namespace
 
-int BodyProfile::WholeHeight(int UomID) const {
-  return Whole(HeightFeet * (UomID == poundsSystem ? 12 : 100) + HeightInches);
-}
+int BodyProfile::WholeHeight(int UomID) const { return Whole(HeightAsOneNumber(HeightFeet, HeightInches, UomID)); }
 
 BodyProfile ReadBodyProfile(const Session &session) {
   const Recordset people = session.Data().OpenRecordset(

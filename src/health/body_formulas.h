@@ -4,6 +4,7 @@
 #include <QString>
 
 #include "core/profiles/height.h"
+#include "core/settings/unit_system.h"
 
 namespace trimlog {
 
@@ -12,9 +13,6 @@ class Session;
 // The body formulas. Each stands here twice where a profile is concerned: as a pure function of its inputs, and as a
 // thin reader that takes the current profile's data from the file. Weights and sizes are in the unit system given by
 // UomID: 1 pounds, feet and inches; anything else kilograms, metres and centimetres.
-
-/// The UomID of pounds, feet and inches.
-inline constexpr int poundsSystem = 1;
 
 /// What the formulas ask of a profile, as it is stored.
 struct BodyProfile {

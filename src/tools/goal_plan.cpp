@@ -1,6 +1,7 @@
 #include "tools/goal_plan.h"
 
 #include "core/profiles/goal.h"
+#include "core/settings/unit_system.h"
 #include "platform/text/rounding.h"
 #include "platform/text/text_format.h"
 #include "tools/index_advice.h"
@@ -120,7 +121,7 @@ std::optional<Box> CheckGoalMethodRate(const QString &rate, const QLocale &local
 
 QString RepairedRate(const QString &rate, int UomID, const QLocale &locale) {
   if (ParseNumber(rate, locale).value_or(0) > 0) return rate;
-  return UomID == 1 ? QStringLiteral("1") : NumberText(0.9, locale);
+  return UomID == poundsSystem ? QStringLiteral("1") : NumberText(0.9, locale);
 }
 
 }  // namespace trimlog

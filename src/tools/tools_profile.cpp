@@ -70,11 +70,11 @@ void SaveGoalMethod(Session &session, GoalMethod method, const QDate &date, cons
 QString GenderText(int GenderID) { return GenderID == 1 ? QStringLiteral("Male") : QStringLiteral("Female"); }
 
 QString WholeHeightText(const BodyProfile &body, int UomID, const QLocale &locale) {
-  const double whole = body.HeightFeet * (UomID == 1 ? 12 : 100) + body.HeightInches;
-  return NumberText(whole, locale) + QLatin1Char(' ') + LengthUnitText(UomID);
+  return NumberText(HeightAsOneNumber(body.HeightFeet, body.HeightInches, UomID), locale) + QLatin1Char(' ') +
+         LengthUnitText(UomID);
 }
 
-QString LengthUnitText(int UomID) { return UomID == 1 ? QStringLiteral("Inches") : QStringLiteral("Cm"); }
+QString LengthUnitText(int UomID) { return UomID == poundsSystem ? QStringLiteral("Inches") : QStringLiteral("Cm"); }
 
 QString CurrentWeightCaption(const ToolsProfile &profile, const QString &UomDisplay, const QLocale &locale) {
   return WeightCaption(QStringLiteral("Use My Current Weight"), profile.currentWeight, UomDisplay, locale);

@@ -259,7 +259,7 @@ void CalendarModel::UpdateLoss(const std::optional<double> &weight) {
 }
 
 void CalendarModel::ShowNextLoss(double loss) {
-  const QString pattern = session_.settings.UomID == 1 ? QStringLiteral("0.0") : QStringLiteral("0.00");
+  const QString pattern = LossPattern(session_.settings);
   for (int i = month_.currentIndex + 1; i <= calendarCells; ++i) {
     CalendarCell &cell = month_.Cell(i);
     if (cell.data.isEmpty()) continue;

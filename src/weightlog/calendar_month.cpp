@@ -1,5 +1,6 @@
 #include "weightlog/calendar_month.h"
 
+#include "core/settings/unit_system.h"
 #include "platform/text/rounding.h"
 #include "platform/text/text_format.h"
 
@@ -21,7 +22,7 @@ quint32 ColourOf(double shownLoss, const Settings &settings) {
 
 void ShowTotal(CalendarTotal &total, double sum, const Settings &settings, const QLocale &locale) {
   const double clean = WithoutDust(sum);
-  total.text = Format(clean, settings.UomID == 1 ? QStringLiteral("0.0") : QStringLiteral("0.00"), locale);
+  total.text = Format(clean, LossPattern(settings), locale);
   total.color = ColourOf(clean, settings);
 }
 
@@ -35,6 +36,10 @@ int CalendarMonth::IndexOf(const QDate &date) const {
 }
 
 bool CalendarMonth::CanEnter(int i) const { return i >= 1 && i <= calendarCells && Cell(i).visible && Cell(i).enabled; }
+
+QString LossPattern(const Settings &settings) {
+  return settings.UomID == poundsSystem ? QStringLiteral("0.0") : QStringLiteral("0.00");
+}
 
 QDate GetWeekOf(const QDate &date) { return date.addDays(1 - DatePart(QStringLiteral("w"), date)); }
 

@@ -68,6 +68,9 @@ struct CalendarMonth {
   std::array<CalendarTotal, calendarRows> totals;
 };
 
+/// How a loss is shown: pounds with one decimal, kilograms with two.
+QString LossPattern(const Settings &settings);
+
 inline int RowOfCell(int i) { return (i - 1) / 7 + 1; }
 inline bool IsSaturdayCell(int i) { return i % 7 == 0; }
 

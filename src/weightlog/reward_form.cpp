@@ -3,6 +3,7 @@
 #include "core/data/data_access.h"
 #include "core/profiles/goal.h"
 #include "core/session/failure_guard.h"
+#include "core/settings/unit_system.h"
 #include "platform/text/text_format.h"
 #include "weightlog/rewards.h"
 
@@ -21,7 +22,7 @@ QString PersonValue(Session &session, const QString &field) {
 
 void SwapDefault(QString &amount, RewardType type, int uomID, const QLocale &locale) {
   const std::optional<double> typed = ParseNumber(amount, locale);
-  const int otherSystem = uomID == 1 ? 2 : 1;
+  const int otherSystem = uomID == poundsSystem ? kilogramsSystem : poundsSystem;
   if (typed && *typed == Val(DefaultRewardAmount(type, otherSystem))) {
     amount = Shown(DefaultRewardAmount(type, uomID), locale);
   }

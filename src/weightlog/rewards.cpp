@@ -3,6 +3,7 @@
 #include "core/session/change.h"
 #include "core/session/failure_guard.h"
 #include "core/session/session.h"
+#include "core/settings/unit_system.h"
 #include "platform/store/recordset.h"
 #include "platform/text/text_format.h"
 #include "weightlog/weight_log.h"
@@ -36,9 +37,9 @@ QString AmountText(double amount, const Session &session) {
 }
 
 QString LossWithUnit(double amount, const Session &session) {
-  const QString unit = session.settings.UomID != 1 ? QStringLiteral(" kg")
-                       : amount > 1                ? QStringLiteral(" pounds")
-                                                   : QStringLiteral(" pound");
+  const QString unit = session.settings.UomID != poundsSystem ? QStringLiteral(" kg")
+                       : amount > 1                           ? QStringLiteral(" pounds")
+                                                              : QStringLiteral(" pound");
   return AmountText(amount, session) + unit;
 }
 
@@ -57,7 +58,7 @@ Congratulation PersonalReward(const Session &session, const CalendarCell &cell) 
   if (!weight || *weight > target) return std::nullopt;
   const std::optional<double> lowest = WeightLog(session).LowestBetween(cell.date.addDays(-7), cell.date.addDays(-1));
   if (!lowest || *lowest <= target) return std::nullopt;
-  const QString unit = session.settings.UomID == 1 ? QStringLiteral(" pounds!") : QStringLiteral(" kg!");
+  const QString unit = session.settings.UomID == poundsSystem ? QStringLiteral(" pounds!") : QStringLiteral(" kg!");
   return std::pair(QStringLiteral("Personal Reward Weight Reached!"),
                    QStringLiteral("You have made it to ") + AmountText(*weight, session) + unit);
 }
@@ -140,8 +141,8 @@ void SaveRewardSettings(Session &session, const RewardSettings &rewards) {
 }
 
 QString DefaultRewardAmount(RewardType type, int UomID) {
-  if (type == RewardType::Daily) return UomID == 1 ? QStringLiteral("0.5") : QStringLiteral("0.25");
-  if (type == RewardType::Weekly) return UomID == 1 ? QStringLiteral("2.0") : QStringLiteral("0.9");
+  if (type == RewardType::Daily) return UomID == poundsSystem ? QStringLiteral("0.5") : QStringLiteral("0.25");
+  if (type == RewardType::Weekly) return UomID == poundsSystem ? QStringLiteral("2.0") : QStringLiteral("0.9");
   return {};
 }
 
@@ -162,7 +163,7 @@ QString RewardDistanceText(const Session &session) {
   if (!left) return {};
   if (*left <= 0) return QStringLiteral("Goal Achieved!");
   return session.profile.statistics.LbsLeft +
-         (session.settings.UomID == 1 ? QStringLiteral(" pounds to go!") : QStringLiteral(" kg to go!"));
+         (session.settings.UomID == poundsSystem ? QStringLiteral(" pounds to go!") : QStringLiteral(" kg to go!"));
 }
 
 }  // namespace trimlog

@@ -1,12 +1,13 @@
 #include "catalogs/windows/frmDailyValues.h"
 
-#include <QDialogButtonBox>
 #include <QGridLayout>
 #include <QLabel>
-#include <QPushButton>
 #include <QVBoxLayout>
 
 #include "core/session/failure_guard.h"
+#include "platform/windows/controls/named_controls.h"
+#include "platform/windows/controls/ok_cancel.h"
+#include "platform/windows/controls/spacing.h"
 #include "platform/windows/fields/number_field.h"
 
 namespace trimlog {
@@ -23,24 +24,15 @@ frmDailyValues::frmDailyValues(Session &session, QWidget *owner) : QDialog(owner
   setWindowFlag(Qt::WindowContextHelpButtonHint, false);
 
   auto *layout = new QVBoxLayout(this);
-  auto *note =
-      new QLabel(QStringLiteral("Enter the percentages of the daily value from the food label and click <OK>.  The "
-                                "amounts go into the fields of the food; an empty field changes nothing."),
-                 this);
-  note->setTextFormat(Qt::PlainText);
-  note->setWordWrap(true);
-  layout->addWidget(note);
+  AddNote(layout, QStringLiteral("lblNote"),
+          QStringLiteral("Enter the percentages of the daily value from the food label and click <OK>.  The amounts go "
+                         "into the fields of the food; an empty field changes nothing."));
   auto *grid = new QGridLayout;
-  grid->setHorizontalSpacing(12);
+  grid->setHorizontalSpacing(spacing::around);
   layout->addLayout(grid);
   for (int index = 0; index < static_cast<int>(dailyValueNutrients.size()); ++index) AddField(grid, index);
 
-  auto *buttons = new QDialogButtonBox(QDialogButtonBox::Ok | QDialogButtonBox::Cancel, this);
-  buttons->button(QDialogButtonBox::Ok)->setObjectName(QStringLiteral("cmdOK"));
-  buttons->button(QDialogButtonBox::Cancel)->setObjectName(QStringLiteral("cmdCancel"));
-  connect(buttons, &QDialogButtonBox::accepted, this, &frmDailyValues::OnOk);
-  connect(buttons, &QDialogButtonBox::rejected, this, &frmDailyValues::reject);
-  layout->addWidget(buttons);
+  AddOkCancel(*this, layout, [this] { OnOk(); });
   txtAddRec0.front()->setFocus();
 }
 

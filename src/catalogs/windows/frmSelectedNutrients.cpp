@@ -1,12 +1,14 @@
 #include "catalogs/windows/frmSelectedNutrients.h"
 
-#include <QDialogButtonBox>
 #include <QGridLayout>
 #include <QLabel>
 #include <QPushButton>
 #include <QVBoxLayout>
 
 #include "core/session/failure_guard.h"
+#include "core/windows/controls/door_control.h"
+#include "platform/windows/controls/named_controls.h"
+#include "platform/windows/controls/ok_cancel.h"
 #include "platform/windows/fields/text_field.h"
 
 namespace trimlog {
@@ -27,12 +29,9 @@ frmSelectedNutrients::frmSelectedNutrients(Session &session, const Navigator &na
   setWindowFlag(Qt::WindowContextHelpButtonHint, false);
 
   auto *layout = new QVBoxLayout(this);
-  auto *note =
-      new QLabel(QStringLiteral("Choose up to ten nutrients.  They are shown wherever foods are listed, in this "
-                                "order.  The custom nutrients take any short name that you type."),
-                 this);
-  note->setWordWrap(true);
-  layout->addWidget(note);
+  AddNote(layout, QStringLiteral("lblNote"),
+          QStringLiteral("Choose up to ten nutrients.  They are shown wherever foods are listed, in this order.  The "
+                         "custom nutrients take any short name that you type."));
   auto *grid = new QGridLayout;
   grid->setColumnStretch(1, 2);
   grid->setColumnStretch(2, 1);
@@ -42,16 +41,11 @@ frmSelectedNutrients::frmSelectedNutrients(Session &session, const Navigator &na
   for (int position = 1; position <= shownNutrients; ++position) AddRow(grid, position);
   ShowSelection(selection);
 
-  auto *buttons = new QDialogButtonBox(QDialogButtonBox::Ok | QDialogButtonBox::Cancel | QDialogButtonBox::Help, this);
-  buttons->button(QDialogButtonBox::Ok)->setObjectName(QStringLiteral("cmdOK"));
-  buttons->button(QDialogButtonBox::Cancel)->setObjectName(QStringLiteral("cmdCancel"));
-  buttons->button(QDialogButtonBox::Help)->setObjectName(QStringLiteral("cmdHelp"));
-  buttons->button(QDialogButtonBox::Help)->setEnabled(static_cast<bool>(navigator.ShowHelp));
-  connect(buttons, &QDialogButtonBox::accepted, this, &frmSelectedNutrients::OnOk);
-  connect(buttons, &QDialogButtonBox::rejected, this, &frmSelectedNutrients::reject);
+  QDialogButtonBox *const buttons = AddOkCancel(
+      *this, layout, [this] { OnOk(); }, QDialogButtonBox::Ok | QDialogButtonBox::Cancel | QDialogButtonBox::Help);
+  NeedsDoor(*buttons->button(QDialogButtonBox::Help), navigator.ShowHelp);
   connect(buttons, &QDialogButtonBox::helpRequested, this,
           [&navigator] { navigator.ShowHelp(QStringLiteral("nutrients")); });
-  layout->addWidget(buttons);
 }
 
 void frmSelectedNutrients::AddHeadings(QGridLayout *grid) {

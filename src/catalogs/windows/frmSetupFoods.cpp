@@ -13,6 +13,7 @@
 #include "catalogs/windows/food_search_page.h"
 #include "core/session/failure_guard.h"
 #include "core/session/print.h"
+#include "core/windows/controls/door_control.h"
 #include "core/windows/controls/grid_menu.h"
 #include "core/windows/profiles/add_rec_page.h"
 #include "platform/windows/grid/bound_grid.h"
@@ -107,9 +108,9 @@ void frmSetupFoods::AddButtons(QVBoxLayout *layout) {
   cmdTipsFoods = AddButton(layout, QStringLiteral("cmdTipsFoods"), QStringLiteral("&Tips..."), {});
   cmdHelp = AddButton(layout, QStringLiteral("cmdHelp"), QStringLiteral("&Help"), {});
   cmdOK = AddButton(layout, QStringLiteral("cmdOK"), QStringLiteral("&OK"), {});
-  cmdRecipes->setEnabled(static_cast<bool>(navigator_.OpenRecipes));
+  NeedsDoor(*cmdRecipes, navigator_.OpenRecipes);
   for (QPushButton *help : {pnlFoodInfo, cmdTipsFoods, cmdHelp}) {
-    help->setEnabled(static_cast<bool>(navigator_.ShowHelp));
+    NeedsDoor(*help, navigator_.ShowHelp);
   }
   connect(cmdOK, &QPushButton::clicked, this, &frmSetupFoods::accept);
   connect(pnlFoodInfo, &QPushButton::clicked, this, [this] { navigator_.ShowHelp(QStringLiteral("68")); });

@@ -10,6 +10,7 @@
 #include "catalogs/nutrient_groups.h"
 #include "catalogs/target_sets.h"
 #include "platform/windows/controls/member_name.h"
+#include "platform/windows/controls/spacing.h"
 #include "platform/windows/fields/number_field.h"
 
 namespace trimlog {
@@ -47,7 +48,7 @@ QWidget *NutrientFields::MakeGroup(const QString &title, const QList<int> &nutri
   auto *group = new QGroupBox(title, this);
   auto *grid = new QGridLayout(group);
   grid->setColumnStretch(0, 1);
-  grid->setVerticalSpacing(4);
+  grid->setVerticalSpacing(spacing::tight);
   for (const int id : nutrientIDs) {
     if (id <= kind_.count) AddField(id, group);
   }

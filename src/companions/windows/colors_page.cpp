@@ -5,6 +5,7 @@
 #include "core/windows/controls/art.h"
 #include "core/windows/controls/theme.h"
 #include "platform/windows/controls/named_controls.h"
+#include "platform/windows/controls/spacing.h"
 
 namespace trimlog {
 
@@ -18,13 +19,12 @@ ColorsPage::ColorsPage(quint32 initial, QWidget *parent) : WizardPage(parent) {
   QVBoxLayout *layout = MakeColumn();
   AddNote(layout, QStringLiteral("lblColors"),
           QStringLiteral("Which colors would you like to see?  The arrow keys go from one to the next."));
-  layout->addSpacing(8);
+  layout->addSpacing(spacing::between);
   auto *row = new QHBoxLayout;
-  row->setSpacing(24);
+  row->setSpacing(spacing::apart);
   layout->addLayout(row);
   layout->addStretch();
   auto *options = new QVBoxLayout;
-  options->setSpacing(10);
   row->addLayout(options);
   for (const WizardColor &color : WizardColors()) {
     auto *option = AddOption(options, QStringLiteral("optBackColor%1").arg(color.option), color.caption);

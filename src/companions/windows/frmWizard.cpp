@@ -18,8 +18,10 @@
 #include "core/profiles/colour_scheme.h"
 #include "core/profiles/profiles.h"
 #include "core/session/failure_guard.h"
+#include "core/windows/controls/door_control.h"
 #include "core/windows/controls/theme.h"
 #include "platform/windows/controls/named_controls.h"
+#include "platform/windows/controls/spacing.h"
 
 namespace trimlog {
 
@@ -59,8 +61,7 @@ bool frmWizard::Form_Load() {
     columns->setSpacing(0);
     columns->addWidget(MakeBanner());
     auto *layout = new QVBoxLayout;
-    layout->setContentsMargins(20, 16, 20, 14);
-    layout->setSpacing(10);
+    layout->setContentsMargins(spacing::roomy, spacing::apart, spacing::roomy, spacing::apart);
     columns->addLayout(layout, 1);
     lblTitle = AddHeading(layout, QStringLiteral("lblTitle"), {});
     layout->addWidget(MakeLine(this));
@@ -97,7 +98,7 @@ void frmWizard::AddButtons(QVBoxLayout *layout) {
     cmdSkip = AddButton(row, "cmdSkip", QStringLiteral("&Skip Wizard"), &frmWizard::Skip);
     cmdImport = AddButton(row, "cmdImport", QStringLiteral("&Import Data"), &frmWizard::Import);
     cmdImport->setToolTip(QStringLiteral("Takes over the data of an earlier release."));
-    cmdImport->setEnabled(static_cast<bool>(navigator_.ImportData));
+    NeedsDoor(*cmdImport, navigator_.ImportData);
   }
   row->addStretch();
   cmdBack = AddButton(row, "cmdBack", QStringLiteral("&Back"), &frmWizard::WizardBack);

@@ -3,12 +3,13 @@
 #include <QVBoxLayout>
 
 #include "platform/windows/controls/named_controls.h"
+#include "platform/windows/controls/spacing.h"
 
 namespace trimlog {
 
 IntroductionPage::IntroductionPage(bool asksForColors, QWidget *parent) : WizardPage(parent) {
   QVBoxLayout *layout = MakeColumn();
-  layout->setSpacing(12);
+  layout->setSpacing(spacing::around);
   AddNote(
       layout, QStringLiteral("lblWelcome"),
       QStringLiteral("Welcome to Trimlog Pro.  This wizard sets the program up for you; it takes a minute or two."));

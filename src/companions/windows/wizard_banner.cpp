@@ -3,12 +3,13 @@
 #include <QPainter>
 
 #include "core/windows/controls/art.h"
+#include "platform/windows/controls/spacing.h"
 
 namespace trimlog {
 
 namespace {
 
-constexpr int margin = 20;
+constexpr int margin = spacing::roomy;
 constexpr int bannerPictureSide = 64;
 constexpr int dotSide = 12;
 constexpr int textGap = 10;

@@ -5,6 +5,7 @@
 #include "platform/windows/controls/field_left.h"
 #include "platform/windows/controls/form_rows.h"
 #include "platform/windows/controls/named_controls.h"
+#include "platform/windows/controls/spacing.h"
 
 namespace trimlog {
 
@@ -22,14 +23,14 @@ void MendField(QLineEdit *field, const WizardPage::Mend &mend) {
 
 QVBoxLayout *WizardPage::MakeColumn() {
   auto *layout = new QVBoxLayout(this);
-  layout->setContentsMargins(0, 6, 0, 6);
+  layout->setContentsMargins(0, spacing::between, 0, spacing::between);
   return layout;
 }
 
 void WizardPage::AddForm(const QString &sentence, QWidget *form) {
   QVBoxLayout *layout = MakeColumn();
   AddNote(layout, {}, sentence);
-  layout->addSpacing(8);
+  layout->addSpacing(spacing::between);
   layout->addWidget(form);
   layout->addStretch();
 }

@@ -1,10 +1,11 @@
 #include "core/profiles/height.h"
 
+#include "core/settings/unit_system.h"
+
 namespace trimlog {
 
 namespace {
 
-constexpr int feetAndInches = 1;
 constexpr double metresPerInch = 0.0254;
 // The shortest and the tallest people known lie well between.
 constexpr double shortest = 0.6;
@@ -12,8 +13,13 @@ constexpr double tallest = 3;
 
 }  // namespace
 
+double HeightAsOneNumber(double heightFeet, double heightInches, int UomID) {
+  return heightFeet * (UomID == poundsSystem ? 12 : 100) + heightInches;
+}
+
 double HeightInMetres(double heightFeet, double heightInches, int UomID) {
-  return UomID == feetAndInches ? (heightFeet * 12 + heightInches) * metresPerInch : heightFeet + heightInches / 100;
+  const double height = HeightAsOneNumber(heightFeet, heightInches, UomID);
+  return UomID == poundsSystem ? height * metresPerInch : height / 100;
 }
 
 bool IsHeightOfPerson(double heightFeet, double heightInches, int UomID) {

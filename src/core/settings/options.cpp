@@ -1,6 +1,7 @@
 #include "core/settings/options.h"
 
 #include "core/data/data_access.h"
+#include "core/settings/unit_system.h"
 #include "core/settings/window_position.h"
 #include "platform/store/recordset.h"
 
@@ -61,7 +62,7 @@ QList<OptionChoice> NutrientChoices(const Nutrients &nutrients) {
 }
 
 UnitLabels LabelsOf(int uomID) {
-  if (uomID == 1) {
+  if (uomID == poundsSystem) {
     return {QStringLiteral("lbs."), QStringLiteral("Ht (ft.)"), QStringLiteral("Ht (in.)"),
             QStringLiteral("Goal (lbs.)")};
   }

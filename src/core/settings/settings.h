@@ -4,6 +4,7 @@
 #include <QString>
 #include <array>
 
+#include "core/settings/unit_system.h"
 #include "platform/machine/settings_store.h"
 
 namespace trimlog {
@@ -11,7 +12,7 @@ namespace trimlog {
 /// The program-wide preferences, read once at start. Members are named as their values in the store. The one declared
 /// table of names, types, defaults and allowed values stands in settings.cpp.
 struct Settings {
-  int UomID = 1;  ///< 1 pounds and inches, 2 kilograms and metres
+  int UomID = poundsSystem;
   bool OpenToday = true;
   bool ShowLoss = false;
   bool ColorCoding = true;

@@ -12,6 +12,7 @@
 #include "core/profiles/colour_scheme.h"
 #include "core/session/failure_guard.h"
 #include "core/session/print.h"
+#include "core/windows/controls/door_control.h"
 #include "core/windows/controls/theme.h"
 #include "platform/windows/controls/named_controls.h"
 #include "tools/tool_notices.h"
@@ -118,7 +119,7 @@ void frmTools::AddButtons(QLayout *layout) {
   cmdPrint = AddCommand(panel->layout(), QStringLiteral("cmdPrint"), QStringLiteral("&Print"));
   cmdHelp = AddCommand(panel->layout(), QStringLiteral("cmdHelp"), QStringLiteral("&Help"));
   cmdClose = AddCommand(panel->layout(), QStringLiteral("cmdClose"), QStringLiteral("&Close"));
-  cmdHelp->setEnabled(static_cast<bool>(navigator_.ShowHelp));
+  NeedsDoor(*cmdHelp, navigator_.ShowHelp);
   connect(cmdPrint, &QPushButton::clicked, this, &frmTools::PrintResults);
   connect(cmdHelp, &QPushButton::clicked, this,
           [this] { navigator_.ShowHelp(QString::fromLatin1(tools[cboTools->currentIndex()].helpTopic)); });

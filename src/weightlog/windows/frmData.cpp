@@ -1,23 +1,18 @@
 #include "weightlog/windows/frmData.h"
 
-#include <QCheckBox>
-#include <QComboBox>
 #include <QGuiApplication>
-#include <QHBoxLayout>
 #include <QKeyEvent>
+#include <QLabel>
 #include <QTimer>
-#include <QToolButton>
 #include <QVBoxLayout>
 
 #include "core/session/session.h"
-#include "core/settings/options.h"
-#include "core/windows/controls/art.h"
-#include "core/windows/controls/figure_field.h"
 #include "core/windows/controls/theme.h"
 #include "core/windows/frame/print_window.h"
 #include "platform/text/text_format.h"
-#include "platform/windows/controls/named_controls.h"
 #include "weightlog/calendar_speech.h"
+#include "weightlog/windows/calendar_footer.h"
+#include "weightlog/windows/calendar_header.h"
 #include "weightlog/windows/fit_label.h"
 #include "weightlog/windows/frmReward.h"
 #include "weightlog/windows/weight_entry.h"
@@ -31,14 +26,16 @@ frmData::frmData(Session &session, const Navigator &navigator, QWidget *parent)
   auto *layout = new QVBoxLayout(this);
   layout->setContentsMargins(0, 0, 0, 0);
   layout->setSpacing(0);
-  layout->addWidget(MakeHeader());
+  header_ = new CalendarHeader(navigator_, this);
+  layout->addWidget(header_);
   lblNewcomer = new FitLabel(QStringLiteral("lblNewcomer"), Qt::AlignCenter, this);
   lblNewcomer->setText(tr("Type your weight into today's cell and press Enter: that is all it takes."));
   lblNewcomer->setMinimumHeight(fontMetrics().height() + 8);
   layout->addWidget(lblNewcomer);
   grid_ = new MonthGrid(session_.locale, this);
   layout->addWidget(grid_, 1);
-  layout->addWidget(MakeFooter());
+  footer_ = new CalendarFooter(this);
+  layout->addWidget(footer_);
   for (QLabel **hidden : {&txtCurrentIndex, &txtCurrentDate}) {
     *hidden = new QLabel(this);
     (*hidden)->hide();
@@ -46,7 +43,7 @@ frmData::frmData(Session &session, const Navigator &navigator, QWidget *parent)
   txtCurrentIndex->setObjectName(QStringLiteral("txtCurrentIndex"));
   txtCurrentDate->setObjectName(QStringLiteral("txtCurrentDate"));
   entry_ = std::make_unique<WeightEntry>(session_, model_, *grid_);
-  FillNutrients();
+  footer_->FillFigures(session_.nutrients);
   model_.Load();
   ShowSettings();
   ShowMonth();
@@ -55,104 +52,27 @@ frmData::frmData(Session &session, const Navigator &navigator, QWidget *parent)
 
 frmData::~frmData() = default;
 
-QToolButton *frmData::MakeButton(const char *name, const char *picture, const QString &text, const QString &tip,
-                                 void (frmData::*clicked)()) {
-  auto *button = new QToolButton(this);
-  button->setObjectName(QString::fromLatin1(name));
-  button->setIcon(ArtIcon(QString::fromLatin1(picture)));
-  button->setText(text);
-  button->setToolTip(tip);
-  button->setAccessibleName(tip);
-  button->setAutoRaise(true);
-  // A click leaves the focus in the weight field, so that typing goes on there.
-  button->setFocusPolicy(Qt::TabFocus);
-  if (!text.isEmpty()) button->setToolButtonStyle(Qt::ToolButtonTextBesideIcon);
-  connect(button, &QToolButton::clicked, this, clicked);
-  return button;
-}
-
-QWidget *frmData::MakeHeader() {
-  lblMonth = new QWidget(this);
-  lblMonth->setObjectName(QStringLiteral("lblMonth"));
-  cmdPrevMonth =
-      MakeButton("cmdPrevMonth", "previous", {}, tr("Previous month (Page Up)"), &frmData::GotoPreviousMonth);
-  cmdNextMonth = MakeButton("cmdNextMonth", "next", {}, tr("Next month (Page Down)"), &frmData::GotoNextMonth);
-  cmdToday = MakeButton("cmdToday", "today", tr("To&day"), tr("Go to today"), &frmData::GotoToday);
-  cmdDiary = MakeButton("cmdDiary", "journal", tr("&Quick Journal"), tr("Open the Quick Journal for this day"),
-                        &frmData::OpenQuickJournal);
-  cmdDiary->setEnabled(static_cast<bool>(navigator_.OpenQuickJournal));
-  if (!cmdDiary->isEnabled()) cmdDiary->setToolTip(leadsNowhere);
-  cmdTips = MakeButton("cmdTips", "tips", tr("T&ips"), tr("Tips for the calendar"), &frmData::OpenTips);
-  cmdTips->setEnabled(static_cast<bool>(navigator_.ShowHelp));
-  txtMonth = new FitLabel(QStringLiteral("txtMonth"), Qt::AlignLeft | Qt::AlignVCenter, this);
-  QFont large = font();
-  large.setPointSizeF(QFontInfo(font()).pointSizeF() * 1.4);
-  large.setWeight(QFont::DemiBold);
-  txtMonth->setFont(large);
-  txtMonth->setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Preferred);
-  auto *row = new QHBoxLayout(lblMonth);
-  row->setContentsMargins(6, 3, 6, 3);
-  row->setSpacing(4);
-  row->addWidget(cmdPrevMonth);
-  row->addWidget(cmdNextMonth);
-  row->addWidget(txtMonth, 1);
-  for (QToolButton *button : {cmdToday, cmdDiary, cmdTips}) row->addWidget(button);
-  return lblMonth;
-}
-
-QWidget *frmData::MakeFooter() {
-  auto *footer = new QWidget(this);
-  chkShowLoss = new QCheckBox(tr("Show &Loss"), footer);
-  chkShowLoss->setObjectName(QStringLiteral("chkShowLoss"));
-  chkShowCalories = new QCheckBox(tr("Show &Calories"), footer);
-  chkShowCalories->setObjectName(QStringLiteral("chkShowCalories"));
-  cboNutrientID = new QComboBox(footer);
-  cboNutrientID->setObjectName(QStringLiteral("cboNutrientID"));
-  SpeakAs(cboNutrientID, tr("Figure shown below each day"));
-  cboNutrientID->setToolTip(tr("What the calendar shows below each day"));
-  cboNutrientID->setSizePolicy(QSizePolicy::Preferred, QSizePolicy::Fixed);
-  cboNutrientID->setSizeAdjustPolicy(QComboBox::AdjustToMinimumContentsLengthWithIcon);
-  cboNutrientID->setMinimumContentsLength(18);
-  lblTotal2 = new QLabel(tr("Month"), footer);
-  lblTotal2->setObjectName(QStringLiteral("lblTotal2"));
-  lblTotal2->setContentsMargins(8, 2, 8, 2);
-  txtTotalMonth = new FigureField(QStringLiteral("txtTotalMonth"), Qt::AlignCenter, footer);
-  txtTotalMonth->setToolTip(tr("The loss of this month"));
-  auto *row = new QHBoxLayout(footer);
-  row->setContentsMargins(8, 4, 0, 4);
-  row->setSpacing(10);
-  row->addWidget(chkShowLoss);
-  row->addWidget(chkShowCalories);
-  row->addWidget(cboNutrientID);
-  row->addStretch(1);
-  row->addWidget(lblTotal2);
-  row->addWidget(txtTotalMonth);
-  return footer;
-}
-
-void frmData::FillNutrients() {
-  cboNutrientID->clear();
-  for (const OptionChoice &choice : NutrientChoices(session_.nutrients)) {
-    cboNutrientID->addItem(choice.text, choice.value);
-  }
-}
-
 void frmData::Connect() {
-  connect(grid_, &MonthGrid::Arranged, this, &frmData::AlignMonthTotal);
+  connect(grid_, &MonthGrid::Arranged, footer_,
+          [this] { footer_->AlignTotal(grid_->TotalsFont(), grid_->TotalsWidth()); });
   connect(entry_.get(), &WeightEntry::Entered, this, &frmData::ShowMonth);
   connect(entry_.get(), &WeightEntry::Saved, this, &frmData::OnSaved);
   connect(entry_.get(), &WeightEntry::MonthWanted, this, &frmData::GotoMonth);
   connect(entry_.get(), &WeightEntry::NextWanted, this, [this] { focusNextChild(); });
-  connect(chkShowLoss, &QCheckBox::clicked, this, [this](bool show) {
+  connect(header_, &CalendarHeader::MonthWanted, this, &frmData::GotoMonth);
+  connect(header_, &CalendarHeader::TodayWanted, this, &frmData::GotoToday);
+  connect(header_, &CalendarHeader::JournalWanted, this, &frmData::OpenQuickJournal);
+  connect(header_, &CalendarHeader::TipsWanted, this, [this] { navigator_.ShowHelp(QStringLiteral("calendar")); });
+  connect(footer_, &CalendarFooter::LossWanted, this, [this](bool show) {
     model_.SetShowLoss(show);
     ShowMonth();
   });
-  connect(chkShowCalories, &QCheckBox::clicked, this, [this](bool show) {
+  connect(footer_, &CalendarFooter::CaloriesWanted, this, [this](bool show) {
     model_.SetShowCalories(show);
     ShowMonth();
   });
-  connect(cboNutrientID, &QComboBox::activated, this, [this](int index) {
-    model_.SetNutrientID(cboNutrientID->itemData(index).toInt());
+  connect(footer_, &CalendarFooter::FigureWanted, this, [this](int NutrientID) {
+    model_.SetNutrientID(NutrientID);
     ShowMonth();
   });
   connect(&session_.changes, &DataChanges::Changed, this, &frmData::OnData);
@@ -182,8 +102,8 @@ void frmData::GotoDate(const QDate &date) {
 WindowCommands frmData::Commands() {
   return {{QStringLiteral("mnuFilePrint"), [this] { PrintContents(); }},
           {QStringLiteral("mnuEditDeleteWeight"), [this] { DeleteWeight(); }},
-          {QStringLiteral("mnuEditGotoPrevious"), [this] { GotoPreviousMonth(); }},
-          {QStringLiteral("mnuEditGotoNext"), [this] { GotoNextMonth(); }},
+          {QStringLiteral("mnuEditGotoPrevious"), [this] { GotoMonth(-1); }},
+          {QStringLiteral("mnuEditGotoNext"), [this] { GotoMonth(1); }},
           {QStringLiteral("mnuEditGotoToday"), [this] { GotoToday(); }}};
 }
 
@@ -209,8 +129,6 @@ void frmData::GotoToday() {
   Navigate([this] { model_.GotoToday(); });
 }
 
-void frmData::OpenTips() { navigator_.ShowHelp(QStringLiteral("calendar")); }
-
 void frmData::OpenQuickJournal() {
   if (SaveOpenEdit() == EditOutcome::Saved) navigator_.OpenQuickJournal(this);
 }
@@ -227,7 +145,7 @@ void frmData::DeleteWeight() {
 
 void frmData::OnData(const DataChange &change) {
   if (change.table == Table::SelectedNutrients) {  // a custom nutrient may have got another name
-    FillNutrients();
+    footer_->FillFigures(session_.nutrients);
     ShowSettings();
     return;
   }
@@ -274,7 +192,7 @@ void frmData::ShowReward() {
 }
 
 MonthGrid::Setting frmData::GridSetting() const {
-  return {session_.settings, session_.profile.BackColor, session_.Today(), cboNutrientID->currentText(),
+  return {session_.settings, session_.profile.BackColor, session_.Today(), footer_->ChosenFigure(),
           !model_.IsNewcomer()};
 }
 
@@ -288,8 +206,7 @@ void frmData::ShowDays() {
   entry_->Suspend(true);
   grid_->ShowDays(model_.Month(), GridSetting());
   entry_->Suspend(false);
-  txtMonth->ShowText(model_.Month().title);
-  txtTotalMonth->setAccessibleName(SpokenMonth(model_.Month()));
+  header_->ShowTitle(model_.Month().title);
   lblNewcomer->setVisible(model_.IsNewcomer());
   ShowCurrent();
 }
@@ -298,25 +215,8 @@ void frmData::ShowTexts() {
   entry_->Suspend(true);
   grid_->ShowTexts(model_.Month(), GridSetting(), entry_->PendingCell());
   entry_->Suspend(false);
-  ShowMonthTotal();
-}
-
-void frmData::ShowMonthTotal() {
-  const CalendarTotal &total = model_.Month().monthTotal;
-  const QPalette desktop = grid_->DesktopPalette();
-  txtTotalMonth->ShowText(total.text);
-  txtTotalMonth->ShowColor(total.color == calendar_colour::even
-                               ? desktop.color(QPalette::WindowText)
-                               : MeaningColor(ColorFromBgr(total.color), desktop.color(QPalette::Window)));
-  txtTotalMonth->setVisible(!model_.IsNewcomer());
-  lblTotal2->setVisible(!model_.IsNewcomer());
-}
-
-void frmData::AlignMonthTotal() {
-  QFont strong = grid_->TotalsFont();
-  strong.setWeight(QFont::DemiBold);  // as the weights are
-  txtTotalMonth->UseFont(strong);
-  txtTotalMonth->setFixedWidth(grid_->TotalsWidth());
+  footer_->ShowTotal(model_.Month().monthTotal, SpokenMonth(model_.Month()), grid_->DesktopPalette());
+  footer_->ShowTotalAtAll(!model_.IsNewcomer());
 }
 
 void frmData::ShowCurrent() {
@@ -328,14 +228,10 @@ void frmData::ShowCurrent() {
 void frmData::ShowSettings() {
   const quint32 panel = printing_ ? calendar_colour::white : session_.profile.BackColor;
   const QPalette desktop = grid_->DesktopPalette();
-  PaintPanel(lblMonth, panel, desktop);
-  PaintPanel(lblTotal2, panel, desktop);
+  header_->Paint(panel, desktop);
+  footer_->Paint(panel, desktop);
   PaintPanel(lblNewcomer, panel, desktop);
-  const QPalette buttons = PanelButtonPalette(PanelColor(panel, desktop));
-  for (QToolButton *button : {cmdPrevMonth, cmdNextMonth, cmdToday, cmdDiary, cmdTips}) button->setPalette(buttons);
-  chkShowLoss->setChecked(session_.settings.ShowLoss);
-  chkShowCalories->setChecked(session_.settings.ShowCalories);
-  cboNutrientID->setCurrentIndex(cboNutrientID->findData(session_.settings.NutrientID));
+  footer_->ShowSettings(session_.settings);
 }
 
 void frmData::changeEvent(QEvent *event) {
@@ -370,10 +266,8 @@ void frmData::PrepareForPrinting(bool printing) {
     grid_->Field(i)->deselect();
     grid_->Field(i)->setReadOnly(printing);  // shows no cursor then
   }
-  for (QWidget *control : std::initializer_list<QWidget *>{cmdPrevMonth, cmdNextMonth, cmdToday, cmdDiary, cmdTips,
-                                                           chkShowLoss, chkShowCalories, cboNutrientID}) {
-    control->setVisible(!printing);
-  }
+  header_->ShowButtons(!printing);
+  footer_->ShowChoices(!printing);
   ShowSettings();
   ShowMonth();
 }

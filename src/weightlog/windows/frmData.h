@@ -7,14 +7,12 @@
 #include "weightlog/calendar_model.h"
 #include "weightlog/windows/month_grid.h"
 
-class QCheckBox;
-class QComboBox;
 class QLabel;
-class QToolButton;
 
 namespace trimlog {
 
-class FigureField;
+class CalendarFooter;
+class CalendarHeader;
 class FitLabel;
 class Session;
 class WeightEntry;
@@ -41,20 +39,12 @@ class frmData : public ContentWindow {
   void keyPressEvent(QKeyEvent *event) override;
 
  private:
-  QWidget *MakeHeader();
-  QWidget *MakeFooter();
-  QToolButton *MakeButton(const char *name, const char *picture, const QString &text, const QString &tip,
-                          void (frmData::*clicked)());
-  void FillNutrients();
   void Connect();
 
-  void GotoPreviousMonth() { GotoMonth(-1); }
-  void GotoNextMonth() { GotoMonth(1); }
   void GotoMonth(int months);
   void DeleteWeight();
   void PrintContents();
   void GotoToday();
-  void OpenTips();
   void OpenQuickJournal();
   void OnData(const DataChange &change);
   void OnSettings();
@@ -69,24 +59,12 @@ class frmData : public ContentWindow {
   MonthGrid::Setting GridSetting() const;
   void ShowSettings();
   void ShowCurrent();
-  void ShowMonthTotal();
-  void AlignMonthTotal();
 
   Session &session_;
   const Navigator &navigator_;
   CalendarModel model_;
-  QWidget *lblMonth = nullptr;
-  FitLabel *txtMonth = nullptr;
-  QToolButton *cmdPrevMonth = nullptr;
-  QToolButton *cmdToday = nullptr;
-  QToolButton *cmdNextMonth = nullptr;
-  QToolButton *cmdDiary = nullptr;
-  QToolButton *cmdTips = nullptr;
-  QCheckBox *chkShowLoss = nullptr;
-  QCheckBox *chkShowCalories = nullptr;
-  QComboBox *cboNutrientID = nullptr;
-  QLabel *lblTotal2 = nullptr;
-  FigureField *txtTotalMonth = nullptr;
+  CalendarHeader *header_ = nullptr;
+  CalendarFooter *footer_ = nullptr;
   FitLabel *lblNewcomer = nullptr;
   QLabel *txtCurrentIndex = nullptr;
   QLabel *txtCurrentDate = nullptr;

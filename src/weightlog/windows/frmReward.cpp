@@ -8,6 +8,7 @@
 #include "core/data/data_access.h"
 #include "core/session/session.h"
 #include "core/windows/controls/art.h"
+#include "platform/windows/controls/spacing.h"
 
 namespace trimlog {
 
@@ -36,8 +37,7 @@ frmReward::frmReward(Session &session, const RewardNotice &notice, QWidget *owne
   setWindowTitle(notice.title);
   setWindowFlag(Qt::WindowContextHelpButtonHint, false);
   auto *layout = new QVBoxLayout(this);
-  layout->setContentsMargins(28, 22, 28, 18);
-  layout->setSpacing(10);
+  layout->setContentsMargins(spacing::roomy, spacing::roomy, spacing::roomy, spacing::apart);
   auto *picture = new QLabel(this);
   const int side = fontMetrics().height() * 3;
   picture->setPixmap(ArtIcon(QStringLiteral("star")).pixmap(side, side));
@@ -53,7 +53,7 @@ frmReward::frmReward(Session &session, const RewardNotice &notice, QWidget *owne
   cmdOK->setObjectName(QStringLiteral("cmdOK"));
   cmdOK->setDefault(true);
   connect(cmdOK, &QPushButton::clicked, this, &QDialog::accept);
-  layout->addSpacing(6);
+  layout->addSpacing(spacing::between);
   layout->addWidget(cmdOK, 0, Qt::AlignHCenter);
   setMinimumWidth(fontMetrics().averageCharWidth() * 56);
 }

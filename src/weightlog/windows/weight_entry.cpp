@@ -6,6 +6,7 @@
 #include <optional>
 
 #include "core/session/session.h"
+#include "platform/windows/controls/field_left.h"
 #include "platform/windows/fields/number_field.h"
 #include "weightlog/calendar_model.h"
 #include "weightlog/windows/month_grid.h"
@@ -27,12 +28,6 @@ std::optional<CalendarArrow> ArrowOf(int key) {
     default:
       return std::nullopt;
   }
-}
-
-/// The focus only visits a menu or another program and comes back.
-bool IsPassing(const QFocusEvent &event) {
-  return event.reason() == Qt::PopupFocusReason || event.reason() == Qt::MenuBarFocusReason ||
-         event.reason() == Qt::ActiveWindowFocusReason;
 }
 
 }  // namespace
@@ -120,7 +115,7 @@ bool WeightEntry::eventFilter(QObject *watched, QEvent *event) {
       if (!suspended_) OnFocusIn(grid_.IndexOf(watched), *static_cast<QFocusEvent *>(event));
       break;
     case QEvent::FocusOut:
-      if (!suspended_) OnFocusOut(*static_cast<QFocusEvent *>(event));
+      if (!suspended_ && IsFieldLeft(*event)) TryLeave();
       break;
     default:
       break;
@@ -131,7 +126,7 @@ bool WeightEntry::eventFilter(QObject *watched, QEvent *event) {
 void WeightEntry::OnFocusIn(int i, const QFocusEvent &event) {
   if (i == 0) return;
   session_.windows.SuppressReward = false;
-  if (entered_ != 0 && (IsPassing(event) || PendingCell() != 0)) return;
+  if (entered_ != 0 && (!IsFieldEntered(event) || PendingCell() != 0)) return;
   entered_ = i;
   if (model_.EnterCell(i)) {
     QLineEdit *field = grid_.Field(i);
@@ -142,10 +137,6 @@ void WeightEntry::OnFocusIn(int i, const QFocusEvent &event) {
     }
   }
   Q_EMIT Entered();
-}
-
-void WeightEntry::OnFocusOut(const QFocusEvent &event) {
-  if (!IsPassing(event)) TryLeave();
 }
 
 bool WeightEntry::OnKey(int i, const QKeyEvent &event) {

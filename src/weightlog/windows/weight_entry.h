@@ -52,7 +52,6 @@ class WeightEntry : public QObject {
   bool OnKey(int i, const QKeyEvent &event);
   bool OnArrow(int i, const QKeyEvent &event);
   void OnFocusIn(int i, const QFocusEvent &event);
-  void OnFocusOut(const QFocusEvent &event);
   void Refuse(QLineEdit *field);
 
   Session &session_;

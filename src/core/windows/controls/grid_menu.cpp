@@ -1,5 +1,6 @@
 #include "core/windows/controls/grid_menu.h"
 
+#include "core/windows/controls/door_control.h"
 #include "platform/windows/grid/bound_grid.h"
 
 namespace trimlog {
@@ -84,8 +85,8 @@ void GridMenu::UpdateActions(BoundGrid &grid) {
   undoRow_->setEnabled(grid.Model().IsChanging() || grid.IsTyping());
   sortAscending_->setEnabled(sortable);
   sortDescending_->setEnabled(sortable);
-  targets_->setEnabled(static_cast<bool>(navigator_.OpenTargets));
-  nutrients_->setEnabled(static_cast<bool>(navigator_.OpenNutrientSelection));
+  NeedsDoor(*targets_, navigator_.OpenTargets);
+  NeedsDoor(*nutrients_, navigator_.OpenNutrientSelection);
 }
 
 }  // namespace trimlog

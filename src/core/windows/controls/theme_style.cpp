@@ -1,6 +1,7 @@
 #include "core/windows/controls/theme_style.h"
 
 #include "core/windows/controls/art.h"
+#include "platform/windows/controls/spacing.h"
 #include "platform/windows/fields/plain_labels.h"
 
 namespace trimlog {
@@ -22,6 +23,21 @@ QIcon ThemeStyle::standardIcon(StandardPixmap picture, const QStyleOption *optio
   // pictures at every start, and is hardly ever seen.
   if (picture == SP_ToolBarHorizontalExtensionButton) return ArtIcon(QStringLiteral("next"));
   return QProxyStyle::standardIcon(picture, option, widget);
+}
+
+int ThemeStyle::pixelMetric(PixelMetric metric, const QStyleOption *option, const QWidget *widget) const {
+  switch (metric) {
+    case PM_LayoutLeftMargin:
+    case PM_LayoutTopMargin:
+    case PM_LayoutRightMargin:
+    case PM_LayoutBottomMargin:
+      return spacing::around;
+    case PM_LayoutHorizontalSpacing:
+    case PM_LayoutVerticalSpacing:
+      return spacing::between;
+    default:
+      return QProxyStyle::pixelMetric(metric, option, widget);
+  }
 }
 
 }  // namespace trimlog

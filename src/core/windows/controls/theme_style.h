@@ -7,8 +7,8 @@
 namespace trimlog {
 
 /// The desktop's own style, with the habits that every window of the program has: buttons of dialogs and message boxes
-/// carry their words and no pictures, labels and tool tips show text as it stands, and the wheel changes no box that is
-/// only scrolled past. A style meets each widget once, before it is first shown; watching the application's events for
+/// carry their words and no pictures, every layout keeps the same distances, labels and tool tips show text as it
+/// stands, and the wheel changes no box that is only scrolled past. A style meets each widget once, before it is first shown; watching the application's events for
 /// the same would cost something with every one of them.
 class ThemeStyle : public QProxyStyle {
   Q_OBJECT
@@ -19,6 +19,7 @@ class ThemeStyle : public QProxyStyle {
   int styleHint(StyleHint hint, const QStyleOption *option, const QWidget *widget,
                 QStyleHintReturn *returned) const override;
   QIcon standardIcon(StandardPixmap picture, const QStyleOption *option, const QWidget *widget) const override;
+  int pixelMetric(PixelMetric metric, const QStyleOption *option, const QWidget *widget) const override;
 
  private:
   WheelGuard wheelGuard_;

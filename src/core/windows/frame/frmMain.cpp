@@ -6,6 +6,7 @@
 
 #include "core/windows/controls/art.h"
 #include "core/windows/controls/theme.h"
+#include "platform/windows/controls/spacing.h"
 
 namespace trimlog {
 
@@ -89,7 +90,7 @@ frmMain::frmMain(Session &session, QWidget *parent) : QWidget(parent), session_(
   setObjectName(QStringLiteral("frmMain"));
   setAccessibleName(QStringLiteral("Navigation"));
   auto *layout = new QVBoxLayout(this);
-  layout->setContentsMargins(4, 4, 4, 4);
+  layout->setContentsMargins(spacing::tight, spacing::tight, spacing::tight, spacing::tight);
   layout->setSpacing(2);
   for (const Destination &destination : destinations) {
     auto *button = new NavigationButton(this);

@@ -12,6 +12,7 @@
 #include "core/windows/controls/theme.h"
 #include "core/windows/frame/goal_progress.h"
 #include "platform/text/text_format.h"
+#include "platform/windows/controls/spacing.h"
 
 namespace trimlog {
 
@@ -51,8 +52,8 @@ frmMain1::frmMain1(Session &session, QWidget *parent) : QWidget(parent), session
   setObjectName(QStringLiteral("frmMain1"));
   setAccessibleName(QStringLiteral("Statistics"));
   auto *layout = new QGridLayout(this);
-  layout->setContentsMargins(8, 4, 8, 6);
-  layout->setHorizontalSpacing(6);
+  layout->setContentsMargins(spacing::between, spacing::tight, spacing::between, spacing::tight);
+  layout->setHorizontalSpacing(spacing::between);
   layout->setVerticalSpacing(1);
   txtPersonName = AddFigure(QStringLiteral("PersonName"), QStringLiteral("Name"), {});
   layout->setColumnStretch(0, 3);

@@ -6,11 +6,13 @@
 #include "core/profiles/goal.h"
 #include "core/profiles/passwords.h"
 #include "core/settings/options.h"
+#include "core/settings/unit_system.h"
 #include "core/windows/controls/choice_combo.h"
 #include "core/windows/controls/show_calendar.h"
 #include "platform/text/text_format.h"
 #include "platform/windows/controls/form_rows.h"
 #include "platform/windows/controls/named_controls.h"
+#include "platform/windows/controls/spacing.h"
 #include "platform/windows/fields/date_field.h"
 #include "platform/windows/fields/number_field.h"
 #include "platform/windows/fields/text_field.h"
@@ -102,7 +104,7 @@ void ProfileForm::AddGender(QGridLayout *grid) {
   auto *genders = new QWidget(this);
   auto *row = new QHBoxLayout(genders);
   row->setContentsMargins(0, 0, 0, 0);
-  row->setSpacing(16);
+  row->setSpacing(spacing::apart);
   optGenderFemale = AddOption(row, QStringLiteral("optGenderFemale"), QStringLiteral("F&emale"));
   optGenderMale = AddOption(row, QStringLiteral("optGenderMale"), QStringLiteral("M&ale"));
   optGenderFemale->setChecked(true);
@@ -134,7 +136,7 @@ void ProfileForm::ShowUnits(int uomID) {
     txtHeight2->setAccessibleName(labels.HeightInches);
     return;
   }
-  const bool feet = uomID == 1;
+  const bool feet = uomID == poundsSystem;
   lblHeight1->setText(feet ? QStringLiteral("Feet") : QStringLiteral("Meters"));
   lblHeight2->setText(feet ? QStringLiteral("Inches") : QStringLiteral("Centimeters"));
   txtHeight1->setAccessibleName(QStringLiteral("Your height, ") + lblHeight1->text());

@@ -5,6 +5,7 @@
 #include <QVBoxLayout>
 
 #include "core/settings/options.h"
+#include "core/windows/controls/door_control.h"
 #include "platform/windows/controls/named_controls.h"
 
 namespace trimlog {
@@ -22,7 +23,7 @@ SetupOtherPage::SetupOtherPage(Session &session, const Navigator &navigator, QWi
   auto *cmdResetMain =
       AddCommand(row, QStringLiteral("cmdResetMain"), QStringLiteral("Reset &Main Window"),
                  QStringLiteral("Brings the main window back to its first size, in the middle of the screen."));
-  cmdResetMain->setEnabled(static_cast<bool>(navigator.ResetMainWindow));
+  NeedsDoor(*cmdResetMain, navigator.ResetMainWindow);
   connect(cmdResetMain, &QPushButton::clicked, this, [&navigator] { navigator.ResetMainWindow(); });
   auto *cmdResetQJ = AddCommand(row, QStringLiteral("cmdResetQJ"), QStringLiteral("Reset &Quick Journal"),
                                 QStringLiteral("Brings the Quick Journal back to its first size and place."));

@@ -7,6 +7,7 @@
 #include "core/profiles/profile_list.h"
 #include "core/profiles/profiles.h"
 #include "core/settings/options.h"
+#include "core/windows/controls/door_control.h"
 #include "core/windows/controls/grid_follow.h"
 #include "core/windows/controls/refused_row.h"
 #include "core/windows/profiles/frmEditPassword.h"
@@ -19,6 +20,8 @@ SetupProfilesPage::SetupProfilesPage(Session &session, const Navigator &navigato
     : SetupPage(parent), session_(session), navigator_(navigator) {
   auto *layout = new QVBoxLayout(this);
   grdPeople = new BoundGrid(QStringLiteral("grdPeople"), QStringLiteral("Profiles"), session.locale, this);
+  grdPeople->SetPlaceholderText(
+      QStringLiteral("There is no profile yet.  Press \"New Profile...\" to make the first one."));
   layout->addWidget(grdPeople);
   auto *row = new QHBoxLayout;
   layout->addLayout(row);
@@ -69,7 +72,7 @@ void SetupProfilesPage::ShowUnits(int uomID) {
 
 void SetupProfilesPage::UpdateButtons() {
   const bool onProfile = grdPeople->CurrentKey().has_value();
-  cmdNewProfile->setEnabled(static_cast<bool>(navigator_.CreateProfile));
+  NeedsDoor(*cmdNewProfile, navigator_.CreateProfile);
   cmdDeleteProfile->setEnabled(onProfile);
   cmdPassword->setEnabled(onProfile);
 }

@@ -8,7 +8,7 @@ namespace {
 
 bool ByThePerson(const QEvent &event) {
   const Qt::FocusReason reason = static_cast<const QFocusEvent &>(event).reason();
-  return reason != Qt::ActiveWindowFocusReason && reason != Qt::PopupFocusReason;
+  return reason != Qt::ActiveWindowFocusReason && reason != Qt::PopupFocusReason && reason != Qt::MenuBarFocusReason;
 }
 
 }  // namespace

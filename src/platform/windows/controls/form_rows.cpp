@@ -4,13 +4,14 @@
 #include <QLabel>
 #include <QWidget>
 
+#include "platform/windows/controls/spacing.h"
+
 namespace trimlog {
 
 QGridLayout *MakeFormGrid() {
   auto *grid = new QGridLayout;
   grid->setColumnStretch(1, 1);
-  grid->setHorizontalSpacing(12);
-  grid->setVerticalSpacing(10);
+  grid->setHorizontalSpacing(spacing::around);
   return grid;
 }
 
@@ -20,7 +21,7 @@ QLabel *AddFormRow(QGridLayout *grid, const QString &caption, QWidget *buddy, co
   label->setBuddy(buddy);
   grid->addWidget(label, row, 0);
   auto *line = new QHBoxLayout;
-  line->setSpacing(8);
+  line->setSpacing(spacing::between);
   bool fillsLine = false;
   for (QWidget *control : controls) {
     line->addWidget(control);
