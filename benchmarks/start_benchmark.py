@@ -73,7 +73,7 @@ def main():
     benchmarks = options.benchmarks_directory.resolve()
     if not (benchmarks / "empty_window").is_file():
         parser.error(f"{benchmarks} holds no empty_window: build it first")
-    with road.stage(options.app_directory, options.shipped_directory) as trimlog:
+    with road.stage(options.app_directory, options.shipped_directory, heard=False) as trimlog:
         trimlog.add_person(weights=ten_years())
         empty = [str(benchmarks / "empty_window"), *SIZE]
         program = [str(trimlog.program_directory / "trimlog")]

@@ -1,6 +1,7 @@
 // What a screen reader finds in every window of the program, walked widget by widget.
 
 #include "catalogs/windows/exercise_page.h"
+#include "catalogs/windows/food_page.h"
 #include "catalogs/windows/frmAddActivity.h"
 #include "catalogs/windows/frmAddMeal.h"
 #include "catalogs/windows/frmDailyValues.h"
@@ -12,11 +13,13 @@
 #include "core/windows/frame/frmMDI.h"
 #include "core/windows/frame/frmMeter.h"
 #include "core/windows/frame/frmSplash.h"
+#include "core/windows/help/frmHelp.h"
 #include "core/windows/profiles/add_profile_page.h"
 #include "core/windows/profiles/frmAddRec.h"
 #include "core/windows/profiles/frmEditPassword.h"
 #include "core/windows/profiles/frmPassword.h"
 #include "core/windows/setup/frmSetup.h"
+#include "support/paths.h"
 #include "support/test_session.h"
 #include "support/windows/controls.h"
 #include "tools/windows/frmMedicalDisclaimer.h"
@@ -113,6 +116,25 @@ const Room rooms[] = {
      }},
     {"frmDailyValues",
      [](House &house) -> Opened { return std::make_unique<frmDailyValues>(*house.session, nullptr); }},
+    {"frmAddRec, a profile",
+     [](House &house) -> Opened {
+       auto window = std::make_unique<frmAddRec>(nullptr);
+       window->SetPage(new AddProfilePage(*house.session, nullptr));
+       return window;
+     }},
+    {"frmAddRec, a food",
+     [](House &house) -> Opened {
+       auto window = std::make_unique<frmAddRec>(nullptr);
+       window->SetPage(new FoodPage(*house.session, 1, nullptr));
+       return window;
+     }},
+    {"frmHelp",
+     [](House &) -> Opened {
+       const QString pages = SourceDir() + "/help";
+       auto window = std::make_unique<frmHelp>(pages, [](const QString &) {});
+       window->Open(QUrl::fromLocalFile(pages + "/index.html"));
+       return window;
+     }},
     {"frmAddMeal",
      [](House &house) -> Opened {
        return std::make_unique<frmAddMeal>(*house.session, house.navigator,

@@ -1,5 +1,6 @@
 // What a day's entries ask of a grid: foods looked up, texts mended, notes of several lines, dates picked, totals
 // below.
+#include <QAccessible>
 
 #include "grid_fixture.h"
 #include "platform/grid/grid_lookup.h"
@@ -257,6 +258,11 @@ TEST_F(GridTest, WhyARowWasRefusedStandsBelowItUntilItIsRight) {
   ASSERT_TRUE(line);
   GoTo(5, "Nut1");
   Type("9999");
+  Press(Qt::Key_Tab);
+  const QAccessibleInterface *heard = QAccessible::queryAccessibleInterface(line);
+  EXPECT_EQ(heard->role(), QAccessible::Notification);
+  EXPECT_EQ(heard->text(QAccessible::Name), "No food has so many calories.") << "said as soon as it is typed";
+  EXPECT_FALSE(line->isVisible()) << "the row has not been left";
   Press(Qt::Key_Down);
   EXPECT_TRUE(line->isVisible());
   EXPECT_EQ(line->text(), "No food has so many calories.");
@@ -302,10 +308,11 @@ TEST_F(GridTest, TicksAndHeadsSpeak) {
   EXPECT_EQ(grid.Model().headerData(2, Qt::Horizontal, Qt::AccessibleTextRole), "Calories (kcal)");
   grid.UndoRow();
   grid.SetPlaceholderText("Type what you ate.");
-  const QImage full = grid.viewport()->grab().toImage();
+  EXPECT_EQ(grid.accessibleDescription(), "") << "there are rows";
   GridSource none = Source();
   none.where = "FoodID = -99";
   ASSERT_TRUE(grid.SetSource(none));
+  EXPECT_EQ(grid.accessibleDescription(), "Type what you ate.");
   const QImage withText = grid.viewport()->grab().toImage();
   grid.SetPlaceholderText({});
   EXPECT_NE(withText, grid.viewport()->grab().toImage()) << "an empty list says what to do";

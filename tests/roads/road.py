@@ -20,6 +20,7 @@ import time
 NOT_POSSIBLE_HERE = 77
 ROAD_SECONDS = 120
 PATIENCE = 30  # seconds for one thing to happen; only a failure takes that long
+ACCESSIBILITY_BUS = pathlib.Path("/usr/share/dbus-1/services/org.a11y.Bus.service")
 TOOLS = ("Xvfb", "openbox", "xdotool", "import", "compare")
 
 
@@ -62,14 +63,16 @@ def at_rest(processes):
 
 
 class Screen:
-    """An X screen of its own with a window manager, so that windows get the focus as on a desktop."""
+    """An X screen of its own with a window manager, so that windows get the focus as on a desktop; `heard` by a screen
+    reader, too."""
 
-    def __init__(self, width=1280, height=1024):
+    def __init__(self, width=1280, height=1024, heard=True):
         self.processes = []
         try:
             self.display = self._start_server(f"{width}x{height}x24")
             self.environment = {"DISPLAY": self.display, "PATH": os.environ["PATH"], "QT_QPA_PLATFORM": "xcb"}
             self._start_manager()
+            self.environment |= self._start_listener() if heard else {"QT_ACCESSIBILITY": "0"}
         except BaseException:
             self.close()
             raise
@@ -96,6 +99,22 @@ class Screen:
         self.processes.append(manager)
         if not until(lambda: self._managed() or manager.poll() is not None) or manager.poll() is not None:
             raise AssertionError("the window manager did not start")
+
+    def _start_listener(self):
+        """A message bus of its own, over which a screen reader would hear the program: everything is told there as on a
+        desktop with one. Where there is no such bus the roads go without."""
+        if not shutil.which("dbus-daemon") or not ACCESSIBILITY_BUS.exists():
+            return {"QT_ACCESSIBILITY": "0"}
+        read, write = os.pipe()
+        with os.fdopen(read, "rb", buffering=0) as answer:
+            self.processes.append(child(["dbus-daemon", "--session", "--nofork", "--print-address", write],
+                                        pass_fds=[write], env=self.environment, stderr=subprocess.DEVNULL))
+            os.close(write)
+            ready = select.select([answer], [], [], PATIENCE)[0]
+            address = answer.readline().decode().strip() if ready else ""
+        if not address:
+            raise AssertionError("the message bus did not start")
+        return {"DBUS_SESSION_BUS_ADDRESS": address, "QT_ACCESSIBILITY": "1", "QT_LINUX_ACCESSIBILITY_ALWAYS_ON": "1"}
 
     def _managed(self):
         # xdotool asks the manager for the number of desktops; without one the answer is an error.
@@ -125,7 +144,7 @@ class Trimlog:
         home = self.folder / "home"
         self.environment = screen.environment | {
             "HOME": str(home), "XDG_CONFIG_HOME": str(home / ".config"), "XDG_RUNTIME_DIR": str(self.folder),
-            "LC_ALL": locale, "QT_ACCESSIBILITY": "0"}
+            "LC_ALL": locale}
 
     def _install(self, app_directory, shipped_directory):
         self.program_directory = self.folder / "app"

@@ -1,5 +1,6 @@
 #include "tools/windows/body_fat_page.h"
 
+#include <QGridLayout>
 #include <QLabel>
 #include <QPushButton>
 #include <QRadioButton>
@@ -32,11 +33,14 @@ BodyFatPage::BodyFatPage(Session &session, const ToolsProfile &profile, QWidget 
   policy.setRetainSizeWhenHidden(true);
   pnlBodyFatChart->setSizePolicy(policy);
   pnlBodyFatChart->hide();
-  layout->addSpacing(8);
-  layout->addWidget(pnlBodyFatChart);
   pnlBodyFatSummary = new ResultText(QStringLiteral("pnlBodyFatSummary"), this);
   pnlBodyFatSummary->MakeFrame(linesOfAssessment);
-  layout->addWidget(pnlBodyFatSummary);
+  pnlBodyFatSummary->SetHint(QStringLiteral("Click the <Calculate Now> button to see your results."));
+  results_ = new QGridLayout;
+  layout->addLayout(results_, 1);
+  results_->addWidget(pnlBodyFatChart, 0, 0);
+  results_->addWidget(pnlBodyFatSummary, 0, 0, 2, 1);  // takes the bar's place until there is one
+  results_->setRowStretch(1, 1);
   SetToolFields();
 }
 
@@ -131,6 +135,7 @@ void BodyFatPage::Calculate() {
         AssessBodyFat(question, profile_, session_.settings.UomID, session_.UomDisplay, session_.locale);
     pnlBodyFatChart->ShowAssessment(assessment);
     pnlBodyFatChart->show();
+    results_->addWidget(pnlBodyFatSummary, 1, 0);
     pnlBodyFatSummary->setText(assessment.summary);
   });
 }

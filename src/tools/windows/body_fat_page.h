@@ -5,6 +5,7 @@
 #include "core/session/session.h"
 #include "tools/tools_profile.h"
 
+class QGridLayout;
 class QLabel;
 class QLayout;
 class QPushButton;
@@ -50,6 +51,7 @@ class BodyFatPage : public QWidget {
   QLabel *lblBodyFatUOMInches = nullptr;
   QPushButton *cmdBodyFatCalculate = nullptr;
   BodyFatBar *pnlBodyFatChart = nullptr;
+  QGridLayout *results_ = nullptr;  ///< the bar above its summary
   ResultText *pnlBodyFatSummary = nullptr;
 };
 

@@ -9,6 +9,7 @@
 #include "platform/windows/controls/field_left.h"
 #include "platform/windows/controls/named_controls.h"
 #include "platform/windows/controls/result_text.h"
+#include "platform/windows/controls/spacing.h"
 #include "platform/windows/fields/number_field.h"
 #include "tools/windows/activity_chart.h"
 #include "tools/windows/tool_colours.h"
@@ -40,7 +41,14 @@ CaloricNeedsPage::CaloricNeedsPage(Session &session, const ToolsProfile &profile
   layout->addWidget(chart_);
   pnlBMRSummary = new ResultText(QStringLiteral("pnlBMRSummary"), this);
   pnlBMRSummary->MakeFrame(linesOfSummary);
-  layout->addWidget(KeepPlaceWhenHidden(pnlBMRSummary));
+  auto *place = new QGridLayout;
+  layout->addLayout(place, 1);
+  place->addWidget(KeepPlaceWhenHidden(pnlBMRSummary), 0, 0);
+  note_ = new ResultText(QStringLiteral("lblBMRSummaryNote"), this);
+  note_->MakeFrame(1);
+  note_->SetHint(QStringLiteral("What your activity level comes to will stand here."));
+  note_->setFocusPolicy(Qt::NoFocus);
+  place->addWidget(note_, 0, 0);
   connect(chart_, &ActivityChart::ChoiceMade, this, &CaloricNeedsPage::UpdateBMRSummary);
   SetToolFields();
   ClearBMRResults();
@@ -50,7 +58,7 @@ void CaloricNeedsPage::AddInputs(QLayout *layout) {
   QHBoxLayout *person = AddRow(layout);
   AddLabel(person, {}, QStringLiteral("Gender:"));
   pnlBMRGender = AddLabel(person, QStringLiteral("pnlBMRGender"), {});
-  person->addSpacing(24);
+  person->addSpacing(spacing::apart);
   AddLabel(person, {}, QStringLiteral("Height:"));
   pnlBMRHeight = AddLabel(person, QStringLiteral("pnlBMRHeight"), {});
   person->addStretch();
@@ -58,7 +66,7 @@ void CaloricNeedsPage::AddInputs(QLayout *layout) {
   QHBoxLayout *weight = AddRow(layout);
   optBMRCurrentWeight =
       AddOption(weight, QStringLiteral("optBMRCurrentWeight"), QStringLiteral("Use My Current Weight"));
-  weight->addSpacing(8);
+  weight->addSpacing(spacing::between);
   optBMRGoalWeight = AddOption(weight, QStringLiteral("optBMRGoalWeight"), QStringLiteral("Use My Goal Weight:"));
   txtBMRGoal = AddNumber(weight, QStringLiteral("txtBMRGoal"), QStringLiteral("Goal Weight"), session_.locale);
   pnlBMRUOM = AddLabel(weight, QStringLiteral("pnlBMRUOM"), session_.UomDisplay);
@@ -66,7 +74,7 @@ void CaloricNeedsPage::AddInputs(QLayout *layout) {
 
   QHBoxLayout *age = AddRow(layout);
   optBMRCurrentAge = AddOption(age, QStringLiteral("optBMRCurrentAge"), QStringLiteral("Use My Current Age"));
-  age->addSpacing(8);
+  age->addSpacing(spacing::between);
   optBMROtherAge = AddOption(age, QStringLiteral("optBMROtherAge"), QStringLiteral("Use Another Age:"));
   txtBMRAge = AddNumber(age, QStringLiteral("txtBMRAge"), QStringLiteral("Age"), session_.locale);
   age->addStretch();
@@ -158,6 +166,7 @@ void CaloricNeedsPage::Calculate() {
 void CaloricNeedsPage::UpdateBMRSummary() {
   const int chosen = chart_->Chosen();
   pnlBMRSummary->setVisible(chosen >= 0);
+  note_->setVisible(chosen < 0);
   pnlBMRSummary->setText(chosen < 0 ? QString() : SummarizeCaloricNeeds(needs_, chosen, optBMRGoalWeight->isChecked()));
 }
 

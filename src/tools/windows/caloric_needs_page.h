@@ -55,6 +55,7 @@ class CaloricNeedsPage : public QWidget {
   QLabel *pnlBMRResults3 = nullptr;
   ActivityChart *chart_ = nullptr;
   ResultText *pnlBMRSummary = nullptr;
+  ResultText *note_ = nullptr;  ///< stands in the summary's place while there is none
 };
 
 }  // namespace trimlog

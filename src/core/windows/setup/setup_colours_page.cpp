@@ -25,6 +25,7 @@ QWidget *SetupColoursPage::MakeSchemeGroup() {
   grdPeopleColors =
       new BoundGrid(QStringLiteral("grdPeopleColors"), QStringLiteral("Profiles"), session_.locale, group);
   grdPeopleColors->canDelete = false;
+  grdPeopleColors->SetSpareColumn(QStringLiteral("PersonName"));
   grdPeopleColors->SetPlaceholderText(
       QStringLiteral("There is no profile yet.  The tab Profiles makes the first one."));
   grdPeopleColors->Hooks().guard = [this](GridAction action, const std::function<void()> &work) {

@@ -22,6 +22,7 @@ SetupProfilesPage::SetupProfilesPage(Session &session, const Navigator &navigato
   grdPeople = new BoundGrid(QStringLiteral("grdPeople"), QStringLiteral("Profiles"), session.locale, this);
   grdPeople->SetPlaceholderText(
       QStringLiteral("There is no profile yet.  Press \"New Profile...\" to make the first one."));
+  grdPeople->SetSpareColumn(QStringLiteral("PersonName"));
   layout->addWidget(grdPeople);
   auto *row = new QHBoxLayout;
   layout->addLayout(row);

@@ -28,10 +28,20 @@ void ResultText::MakeFrame(int lines) {
   setSizePolicy(QSizePolicy::Expanding, QSizePolicy::MinimumExpanding);
 }
 
+void ResultText::SetHint(const QString &hint) {
+  hint_ = hint;
+  setAccessibleDescription(hint);
+}
+
 void ResultText::paintEvent(QPaintEvent *event) {
   QLabel::paintEvent(event);
-  if (!hasFocus()) return;
   QPainter painter(this);
+  if (text().isEmpty() && !hint_.isEmpty()) {
+    painter.setPen(palette().color(QPalette::PlaceholderText));
+    painter.drawText(contentsRect().adjusted(textMargin, textMargin, -textMargin, -textMargin),
+                     Qt::AlignCenter | Qt::TextWordWrap, hint_);
+  }
+  if (!hasFocus()) return;
   QStyleOptionFocusRect option;
   option.initFrom(this);
   option.rect = rect().adjusted(1, 1, -1, -1);

@@ -12,9 +12,14 @@ class ResultText : public QLabel {
   explicit ResultText(const QString &name, QWidget *parent = nullptr);
   /// Framed, broken where it must be, and at least so many lines high.
   void MakeFrame(int lines);
+  /// Quiet words that stand in the frame while there is no result: what to do for one.
+  void SetHint(const QString &hint);
 
  protected:
   void paintEvent(QPaintEvent *event) override;
+
+ private:
+  QString hint_;
 };
 
 }  // namespace trimlog

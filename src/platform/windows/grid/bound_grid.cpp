@@ -28,9 +28,11 @@ BoundGrid::BoundGrid(const QString &objectName, const QString &label, const QLoc
   SetUpHeads();
   widths_ = new GridWidths(*this);
   ApplyFont();
-  connect(model_, &GridModel::CellEdited, this, [this](int, const QString &column) { leaving_.SaveAfter(column); });
+  connect(model_, &GridModel::CellEdited, this, [this](int, const QString &column) { leaving_.AfterCell(column); });
   connect(model_, &GridModel::RowStateChanged, this, [this] { leaving_.PlaceSentence(); });
   connect(model_, &QAbstractItemModel::modelReset, this, [this] { leaving_.PlaceSentence(); });
+  connect(model_, &QAbstractItemModel::modelReset, this, [this] { emptyNote_.Follow(); });
+  connect(model_, &QAbstractItemModel::rowsInserted, this, [this] { emptyNote_.Follow(); });
 }
 
 BoundGrid::~BoundGrid() { widths_->SaveNow(); }

@@ -144,6 +144,7 @@ class BoundGrid : public QTableView {
   void mouseReleaseEvent(QMouseEvent *event) override;
   void mouseDoubleClickEvent(QMouseEvent *event) override;
   void contextMenuEvent(QContextMenuEvent *event) override;
+  void focusInEvent(QFocusEvent *event) override;
   void focusOutEvent(QFocusEvent *event) override;
   void resizeEvent(QResizeEvent *event) override;
   void showEvent(QShowEvent *event) override;
@@ -162,6 +163,7 @@ class BoundGrid : public QTableView {
   void SetUpView();
   void SetUpHeads();
   void ApplyFont();
+  void SayCurrentCell();
 
   GridModel *model_;
   RowLeaving leaving_;

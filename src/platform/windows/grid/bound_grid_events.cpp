@@ -1,4 +1,5 @@
 // What comes to a BoundGrid from outside: keys and mouse, scrolling, painting; and its cells' editors.
+#include <QAccessible>
 #include <QApplication>
 #include <QContextMenuEvent>
 #include <QHeaderView>
@@ -60,6 +61,22 @@ void BoundGrid::closeEditor(QWidget *editor, QAbstractItemDelegate::EndEditHint 
   QTableView::closeEditor(editor, hint);
   const QWidget *const focus = QApplication::focusWidget();
   if (focus && focus != this && !isAncestorOf(focus) && focus->window() == window()) CommitRow();
+}
+
+void BoundGrid::focusInEvent(QFocusEvent *event) {
+  QTableView::focusInEvent(event);
+  // Behind the view's own word, which is the name of the list.
+  if (QAccessible::isActive()) QMetaObject::invokeMethod(this, &BoundGrid::SayCurrentCell, Qt::QueuedConnection);
+}
+
+// Who comes into the grid by ear hears the cell that the keys act on.
+void BoundGrid::SayCurrentCell() {
+  if (!hasFocus() || !currentIndex().isValid()) return;
+  QAccessibleInterface *const table = QAccessible::queryAccessibleInterface(this);
+  const QModelIndex cell = currentIndex();
+  QAccessibleEvent told(this, QAccessible::Focus);
+  told.setChild(table->indexOfChild(table->tableInterface()->cellAt(cell.row(), cell.column())));
+  QAccessible::updateAccessibility(&told);
 }
 
 void BoundGrid::focusOutEvent(QFocusEvent *event) {

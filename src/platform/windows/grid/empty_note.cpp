@@ -7,12 +7,19 @@ namespace trimlog {
 
 void EmptyNote::SetText(const QString &text) {
   text_ = text;
-  list_.setAccessibleDescription(text);
+  Follow();
   list_.viewport()->update();
 }
 
+bool EmptyNote::IsShown() const { return !text_.isEmpty() && list_.model() && list_.model()->rowCount() == 0; }
+
+void EmptyNote::Follow() {
+  const QString spoken = IsShown() ? text_ : QString();
+  if (list_.accessibleDescription() != spoken) list_.setAccessibleDescription(spoken);
+}
+
 void EmptyNote::Draw() const {
-  if (text_.isEmpty() || !list_.model() || list_.model()->rowCount() > 0) return;
+  if (!IsShown()) return;
   QPainter painter(list_.viewport());
   painter.setPen(list_.palette().color(QPalette::PlaceholderText));
   const int margin = list_.fontMetrics().height();

@@ -1,17 +1,15 @@
 #include "platform/windows/grid/row_leaving.h"
 
-#include <QLabel>
 #include <algorithm>
 
 #include "platform/grid/grid_guard.h"
+#include "platform/windows/controls/spoken_label.h"
 #include "platform/windows/grid/bound_grid.h"
 #include "platform/windows/grid/grid_delegate.h"
 
 namespace trimlog {
 
-RowLeaving::RowLeaving(BoundGrid &grid) : grid_(grid), sentence_(new QLabel(&grid)) {
-  sentence_->setObjectName(QStringLiteral("lblRefused"));
-  sentence_->setTextFormat(Qt::PlainText);
+RowLeaving::RowLeaving(BoundGrid &grid) : grid_(grid), sentence_(new SpokenLabel(QStringLiteral("lblRefused"), &grid)) {
   sentence_->setWordWrap(true);
   sentence_->setMargin(4);
   sentence_->setAutoFillBackground(true);
@@ -38,10 +36,20 @@ bool RowLeaving::Save() {
   return false;
 }
 
-void RowLeaving::SaveAfter(const QString &column) {
+void RowLeaving::AfterCell(const QString &column) {
   const GridModel &model = grid_.Model();
   const int edited = model.ColumnByName(column);
-  if (edited >= 0 && model.Columns()[edited].savesAtOnce && model.RefusalOfRow().isEmpty()) Save();
+  if (edited < 0) return;
+  Say(model.index(model.ChangingRow(), edited).data(GridModel::SentenceRole).toString());
+  if (model.Columns()[edited].savesAtOnce && model.RefusalOfRow().isEmpty()) Save();
+}
+
+// Again where it is the same sentence: it tells of another attempt.
+void RowLeaving::Say(const QString &sentence) {
+  if (sentence.isEmpty()) return;
+  sentence_->clear();
+  sentence_->Tell(sentence);
+  PlaceSentence();
 }
 
 void RowLeaving::ShowRefusal() {
@@ -59,7 +67,7 @@ void RowLeaving::ShowRefusal() {
   if (cell != grid_.currentIndex()) grid_.Selection().GoTo(cell);
   grid_.scrollTo(cell);
   refused_ = true;
-  PlaceSentence();
+  Say(model.RefusalOfRow());
   Q_EMIT grid_.RefusedRow(cell.data(GridModel::SentenceRole).toString());
 }
 

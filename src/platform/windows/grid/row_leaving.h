@@ -3,11 +3,10 @@
 #include <QModelIndex>
 #include <QString>
 
-class QLabel;
-
 namespace trimlog {
 
 class BoundGrid;
+class SpokenLabel;
 
 /// Leaving the row that is being changed: saves it, or brings what was refused before the person's eyes, with its
 /// sentence on a line below the row until the row is right or taken back.
@@ -19,7 +18,8 @@ class RowLeaving {
   bool Commit();
   /// Saves the row without closing the editor that is open in it: for columns that are saved with every cell.
   bool Save();
-  void SaveAfter(const QString &column);  ///< a cell of it was changed: saves the row when the column wants that
+  /// A cell of the row was changed: saves the row where the column wants that, and says why the text is refused.
+  void AfterCell(const QString &column);
   bool IsUnderWay() const { return underWay_; }
   /// The cell to go to after the row being changed was saved (saving may have moved the rows); an invalid one when that
   /// row may not be left.
@@ -29,9 +29,10 @@ class RowLeaving {
 
  private:
   void ShowRefusal();
+  void Say(const QString &sentence);
 
   BoundGrid &grid_;
-  QLabel *sentence_;
+  SpokenLabel *sentence_;
   bool refused_ = false;
   bool underWay_ = false;
 };
