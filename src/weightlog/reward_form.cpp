@@ -99,6 +99,15 @@ QString RewardTestTitle(RewardType type) {
   }
 }
 
+QString RewardTitle(const QString &personName) { return QStringLiteral("Reward Settings for: ") + personName; }
+
+QString RewardNote(const QString &personName) {
+  return QStringLiteral("Note: This setting only affects rewards for ") + personName +
+         QStringLiteral(
+             ".  To change rewards for someone else, load their profile from the Profiles menu and return to "
+             "this window.");
+}
+
 QString RewardProfileName(Session &session) { return PersonValue(session, QStringLiteral("PersonName")); }
 
 }  // namespace trimlog

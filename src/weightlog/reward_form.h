@@ -40,7 +40,9 @@ bool SaveRewardForm(Session &session, RewardForm &form);
 /// "Personal Reward", "Daily Reward" or "Weekly Reward".
 QString RewardTestTitle(RewardType type);
 
-/// The name of the profile whose rule is edited.
+/// Whose rule is edited, and what to do for somebody else's.
+QString RewardTitle(const QString &personName);
+QString RewardNote(const QString &personName);
 QString RewardProfileName(Session &session);
 
 }  // namespace trimlog

@@ -17,23 +17,6 @@
 
 namespace trimlog {
 
-namespace {
-
-/// The fields that follow the grams of one nutrient.
-struct GramsRule {
-  int nutrientID;
-  int caloriesID;
-  int percentID;
-  int caloriesPerGram;
-};
-constexpr std::array<GramsRule, 3> gramsRules = {{
-    {nutrient_id::fat, nutrient_id::calFromFat, nutrient_id::calFromFatPct, caloriesPerGramOfFat},
-    {nutrient_id::carbs, nutrient_id::calFromCarb, nutrient_id::calFromCarbPct, caloriesPerGramOfCarbs},
-    {nutrient_id::protein, nutrient_id::calFromProtein, nutrient_id::calFromProteinPct, caloriesPerGramOfProtein},
-}};
-
-}  // namespace
-
 FoodPage::FoodPage(Session &session, int mealGroupID, QWidget *parent) : AddRecPage(parent), session_(session) {
   food_.MealGroupID = mealGroupID;
   Build();
@@ -116,62 +99,19 @@ void FoodPage::AddCommands(QVBoxLayout *layout) {
 }
 
 void FoodPage::ConnectDerived() {
-  for (const int id :
-       {nutrient_id::carbs, nutrient_id::fiber, nutrient_id::sugarAlcohols, nutrient_id::fat, nutrient_id::protein}) {
-    textOnEntry_.insert(id, QString());
-    connect(&nutrients_->Of(id), &QLineEdit::editingFinished, this, [this, id] { OnGramsLeft(id); });
-  }
-  for (auto text = textOnEntry_.begin(); text != textOnEntry_.end(); ++text) text.value() = TextOf(text.key());
-}
-
-QString FoodPage::TextOf(int nutrientID) const { return nutrients_->TextOf(nutrientID); }
-
-void FoodPage::OnGramsLeft(int nutrientID) {
-  const bool changed = TextOf(nutrientID) != textOnEntry_[nutrientID];
-  textOnEntry_[nutrientID] = TextOf(nutrientID);
-  const bool partOfNetCarbs = nutrientID != nutrient_id::fat && nutrientID != nutrient_id::protein;
-  // An absurd amount cannot be followed; storing the food says so.
-  GuardedQuietly([&] {
-    // Net carbs that somebody typed for a stored food stay until its carbs are changed.
-    if (partOfNetCarbs && (changed || IsNew())) ShowNetCarbs();
-    if (changed) ShowCaloriesFrom(nutrientID);
-  });
-}
-
-void FoodPage::ShowNetCarbs() {
-  nutrients_->SetText(nutrient_id::netCarbs, DerivedNetCarbs(TextOf(nutrient_id::carbs), TextOf(nutrient_id::fiber),
-                                                             TextOf(nutrient_id::sugarAlcohols), session_.locale));
-}
-
-void FoodPage::ShowCaloriesFrom(int nutrientID) {
-  for (const GramsRule &rule : gramsRules) {
-    if (rule.nutrientID != nutrientID) continue;
-    const CaloriesFrom from =
-        DerivedCalories(TextOf(nutrientID), rule.caloriesPerGram, TextOf(nutrient_id::calories), session_.locale);
-    nutrients_->SetText(rule.caloriesID, from.calories);
-    nutrients_->SetText(rule.percentID, from.percent);
-  }
-}
-
-CalorieFields FoodPage::ShownCalorieFields() const {
-  using namespace nutrient_id;
-  return {{TextOf(calFromFat), TextOf(calFromFatPct)},
-          {TextOf(calFromCarb), TextOf(calFromCarbPct)},
-          {TextOf(calFromProtein), TextOf(calFromProteinPct)}};
-}
-
-void FoodPage::ShowCalorieFields(const CalorieFields &fields) {
-  const std::array<const CaloriesFrom *, 3> shown = {&fields.fat, &fields.carbs, &fields.protein};
-  for (std::size_t i = 0; i < gramsRules.size(); ++i) {
-    nutrients_->SetText(gramsRules[i].caloriesID, shown[i]->calories);
-    nutrients_->SetText(gramsRules[i].percentID, shown[i]->percent);
+  following_ = std::make_unique<FollowingFields>(
+      [this](int nutrientID) { return nutrients_->TextOf(nutrientID); },
+      [this](int nutrientID, const QString &text) { nutrients_->SetText(nutrientID, text); }, IsNew(), session_.locale);
+  for (const int id : FollowingFields::Leading()) {
+    // An absurd amount cannot be followed; storing the food says so.
+    connect(&nutrients_->Of(id), &QLineEdit::editingFinished, this,
+            [this, id] { GuardedQuietly([&] { following_->Left(id); }); });
   }
 }
 
 void FoodPage::OnCalculateCalories() {
-  const CalorieFields present = ShownCalorieFields();
   BoxButton answer = BoxButton::Yes;
-  if (HoldsCalorieValues(present, session_.locale)) {
+  if (following_->HoldsCalories()) {
     answer = session_.boxes.Show(
         {QStringLiteral("Overwrite Existing Values?"),
          QStringLiteral("For Protein, Carbs, and Fat, at least one of the calorie or percentage fields already has a "
@@ -184,11 +124,7 @@ void FoodPage::OnCalculateCalories() {
   const FailureExit failure{QStringLiteral("frmAddRec"), QStringLiteral("cmdCalcCal_Click"),
                             QStringLiteral("Error Calculating Calories"),
                             QStringLiteral("The calories could not be calculated from these amounts.")};
-  Guarded(session_, failure, [&] {
-    ShowCalorieFields(CalculatedCalories(present, TextOf(nutrient_id::fat), TextOf(nutrient_id::carbs),
-                                         TextOf(nutrient_id::protein), TextOf(nutrient_id::calories),
-                                         answer == BoxButton::Yes, session_.locale));
-  });
+  Guarded(session_, failure, [&] { following_->CalculateCalories(answer == BoxButton::Yes); });
 }
 
 void FoodPage::OnDailyValues() {
@@ -196,8 +132,7 @@ void FoodPage::OnDailyValues() {
   if (converter.exec() != QDialog::Accepted) return;
   // Only what was given changes: the fields that follow an amount follow one that is typed.
   for (auto amount = converter.Amounts().cbegin(); amount != converter.Amounts().cend(); ++amount) {
-    nutrients_->SetText(amount.key(), amount.value());
-    if (textOnEntry_.contains(amount.key())) textOnEntry_[amount.key()] = amount.value();
+    following_->Put(amount.key(), amount.value());
   }
 }
 

@@ -1,9 +1,9 @@
 #pragma once
 
-#include <QMap>
+#include <memory>
 
+#include "catalogs/following_fields.h"
 #include "catalogs/food_catalog.h"
-#include "catalogs/food_derived.h"
 #include "core/windows/profiles/add_rec_page.h"
 
 class QComboBox;
@@ -38,14 +38,8 @@ class FoodPage : public AddRecPage {
   void AddNutrients(QVBoxLayout *layout);
   void AddCommands(QVBoxLayout *layout);
   void ConnectDerived();
-  void OnGramsLeft(int nutrientID);
-  void ShowNetCarbs();
-  void ShowCaloriesFrom(int nutrientID);
   void OnCalculateCalories();
   void OnDailyValues();
-  CalorieFields ShownCalorieFields() const;
-  void ShowCalorieFields(const CalorieFields &fields);
-  QString TextOf(int nutrientID) const;
   bool CheckNumber(NumberField *field);
   QString TypedDescription() const;
   FoodRecord Typed() const;
@@ -57,7 +51,7 @@ class FoodPage : public AddRecPage {
   NumberField *txtGIValue = nullptr;
   QComboBox *cboMealGroups = nullptr;
   NutrientFields *nutrients_ = nullptr;
-  QMap<int, QString> textOnEntry_;
+  std::unique_ptr<FollowingFields> following_;
 };
 
 }  // namespace trimlog

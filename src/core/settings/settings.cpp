@@ -31,10 +31,6 @@ struct Row {
   Place place;
   QString fallback;
   Allowed allowed = {};
-
-  bool IsBoolean() const {
-    return std::holds_alternative<bool Settings::*>(place) || std::holds_alternative<OfChart<bool>>(place);
-  }
 };
 
 const QString storedTrue = QStringLiteral("-1");
@@ -200,7 +196,7 @@ void SaveSetting(const Settings &settings, SettingsStore &store, const QString &
 
 QList<SettingRow> SettingRows() {
   QList<SettingRow> listed;
-  for (const Row &row : Rows()) listed.append({row.name, row.fallback, row.IsBoolean()});
+  for (const Row &row : Rows()) listed.append({row.name, row.fallback});
   return listed;
 }
 

@@ -68,7 +68,6 @@ void SaveSetting(const Settings &settings, SettingsStore &store, const QString &
 struct SettingRow {
   QString name;
   QString fallback;  ///< the default, as stored
-  bool isBoolean = false;
 };
 /// The declared table, in its order.
 QList<SettingRow> SettingRows();

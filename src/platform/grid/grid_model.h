@@ -101,7 +101,6 @@ class GridModel : public QAbstractTableModel {
 
  Q_SIGNALS:
   void CellEdited(int row, const QString &columnName);  ///< typed or ticked, not yet saved
-  void RowSaved(qint64 key);
   void RowStateChanged(int row);
 
  private:

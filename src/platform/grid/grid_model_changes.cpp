@@ -129,7 +129,6 @@ bool GridModel::SaveRow() {
     if (hooks.withUpdate) hooks.withUpdate(*edit_, *key);
     transaction.Commit();
   }
-  Q_EMIT RowSaved(*key);
   if (hooks.afterUpdate) hooks.afterUpdate(*key);
   return true;
 }

@@ -133,11 +133,8 @@ void RewardsPage::Load(const Settings &) {
 
 void RewardsPage::ShowProfile() {
   const QString personName = RewardProfileName(session_);
-  QString title = QStringLiteral("Reward Settings for: ") + personName;
-  fraRewards->setTitle(title.replace(QLatin1Char('&'), QStringLiteral("&&")));
-  pnlRewardNote->setText(QStringLiteral("Note: This setting only affects rewards for ") + personName +
-                         QStringLiteral(".  To change rewards for someone else, load their profile from the Profiles "
-                                        "menu and return to this window."));
+  fraRewards->setTitle(RewardTitle(personName).replace(QLatin1Char('&'), QStringLiteral("&&")));
+  pnlRewardNote->setText(RewardNote(personName));
 }
 
 void RewardsPage::UpdateFields() {

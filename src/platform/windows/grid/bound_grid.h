@@ -133,7 +133,6 @@ class BoundGrid : public QTableView {
   void CurrentRowChanged();                  ///< another row, or none
   void RowActivated(qint64 key);             ///< double click on, or Enter in, a row that cannot be changed
   void MenuWanted(const QPoint &globalPos);  ///< right click or the menu key; current cell is the one under it
-  void RefusedRow(const QString &sentence);
   void Sorted();  ///< the rows stand in another order now: a caption, the menu or SortBy
 
  protected:

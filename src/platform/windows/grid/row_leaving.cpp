@@ -68,7 +68,6 @@ void RowLeaving::ShowRefusal() {
   grid_.scrollTo(cell);
   refused_ = true;
   Say(model.RefusalOfRow());
-  Q_EMIT grid_.RefusedRow(cell.data(GridModel::SentenceRole).toString());
 }
 
 void RowLeaving::PlaceSentence() {
