@@ -17,6 +17,12 @@
 
 namespace trimlog {
 
+namespace {
+
+constexpr int linesOfTheRest = 18;  // heading, texts, buttons, and the desktop's own frame
+
+}  // namespace
+
 FoodPage::FoodPage(Session &session, int mealGroupID, QWidget *parent) : AddRecPage(parent), session_(session) {
   food_.MealGroupID = mealGroupID;
   Build();
@@ -72,8 +78,8 @@ void FoodPage::AddTexts(QFormLayout *form) {
 }
 
 void FoodPage::AddNutrients(QVBoxLayout *layout) {
-  // All fields in sight where the screen has room for them; the rest of the dialog takes about the margin.
-  const QSize screenRoom = screen()->availableSize() - QSize(80, 290);
+  // All fields in sight where the screen has room for them and the rest of the dialog.
+  const QSize screenRoom = screen()->availableSize() - QSize(80, fontMetrics().height() * linesOfTheRest);
   layout->addWidget(ScrolledNutrients(session_, FoodNutrientFields(), screenRoom, this, &nutrients_), 1);
   if (!IsNew()) nutrients_->Show(food_.nutrients);
 }

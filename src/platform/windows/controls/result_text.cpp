@@ -3,6 +3,8 @@
 #include <QPainter>
 #include <QStyleOptionFocusRect>
 
+#include "platform/windows/controls/quiet_text.h"
+
 namespace trimlog {
 
 namespace {
@@ -37,7 +39,7 @@ void ResultText::paintEvent(QPaintEvent *event) {
   QLabel::paintEvent(event);
   QPainter painter(this);
   if (text().isEmpty() && !hint_.isEmpty()) {
-    painter.setPen(palette().color(QPalette::PlaceholderText));
+    painter.setPen(QuietText(palette(), foregroundRole()));
     painter.drawText(contentsRect().adjusted(textMargin, textMargin, -textMargin, -textMargin),
                      Qt::AlignCenter | Qt::TextWordWrap, hint_);
   }

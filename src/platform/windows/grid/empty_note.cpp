@@ -3,6 +3,8 @@
 #include <QAbstractItemView>
 #include <QPainter>
 
+#include "platform/windows/controls/quiet_text.h"
+
 namespace trimlog {
 
 void EmptyNote::SetText(const QString &text) {
@@ -21,7 +23,7 @@ void EmptyNote::Follow() {
 void EmptyNote::Draw() const {
   if (!IsShown()) return;
   QPainter painter(list_.viewport());
-  painter.setPen(list_.palette().color(QPalette::PlaceholderText));
+  painter.setPen(QuietText(list_.palette(), QPalette::Text));
   const int margin = list_.fontMetrics().height();
   painter.drawText(list_.viewport()->rect().adjusted(margin, margin, -margin, -margin),
                    Qt::AlignHCenter | Qt::AlignTop | Qt::TextWordWrap, text_);
