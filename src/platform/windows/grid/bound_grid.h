@@ -133,7 +133,7 @@ class BoundGrid : public QTableView {
   void CurrentRowChanged();                  ///< another row, or none
   void RowActivated(qint64 key);             ///< double click on, or Enter in, a row that cannot be changed
   void MenuWanted(const QPoint &globalPos);  ///< right click or the menu key; current cell is the one under it
-  void Sorted();  ///< the rows stand in another order now: a caption, the menu or SortBy
+  void Sorted();                             ///< the rows stand in another order now: a caption, the menu or SortBy
 
  protected:
   bool edit(const QModelIndex &index, EditTrigger trigger, QEvent *event) override;
