@@ -119,7 +119,7 @@ TEST_F(JournalInTheFrame, WhatIsTypedInTheQuickJournalHoldsTheFrame) {
   AddNote(*session, {2026, 3, 1}, QStringLiteral("old"));
   frmQuickDiary &quick = OpenQuick();
   auto &note = Find<QPlainTextEdit>(quick, QStringLiteral("txtNotes"));
-  QTest::keyClicks(&note, QStringLiteral("not yet "));
+  QTest::keyClicks(&note, QStringLiteral(", not yet"));
   {
     const FullDisk full(0);
     session.boxes.Expect(QStringLiteral("Error Saving Journal"), QStringLiteral("An error occurred"));
@@ -131,7 +131,7 @@ TEST_F(JournalInTheFrame, WhatIsTypedInTheQuickJournalHoldsTheFrame) {
   QApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
   EXPECT_FALSE(Quick()) << "another person's day is another window";
   EXPECT_EQ(session.ValueOf(QStringLiteral("Notes"), QStringLiteral("notes"), QStringLiteral("PersonID=1")),
-            QStringLiteral("not yet old"));
+            QStringLiteral("old, not yet"));
 }
 
 }  // namespace

@@ -59,12 +59,12 @@ TEST_F(QuickJournal, ShowsTheCalendarsDayAndGoesAlong) {
   EXPECT_EQ(note.toPlainText(), QStringLiteral("the tenth"));
   EXPECT_EQ(QApplication::focusWidget(), &note);
 
-  QTest::keyClicks(&note, QStringLiteral("Still "));
+  QTest::keyClicks(&note, QStringLiteral(", still"));
   GoTo({2026, 2, 11});
   EXPECT_EQ(Find<DateField>(*window, QStringLiteral("txtDate")).text(), QStringLiteral("2/11/2026"));
   EXPECT_EQ(Find<QLabel>(*window, QStringLiteral("lblDate")).text(), QStringLiteral("Wednesday"));
   EXPECT_EQ(note.toPlainText(), QStringLiteral("the eleventh"));
-  EXPECT_EQ(NoteText(*session, 1), QStringLiteral("Still the tenth")) << "saved to its own day";
+  EXPECT_EQ(NoteText(*session, 1), QStringLiteral("the tenth, still")) << "saved to its own day";
   EXPECT_EQ(
       session.ValueOf(QStringLiteral("Count(*)"), QStringLiteral("other_daily_data"), QStringLiteral("PersonID=1")),
       QStringLiteral("2"))
