@@ -138,6 +138,7 @@ QList<SchemaTable> Catalogs() {
        Key("MealID"),
        {},
        {{QStringLiteral("Name"), QStringLiteral("lower(MealDesc)")},
+        {QStringLiteral("OwnFirst"), QStringLiteral("RecordTypeID DESC, lower(MealDesc)")},
         {QStringLiteral("RecordType"), QStringLiteral("RecordTypeID, MealGroupID")},
         {QStringLiteral("MealGroup"), QStringLiteral("MealGroupID, RecordTypeID")}}},
       {QStringLiteral("activities_list"),
