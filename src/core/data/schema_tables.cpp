@@ -138,7 +138,7 @@ QList<SchemaTable> Catalogs() {
        Key("MealID"),
        {},
        {{QStringLiteral("Name"), QStringLiteral("lower(MealDesc)")},
-        {QStringLiteral("OwnFirst"), QStringLiteral("RecordTypeID DESC, lower(MealDesc)")},
+        {QStringLiteral("OwnFirst"), QStringLiteral("RecordTypeID DESC, lower(MealDesc), MealGroupID")},
         {QStringLiteral("RecordType"), QStringLiteral("RecordTypeID, MealGroupID")},
         {QStringLiteral("MealGroup"), QStringLiteral("MealGroupID, RecordTypeID")}}},
       {QStringLiteral("activities_list"),
