@@ -241,6 +241,9 @@ TEST_F(FirstRun, CountsTicksAtOnceAndRefusesTheEleventhAtNext) {
     keys.Enter();
     EXPECT_EQ(Title(wizard), "Your Nutrient Selections (Step 4 of 5)") << "no target";
     Grid(wizard).UndoRow();
+    Grid(wizard).MarkRows({5});
+    keys.Press(Qt::Key_Delete);
+    EXPECT_EQ(Grid(wizard).Model().RecordCount(), 30) << "no nutrient can be deleted";
     GoToCell(wizard, 12, targetColumn);
     keys.Type("42");
     keys.Enter();

@@ -334,6 +334,7 @@ TEST_F(ToolsWindow, CaloricNeedsFromTheFieldsToTheAdvice) {
   EXPECT_EQ(TextOf("pnlBMRHeight"), "66 Inches");
   EXPECT_EQ(TextOf("optBMRCurrentWeight"), "Use My Current Weight of 170 Lbs");
   EXPECT_EQ(TextOf("txtBMRAge"), "35");
+  EXPECT_TRUE(Find<QRadioButton>(*window, "optBMRCurrentAge").isChecked());
   EXPECT_EQ(TextOf("pnlBMRResults1"), "Click the <Calculate Now> button to see your results.");
   EXPECT_FALSE(Shown("pnlBMRResults2") || Shown("shpBMRActivity") || Shown("shpCell"));
 
@@ -459,6 +460,19 @@ TEST_F(ToolsWindow, ADateFromTheCalendarIsCalculatedAtOnce) {
   WhenModal([](QWidget &calendar) { QTest::mouseClick(&Find<QPushButton>(calendar, "cmdOK"), Qt::LeftButton); });
   Click("cmdCalendar");
   EXPECT_TRUE(TextOf("txtGoalConstraint").startsWith("In order to reach your goal weight by 6/1/2026"));
+  Type("txtGoalMethodDate", "7/4/2026");
+  QTest::keyClick(window->focusWidget(), Qt::Key_Tab);
+  EXPECT_EQ(TextOf("txtGoalConstraint"), prompt) << "leaving the field calculates nothing";
+  Type("txtGoalMethodDate", "7/4/2026");
+  QTest::keyClick(window->focusWidget(), Qt::Key_Return);
+  EXPECT_TRUE(TextOf("txtGoalConstraint").startsWith("In order to reach your goal weight by 7/4/2026"));
+}
+
+TEST_F(ToolsWindow, IsWhiteWhereTheScreenHasFewColours) {
+  FillProfile();
+  session.machine.colors = 256;
+  Open();
+  EXPECT_EQ(window->palette().color(QPalette::Window), QColor(Qt::white));
 }
 
 TEST_F(ToolsWindow, TheStepInUseStandsOut) {
