@@ -30,7 +30,7 @@ def copy_richest_cheddar(trimlog):
     trimlog.type("cheddar")
     trimlog.keys("Return", "Tab", "Tab")
     before = trimlog.settled_picture("found.png")
-    trimlog.keys("End", "Menu", "Up", "Up", "Return")  # the last column with figures, descending
+    trimlog.keys("End", "Menu", "Up", "Up", "Up", "Return")  # the last column with figures, descending
     trimlog.expect_change(before, "the order by protein")
     trimlog.keys("ctrl+Home", "alt+c")
     trimlog.wait_for_window("Copy Selected Food?")
