@@ -43,10 +43,10 @@ GridColumns MeasurementColumns() {
     const QString name = QString::fromLatin1(measurementFields[field].column);
     columns.push_back(
         {.name = name,
-         .caption = field == bodyFatField ? QStringLiteral("Body Fat %") : name,
+         .caption = field == bodyFatField ? QStringLiteral("Body\nFat %") : name,
          .field = name,
          .type = GridType::Number,
-         .width = 7,
+         .width = 6,
          .editable = true,
          .validate = [field](const Value &value) { return value.toDouble() < 0 ? RefusalOf(field).text : QString(); }});
   }
