@@ -275,6 +275,16 @@ TEST_F(Frame, NewProfilesAreOfferedOnlyWhereTheyCanBeMade) {
 
   session.Data().Execute("DELETE people.* FROM people WHERE (people.PersonID>0);");
   navigator.AddProfile = nullptr;
+  session->profile.CurrentPersonID = "-1";
+  for (const char *left : {"1", "-2"}) {  // closed before its end, and skipped for a sample
+    navigator.StartWiz = [this, left](bool) {
+      session->profile.CurrentPersonID = left;
+      return false;
+    };
+    frame->LoadProfilesMenu();
+    ProfileEntry(create)->trigger();
+    EXPECT_EQ(session->profile.CurrentPersonID, QString(left) == "1" ? "-1" : "-2");
+  }
   bool forced = false;
   navigator.StartWiz = [&](bool force) {
     forced = force;

@@ -335,6 +335,7 @@ TEST_F(ToolsWindow, CaloricNeedsFromTheFieldsToTheAdvice) {
   EXPECT_EQ(TextOf("optBMRCurrentWeight"), "Use My Current Weight of 170 Lbs");
   EXPECT_EQ(TextOf("txtBMRAge"), "35");
   EXPECT_TRUE(Find<QRadioButton>(*window, "optBMRCurrentAge").isChecked());
+  EXPECT_FALSE(Enabled("txtBMRAge")) << "until another age is chosen";
   EXPECT_EQ(TextOf("pnlBMRResults1"), "Click the <Calculate Now> button to see your results.");
   EXPECT_FALSE(Shown("pnlBMRResults2") || Shown("shpBMRActivity") || Shown("shpCell"));
 
