@@ -3,6 +3,7 @@
 #include <QHBoxLayout>
 #include <QKeyEvent>
 #include <QLabel>
+#include <QShortcut>
 #include <QSignalBlocker>
 
 #include "core/session/session.h"
@@ -27,9 +28,13 @@ WaterPanel::WaterPanel(Session &session, JournalDay &day, QWidget *parent)
   lblWater1 = AddLabel(layout, QStringLiteral("lblWater1"), {});
   txtWater = new NumberField(QStringLiteral("txtWater"), QStringLiteral("Glasses of water"), session_.locale, this);
   txtWater->setFixedWidth(FieldWidth(txtWater, 4));
-  txtWater->setToolTip(QStringLiteral("Up and Down count a glass more or less."));
+  txtWater->setToolTip(QStringLiteral("Up and Down count a glass more or less. (Alt+5)"));
   txtWater->installEventFilter(this);
   lblWater1->setBuddy(txtWater);
+  connect(new QShortcut(Qt::ALT | Qt::Key_5, this), &QShortcut::activated, txtWater, [this] {
+    txtWater->setFocus(Qt::ShortcutFocusReason);
+    txtWater->selectAll();
+  });
   layout->addWidget(txtWater);
   sclWater = new StepBar(QStringLiteral("sclWater"), QStringLiteral("A glass more or less"), this);
   layout->addWidget(sclWater);
