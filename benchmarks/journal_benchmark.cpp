@@ -1,4 +1,5 @@
 // The journal with 25 years of entries beside one month of them: what a person does in it must not feel the years.
+// Processor time counts: what the disk takes is the same for both.
 #include <benchmark/benchmark.h>
 
 #include <QApplication>
@@ -122,32 +123,32 @@ void ChangeServings(benchmark::State &state, Size size) {
     two = !two;
     grid.Selection().GoTo(grid.Model().index(3, column));
     grid.EditCell(grid.currentIndex());
-    QTest::keyClicks(QApplication::focusWidget(), two ? QStringLiteral("2") : QStringLiteral("1"));
-    QTest::keyClick(QApplication::focusWidget(), Qt::Key_Tab);
+    QTest::keyClicks(grid.OpenEditor(), two ? QStringLiteral("2") : QStringLiteral("1"));
+    QTest::keyClick(grid.OpenEditor(), Qt::Key_Tab);
     benchmark::DoNotOptimize(window->grab());
   }
 }
 
 constexpr auto single = JournalView::SingleDate;
 constexpr auto all = JournalView::AllDates;
-BENCHMARK_CAPTURE(Open, day_month, Size::Month, single, 1)->Unit(benchmark::kMillisecond);
-BENCHMARK_CAPTURE(Open, day_years, Size::Years, single, 1)->Unit(benchmark::kMillisecond);
-BENCHMARK_CAPTURE(Open, day_exercises_month, Size::Month, single, 2)->Unit(benchmark::kMillisecond);
-BENCHMARK_CAPTURE(Open, day_exercises_years, Size::Years, single, 2)->Unit(benchmark::kMillisecond);
-BENCHMARK_CAPTURE(Open, day_measurements_month, Size::Month, single, 3)->Unit(benchmark::kMillisecond);
-BENCHMARK_CAPTURE(Open, day_measurements_years, Size::Years, single, 3)->Unit(benchmark::kMillisecond);
-BENCHMARK_CAPTURE(Open, all_month, Size::Month, all, 1)->Unit(benchmark::kMillisecond);
-BENCHMARK_CAPTURE(Open, all_years, Size::Years, all, 1)->Unit(benchmark::kMillisecond);
-BENCHMARK_CAPTURE(Open, all_exercises_month, Size::Month, all, 2)->Unit(benchmark::kMillisecond);
-BENCHMARK_CAPTURE(Open, all_exercises_years, Size::Years, all, 2)->Unit(benchmark::kMillisecond);
-BENCHMARK_CAPTURE(Open, all_measurements_month, Size::Month, all, 3)->Unit(benchmark::kMillisecond);
-BENCHMARK_CAPTURE(Open, all_measurements_years, Size::Years, all, 3)->Unit(benchmark::kMillisecond);
-BENCHMARK_CAPTURE(Step, month, Size::Month)->Unit(benchmark::kMillisecond);
-BENCHMARK_CAPTURE(Step, years, Size::Years)->Unit(benchmark::kMillisecond);
-BENCHMARK_CAPTURE(AddFood, month, Size::Month)->Unit(benchmark::kMillisecond);
-BENCHMARK_CAPTURE(AddFood, years, Size::Years)->Unit(benchmark::kMillisecond);
-BENCHMARK_CAPTURE(ChangeServings, month, Size::Month)->Unit(benchmark::kMillisecond);
-BENCHMARK_CAPTURE(ChangeServings, years, Size::Years)->Unit(benchmark::kMillisecond);
+BENCHMARK_CAPTURE(Open, day_month, Size::Month, single, 1)->Unit(benchmark::kMicrosecond);
+BENCHMARK_CAPTURE(Open, day_years, Size::Years, single, 1)->Unit(benchmark::kMicrosecond);
+BENCHMARK_CAPTURE(Open, day_exercises_month, Size::Month, single, 2)->Unit(benchmark::kMicrosecond);
+BENCHMARK_CAPTURE(Open, day_exercises_years, Size::Years, single, 2)->Unit(benchmark::kMicrosecond);
+BENCHMARK_CAPTURE(Open, day_measurements_month, Size::Month, single, 3)->Unit(benchmark::kMicrosecond);
+BENCHMARK_CAPTURE(Open, day_measurements_years, Size::Years, single, 3)->Unit(benchmark::kMicrosecond);
+BENCHMARK_CAPTURE(Open, all_month, Size::Month, all, 1)->Unit(benchmark::kMicrosecond);
+BENCHMARK_CAPTURE(Open, all_years, Size::Years, all, 1)->Unit(benchmark::kMicrosecond);
+BENCHMARK_CAPTURE(Open, all_exercises_month, Size::Month, all, 2)->Unit(benchmark::kMicrosecond);
+BENCHMARK_CAPTURE(Open, all_exercises_years, Size::Years, all, 2)->Unit(benchmark::kMicrosecond);
+BENCHMARK_CAPTURE(Open, all_measurements_month, Size::Month, all, 3)->Unit(benchmark::kMicrosecond);
+BENCHMARK_CAPTURE(Open, all_measurements_years, Size::Years, all, 3)->Unit(benchmark::kMicrosecond);
+BENCHMARK_CAPTURE(Step, month, Size::Month)->Unit(benchmark::kMicrosecond);
+BENCHMARK_CAPTURE(Step, years, Size::Years)->Unit(benchmark::kMicrosecond);
+BENCHMARK_CAPTURE(AddFood, month, Size::Month)->Unit(benchmark::kMicrosecond);
+BENCHMARK_CAPTURE(AddFood, years, Size::Years)->Unit(benchmark::kMicrosecond);
+BENCHMARK_CAPTURE(ChangeServings, month, Size::Month)->Unit(benchmark::kMicrosecond);
+BENCHMARK_CAPTURE(ChangeServings, years, Size::Years)->Unit(benchmark::kMicrosecond);
 
 }  // namespace
 
@@ -165,6 +166,7 @@ int main(int count, char **arguments) {
       {"open all dates, 6,083 exercises / 20", "Open/all_exercises_years", "Open/all_exercises_month", 1.5},
       {"open all dates, 1,304 measurements / 5", "Open/all_measurements_years", "Open/all_measurements_month", 1.5},
   });
+  for (const Size size : {Size::Month, Size::Years}) Of(size).Open(single);  // made, and fonts and styles loaded
   benchmark::RunSpecifiedBenchmarks(&reporter);
   return reporter.PrintRatios() ? 0 : 1;
 }

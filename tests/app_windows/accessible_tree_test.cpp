@@ -19,6 +19,8 @@
 #include "core/windows/profiles/frmEditPassword.h"
 #include "core/windows/profiles/frmPassword.h"
 #include "core/windows/setup/frmSetup.h"
+#include "journal/windows/frmDiary.h"
+#include "journal/windows/frmQuickDiary.h"
 #include "support/paths.h"
 #include "support/test_session.h"
 #include "support/windows/controls.h"
@@ -43,6 +45,7 @@ struct House {
   }
   TestSession session;
   Navigator navigator;
+  JournalDoors doors;
   RoomHooks hooks;
   std::unique_ptr<OperatingSystem> system = RunningSystem();
 };
@@ -99,6 +102,17 @@ const Room rooms[] = {
      [](House &house) -> Opened { return std::make_unique<frmMedicalDisclaimer>(*house.session); }},
     {"frmSetupFoods",
      [](House &house) -> Opened { return std::make_unique<frmSetupFoods>(*house.session, house.navigator, nullptr); }},
+    {"frmDiary, single date",
+     [](House &house) -> Opened { return std::make_unique<frmDiary>(*house.session, house.navigator, house.doors); }},
+    {"frmDiary, all dates",
+     [](House &house) -> Opened {
+       house.session->settings.LastDiaryView = static_cast<int>(JournalView::AllDates);
+       return std::make_unique<frmDiary>(*house.session, house.navigator, house.doors);
+     }},
+    {"frmQuickDiary",
+     [](House &house) -> Opened {
+       return std::make_unique<frmQuickDiary>(*house.session, house.navigator, house.doors, nullptr);
+     }},
     {"frmAddActivity",
      [](House &house) -> Opened {
        const EntryOpening opening{.kind = JournalKind::Diary(), .date = QDate(2026, 2, 1)};

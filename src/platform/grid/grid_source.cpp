@@ -52,9 +52,16 @@ void AddKeys(Condition &condition, const GridSource &source, const std::vector<q
                 values);
 }
 
+// The first field of the scope and the key find the rows. The plus keeps the store from finding them by an index of the
+// other fields, which may lead through the whole table.
 Condition WithKeys(const GridSource &source, const std::vector<qint64> &keys) {
   Condition condition;
-  AddScope(condition, source);
+  bool first = true;
+  for (const auto &[field, value] : source.scope) {
+    condition.Add((first ? QString() : QStringLiteral("+")) + QualifiedField(source, field) + QStringLiteral(" = ?"),
+                  {value});
+    first = false;
+  }
   AddKeys(condition, source, keys);
   return condition;
 }
@@ -110,8 +117,8 @@ GridStatement RowsStatement(const GridSource &source, const QStringList &fields,
 }
 
 GridStatement BelongingStatement(const GridSource &source, const std::vector<qint64> &keys) {
-  Condition condition = Shown(source);
-  AddKeys(condition, source, keys);
+  Condition condition = WithKeys(source, keys);
+  condition.Add(source.where, source.params);
   return SelectKeys(source, condition, 0);
 }
 
