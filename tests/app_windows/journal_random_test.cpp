@@ -168,7 +168,7 @@ class RandomJournal : public JournalHouse {
 };
 
 TEST_F(RandomJournal, AgreesWithTheJournalKeptByHand) {
-  for (int step = 0; step < 250; ++step) {
+  for (int step = 0; step < 200; ++step) {
     const std::string action = Act();
     CheckEverything();
     if (HasFailure()) FAIL() << "after step " << step << ", " << action;
