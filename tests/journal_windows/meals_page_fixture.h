@@ -25,7 +25,7 @@ class MealsPageTest : public ::testing::Test {
   explicit MealsPageTest(const QLocale &locale = QLocale(QLocale::English, QLocale::UnitedStates)) : session(locale) {
     FillSelectedNutrientsArray(session->nutrients, session.Data());
     for (auto *door : {&navigator.OpenFoodSetup, &navigator.OpenNutrientSelection, &navigator.OpenTargets}) {
-      *door = [](QWidget *) {};
+      *door = [this](QWidget *) { ++opened; };
     }
     doors.AddMeal = [this](QWidget *, const EntryOpening &opening) {
       if (addMeal) addMeal(opening);
@@ -137,6 +137,7 @@ class MealsPageTest : public ::testing::Test {
   Navigator navigator;
   JournalDoors doors;
   std::function<void(const EntryOpening &opening)> addMeal;  ///< what the add dialog does
+  int opened = 0;                                            ///< doors gone through
   std::unique_ptr<JournalDay> day;
   std::optional<JournalParts> parts;
   QList<int> foods;  ///< made so far

@@ -366,6 +366,10 @@ TEST_F(MealsPageTest, TheThreeKindsOfWindows) {
   Eat(dayOne, 1);
   Eat(dayOne, 2, QStringLiteral("1"), 1, EntryKind::Planned);
   Open(JournalKind::Planner());
+  for (const char *button : {"cmdMealSetup", "cmdNutrients", "cmdTargets"}) {
+    QTest::mouseClick(&Find<QPushButton>(*page, button), Qt::LeftButton);
+  }
+  EXPECT_EQ(opened, 3);
   EXPECT_EQ(Total(1), "200");
   EXPECT_TRUE(Find<TotalsStrip>(*page, "grdMealTargets").isVisible());
   EXPECT_FALSE(page->findChild<QLabel *>("lblTotalsMeals2"));
