@@ -1,4 +1,5 @@
 // The calendar, the journal and the Quick Journal in one frame: they never tell different figures of a day.
+#include <QClipboard>
 #include <QPlainTextEdit>
 
 #include "core/windows/frame/frmMDI.h"
@@ -99,6 +100,25 @@ TEST_F(JournalInTheFrame, TheQuickJournalGoesAlongWithWeightsAndDays) {
   EXPECT_EQ(DateIn(quick), QStringLiteral("3/6/2026"));
   EXPECT_EQ(session.ValueOf(QStringLiteral("ThisWeight"), QStringLiteral("weight_loss"), QStringLiteral("PersonID=1")),
             QStringLiteral("150"));
+}
+
+TEST_F(JournalInTheFrame, TheKeysOfTheEditMenuActWhereAPersonWorks) {
+  const int key = Eat(QDate(2026, 3, 1), 2);
+  frmQuickDiary &quick = OpenQuick();
+  Form().GotoDate(QDate(2026, 3, 1));
+  Activate(quick);
+  BoundGrid &grid = Meals(quick);
+  grid.setFocus();
+  grid.Selection().GoTo(Cell(quick, key, "Amount"));
+  EXPECT_EQ(frame->ActiveControl(), &grid);
+  QApplication::clipboard()->setText(QStringLiteral("3"));
+  QTest::keyClick(&grid, Qt::Key_V, Qt::ControlModifier);
+  QTest::keyClick(&grid, Qt::Key_Delete, Qt::ControlModifier);  // no weight is meant here
+  EXPECT_EQ(Find<QLineEdit>(Form(), QStringLiteral("txtData(1)")).text(), QString());
+  EXPECT_TRUE(grid.CommitRow());
+  EXPECT_EQ(Cell(quick, key, "Amount").data().toString(), QStringLiteral("3"));
+  Activate(*frame);
+  EXPECT_EQ(frame->ActiveControl(), Form().focusWidget());
 }
 
 TEST_F(JournalInTheFrame, TheQuickJournalHidesOverOtherWindowsAndComesBack) {

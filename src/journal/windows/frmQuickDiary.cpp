@@ -105,6 +105,12 @@ void frmQuickDiary::Activated() {
   SSTab1->CurrentPage().TakeFocus();
 }
 
+WindowCommands frmQuickDiary::Commands() {
+  return {{QStringLiteral("mnuFilePrint"), [this] {
+             if (SaveOpenEdit() == EditOutcome::Saved) SSTab1->CurrentPage().Print();
+           }}};
+}
+
 // Not within the calendar's own work: what is refused here shows a box.
 void frmQuickDiary::FollowSoon() { QMetaObject::invokeMethod(this, &frmQuickDiary::Follow, Qt::QueuedConnection); }
 

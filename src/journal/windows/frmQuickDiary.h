@@ -23,6 +23,7 @@ class frmQuickDiary : public ContentWindow {
   EditOutcome SaveOpenEdit() override;
   void DropOpenEdit() override;
   void Activated() override;
+  WindowCommands Commands() override;
   /// To the place that the session holds.
   void ApplyPlace();
 

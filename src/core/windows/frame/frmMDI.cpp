@@ -149,7 +149,17 @@ void frmMDI::ShowQuickJournal(bool visible) {
   quickJournal->setVisible(visible);
 }
 
-QWidget *frmMDI::ActiveControl() const { return currentForm_ ? currentForm_->focusWidget() : nullptr; }
+// The frame's keys are heard in the window that floats over it, too.
+ContentWindow *frmMDI::WindowWorkedIn() const {
+  ContentWindow *quickJournal = QuickJournal();
+  return quickJournal && QApplication::activeWindow() == quickJournal ? quickJournal : currentForm_;
+}
+
+WindowCommands frmMDI::FormCommands() const {
+  return WindowWorkedIn() ? WindowWorkedIn()->Commands() : WindowCommands();
+}
+
+QWidget *frmMDI::ActiveControl() const { return WindowWorkedIn() ? WindowWorkedIn()->focusWidget() : nullptr; }
 
 EditOutcome frmMDI::LeaveOpenEdit() {
   for (ContentWindow *window : {currentForm_, QuickJournal()}) {

@@ -51,9 +51,9 @@ class frmMDI : public QMainWindow {
   bool HasForm(const QString &name) const { return forms_.contains(name); }
   ContentWindow *CurrentForm() const { return currentForm_; }
   const QString &CurrentFormName() const { return currentFormName_; }
-  /// What only the current content window can do.
-  WindowCommands FormCommands() const { return currentForm_ ? currentForm_->Commands() : WindowCommands(); }
-  /// The control of the content window that has, or last had, the focus.
+  /// What only the window that a person works in can do: the content window, or the Quick Journal while it is active.
+  WindowCommands FormCommands() const;
+  /// The control of that window that has, or last had, the focus.
   QWidget *ActiveControl() const;
   /// Saves what is being typed; false when that did not work and it stays to be put right.
   bool SaveOpenEdit() { return LeaveOpenEdit() == EditOutcome::Saved; }
@@ -98,6 +98,7 @@ class frmMDI : public QMainWindow {
   void SetMenusFor(const QString &name);
   void ReplaceForm(const QString &name, const QDate &date = {});
   ContentWindow *QuickJournal() const;
+  ContentWindow *WindowWorkedIn() const;
   void ShowQuickJournal(bool visible);
 
   void ShowAsKept();
