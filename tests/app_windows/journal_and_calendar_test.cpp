@@ -102,6 +102,17 @@ TEST_F(JournalInTheFrame, TheQuickJournalGoesAlongWithWeightsAndDays) {
             QStringLiteral("150"));
 }
 
+TEST_F(JournalInTheFrame, ExercisesChangeTheFigureOfTheirDayToo) {
+  session->settings.NutrientID = nutrient_id::caloriesBurned;
+  session->changes.AnnounceSettings();
+  ActivityEntry walk;
+  walk.date = QDate(2026, 3, 2);
+  walk.ActivityID = 1;
+  walk.Calories = 150;
+  AddActivity(*session, EntryKind::Eaten, walk);
+  EXPECT_EQ(Figure(Form(), 2), FigureOf(150));
+}
+
 TEST_F(JournalInTheFrame, TheKeysOfTheEditMenuActWhereAPersonWorks) {
   const int key = Eat(QDate(2026, 3, 1), 2);
   frmQuickDiary &quick = OpenQuick();

@@ -7,7 +7,9 @@
 #include <QRadioButton>
 #include <QTabWidget>
 
+#include "journal/day/day_records.h"
 #include "platform/windows/fields/date_field.h"
+#include "support/full_disk.h"
 #include "support/test_session.h"
 #include "support/windows/controls.h"
 
@@ -82,6 +84,34 @@ TEST_F(Diary, TheDefaultPageIsOneChoice) {
   EXPECT_EQ(session->store.GetSettingString(settingsRoot, QStringLiteral("DefaultDiaryTab")), QStringLiteral("3"));
   QTest::mouseClick(&The<QCheckBox>("chkDefaultDiaryTab3"), Qt::LeftButton);
   EXPECT_TRUE(The<QCheckBox>("chkDefaultDiaryTab3").isChecked()) << "one page is always the default";
+}
+
+TEST_F(Diary, APageIsLeftOnlyWithWhatIsTypedInItSaved) {
+  session->settings.DefaultDiaryTab = 0;
+  const int record = AddNote(*session, {2026, 3, 1}, QStringLiteral("old"));
+  Open();
+  QTest::keyClick(QApplication::focusWidget(), Qt::Key_A, Qt::ControlModifier);
+  QTest::keyClicks(QApplication::focusWidget(), QStringLiteral("new"));
+  {
+    const FullDisk full(0);
+    session.boxes.Expect(QStringLiteral("Error Saving Journal"), QStringLiteral("An error occurred"));
+    QTest::keyClick(window.get(), Qt::Key_2, Qt::AltModifier);
+  }
+  EXPECT_EQ(Tab(), 0);
+  EXPECT_EQ(QApplication::focusWidget(), &The<QWidget>("txtNotes"));
+  QTest::keyClick(window.get(), Qt::Key_2, Qt::AltModifier);
+  EXPECT_EQ(Tab(), 1);
+  EXPECT_EQ(QApplication::focusWidget(), &The<QWidget>("grdMeals"));
+  EXPECT_EQ(NoteText(*session, record), QStringLiteral("new"));
+}
+
+TEST_F(Diary, PrintsThePageInFront) {
+  session->settings.DefaultDiaryTab = 0;
+  AddNote(*session, {2026, 3, 1}, QStringLiteral("a walk"));
+  Open();
+  session.boxes.Expect(QStringLiteral("Print Notes?"), QStringLiteral("Continue?"), BoxButton::Yes);
+  window->Commands().value(QStringLiteral("mnuFilePrint"))();
+  EXPECT_EQ(session.printing.texts.size(), 1U);
 }
 
 TEST_F(Diary, OtherActionsLeadToTheCatalogsAndTheHelp) {

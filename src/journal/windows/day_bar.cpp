@@ -13,6 +13,7 @@
 #include "journal/day/journal_day.h"
 #include "platform/text/text_format.h"
 #include "platform/windows/controls/named_controls.h"
+#include "platform/windows/controls/spacing.h"
 #include "platform/windows/fields/date_field.h"
 
 namespace trimlog {
@@ -61,7 +62,7 @@ DayBar::DayBar(Session &session, JournalDay &day, QWidget *window) : QWidget(win
 void DayBar::MakeControls() {
   auto *row = new QHBoxLayout(this);
   row->setContentsMargins(6, 3, 0, 3);
-  row->setSpacing(4);
+  row->setSpacing(spacing::tight);
   optViewAll = AddOption(row, QStringLiteral("optViewAll"), tr(" View All Dates"),
                          tr("Shows what was recorded on all days, the newest first"));
   optViewSingle =

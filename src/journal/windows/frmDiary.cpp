@@ -9,6 +9,7 @@
 #include <QVBoxLayout>
 
 #include "core/windows/controls/art.h"
+#include "core/windows/controls/door_control.h"
 #include "core/windows/controls/theme.h"
 #include "journal/windows/actions_combo.h"
 #include "journal/windows/day_bar.h"
@@ -17,6 +18,7 @@
 #include "journal/windows/meals_page.h"
 #include "journal/windows/water_panel.h"
 #include "platform/windows/controls/named_controls.h"
+#include "platform/windows/controls/spacing.h"
 #include "platform/windows/grid/bound_grid.h"
 
 namespace trimlog {
@@ -56,11 +58,11 @@ QWidget *frmDiary::MakeHeader() {
   cmdTips->setToolButtonStyle(Qt::ToolButtonTextBesideIcon);
   cmdTips->setAutoRaise(true);
   cmdTips->setToolTip(tr("Tips for the journal"));
-  cmdTips->setEnabled(static_cast<bool>(navigator_.ShowHelp));
+  NeedsDoor(*cmdTips, navigator_.ShowHelp);
   connect(cmdTips, &QToolButton::clicked, this, &frmDiary::OpenTips);
   auto *row = new QHBoxLayout(header);
   row->setContentsMargins(0, 0, 6, 0);
-  row->setSpacing(4);
+  row->setSpacing(spacing::tight);
   row->addWidget(bar, 1);
   row->addWidget(cmdTips);
   return header;
