@@ -8,6 +8,7 @@
 #include <QTabWidget>
 
 #include "journal/day/day_records.h"
+#include "journal/day/water.h"
 #include "platform/windows/fields/date_field.h"
 #include "support/full_disk.h"
 #include "support/test_session.h"
@@ -71,6 +72,18 @@ TEST_F(Diary, OpensOnTheHandedDayTheKeptViewAndTheDefaultPage) {
   EXPECT_EQ(DateShown(), QStringLiteral("2/14/2026"));
   window->GotoDate(QDate(2026, 2, 15));
   EXPECT_TRUE(IsSingle()) << "a day asked for later is shown alone";
+}
+
+TEST_F(Diary, ShowsTheWaterOfItsDayFromTheBeginning) {
+  const WaterRecord today = LoadWaterRecord(*session, {2026, 3, 1}, {2026, 3, 1});
+  SaveWater(*session, {today.RecordID, 3, today.ThisDate}, {2026, 3, 1});
+  Open();
+  EXPECT_EQ(The<QLineEdit>("txtWater").text(), QStringLiteral("3"));
+  QTest::keyClick(window.get(), Qt::Key_5, Qt::AltModifier);
+  QTest::keyClick(QApplication::focusWidget(), Qt::Key_Up);
+  QTest::keyClick(window.get(), Qt::Key_Right, Qt::AltModifier);
+  EXPECT_EQ(The<QLineEdit>("txtWater").text(), QStringLiteral("0"));
+  EXPECT_EQ(LoadWaterRecord(*session, {2026, 3, 1}, {2026, 3, 1}).WaterConsumed, 4);
 }
 
 TEST_F(Diary, TheDefaultPageIsOneChoice) {

@@ -132,10 +132,15 @@ TEST_F(QuickJournal, ClosesWithWhatIsTypedSavedAndNotWithoutIt) {
 }
 
 TEST_F(QuickJournal, GoesWithItsPerson) {
+  const int record = AddNote(*session, {2026, 2, 10}, QStringLiteral("mine"));
   Open();
+  QTest::keyClicks(QApplication::focusWidget(), QStringLiteral("not theirs"));
+  session->profile.CurrentPersonID = QStringLiteral("2");
   session->changes.AnnounceProfileLoaded();
   Delete();
   EXPECT_FALSE(window);
+  session->profile.CurrentPersonID = QStringLiteral("1");
+  EXPECT_EQ(NoteText(*session, record), QStringLiteral("mine"));
 }
 
 }  // namespace
