@@ -46,6 +46,7 @@ FoodListPage::FoodListPage(Session &session, const FoodListKind &kind, QWidget *
   ShowAlphabet(false);
   lblFoods = new SpokenLabel(QStringLiteral("lblFoods"), this);
   lblFoods->setSizePolicy(QSizePolicy::Ignored, QSizePolicy::Preferred);  // its blanks shall not widen the window
+  lblFoods->setWordWrap(true);
   layout->addWidget(lblFoods);
   grdMealsList = MakeFoodGrid(Names(), session_, this);
   grdMealsList->GiveRoom(QStringLiteral("MealGroupID"), QStringLiteral("MealDesc"));

@@ -62,6 +62,9 @@ frmNutTargets::frmNutTargets(Session &session, const Navigator &navigator, QWidg
     if (change.table == Table::SelectedNutrients) fields_->NutrientsChanged();
   });
   cboNutTargetID->setFocus();
+  // The least size of a layout forgets the lines into which the note wraps.
+  const int width = layout->totalSizeHint().width();
+  resize(width, layout->totalHeightForWidth(width));
 }
 
 void frmNutTargets::AddChoice(QVBoxLayout *layout) {
@@ -69,6 +72,7 @@ void frmNutTargets::AddChoice(QVBoxLayout *layout) {
   layout->addLayout(row);
   pnlNutTargetID = new QLabel(SelectedTargetCaption(session_).replace(QLatin1Char('&'), QStringLiteral("&&")), this);
   pnlNutTargetID->setObjectName(QStringLiteral("pnlNutTargetID"));
+  pnlNutTargetID->setTextFormat(Qt::PlainText);
   cboNutTargetID = new QComboBox(this);
   cboNutTargetID->setObjectName(QStringLiteral("cboNutTargetID"));
   pnlNutTargetID->setBuddy(cboNutTargetID);
