@@ -31,7 +31,6 @@ BoundGrid *MakeFoodGrid(const FoodGridNames &names, Session &session, QWidget *p
   auto *grid = new BoundGrid(names.grid, names.label, session.locale, parent);
   grid->recordSource = QStringLiteral("datMealsList");
   grid->SetColumns(FoodColumns(session, names.dropDown));
-  grid->SetSpareColumn(QStringLiteral("MealDesc"));
   grid->KeepWidths(session.store, settingsRoot + QStringLiteral("\\Grids\\") + names.grid);
   grid->SetSpareColumn(QStringLiteral("MealDesc"));
 

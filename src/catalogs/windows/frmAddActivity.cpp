@@ -10,10 +10,12 @@
 #include "catalogs/windows/exercise_grid.h"
 #include "catalogs/windows/exercise_page.h"
 #include "core/session/failure_guard.h"
+#include "core/windows/controls/door_control.h"
 #include "core/windows/controls/show_calendar.h"
 #include "journal/day/calorie_rules.h"
 #include "platform/windows/controls/field_left.h"
 #include "platform/windows/controls/named_controls.h"
+#include "platform/windows/controls/spacing.h"
 #include "platform/windows/controls/spoken_label.h"
 #include "platform/windows/fields/date_field.h"
 #include "platform/windows/fields/number_field.h"
@@ -74,12 +76,12 @@ void frmAddActivity::AddFields(QVBoxLayout *layout) {
   for (QWidget *control : {static_cast<QWidget *>(txtDate), static_cast<QWidget *>(cmdDate)}) {
     control->setEnabled(!opening_.kind.hasFixedDate);
   }
-  row->addSpacing(16);
+  row->addSpacing(spacing::apart);
   QLabel *lblMinutes = AddLabel(row, QStringLiteral("lblMinutes"), QStringLiteral("&Minutes:"));
   txtMinutes = AddNumber(row, QStringLiteral("txtMinutes"), QStringLiteral("Minutes"), session_.locale);
   txtMinutes->installEventFilter(this);
   lblMinutes->setBuddy(txtMinutes);
-  row->addSpacing(16);
+  row->addSpacing(spacing::apart);
   lblBurned = new SpokenLabel(QStringLiteral("lblBurned"), this);
   row->addWidget(lblBurned, 1);
   chkRecalcCalories = AddCheck(layout, QStringLiteral("chkRecalcCalories"),
@@ -104,7 +106,7 @@ void frmAddActivity::AddButtons(QVBoxLayout *layout) {
   QPushButton *const cmdCancel = AddCommand(row, QStringLiteral("cmdCancel"), QStringLiteral("&Cancel"),
                                             QStringLiteral("Closes without adding. (Esc)"));
   QPushButton *const cmdHelp = AddCommand(row, QStringLiteral("cmdHelp"), QStringLiteral("&Help"));
-  cmdHelp->setEnabled(static_cast<bool>(navigator_.ShowHelp));
+  NeedsDoor(*cmdHelp, navigator_.ShowHelp);
   connect(cmdNewActivity, &QPushButton::clicked, this, &frmAddActivity::OnNew);
   connect(cmdOK, &QPushButton::clicked, this, &frmAddActivity::OnOk);
   connect(cmdCancel, &QPushButton::clicked, this, &frmAddActivity::reject);

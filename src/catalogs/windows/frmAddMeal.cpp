@@ -19,8 +19,10 @@
 #include "catalogs/windows/servings_selector.h"
 #include "core/session/failure_guard.h"
 #include "core/windows/controls/art.h"
+#include "core/windows/controls/door_control.h"
 #include "core/windows/profiles/add_rec_page.h"
 #include "platform/text/text_format.h"
+#include "platform/windows/controls/spacing.h"
 #include "platform/windows/controls/spoken_label.h"
 #include "platform/windows/fields/date_field.h"
 #include "platform/windows/fields/number_field.h"
@@ -111,7 +113,7 @@ frmAddMeal::Tab frmAddMeal::MakeTab(QWidget *page, BoundGrid *grid, QBoxLayout *
   tab.servings = new ServingsField(index, session_.locale, *fraServings, page);
   auto *below = new QHBoxLayout;
   below->addWidget(tab.servings);
-  below->addSpacing(24);
+  below->addSpacing(spacing::roomy);
   if (index == 0) {
     below->addWidget(new FoodFindBar(session_, *grid, page), 1);
   } else {
@@ -135,7 +137,7 @@ void frmAddMeal::AddButtons(QVBoxLayout *layout) {
   QPushButton *cmdSelectClose = AddButton(row, QStringLiteral("cmdSelectClose"), QStringLiteral("&Close"),
                                           QStringLiteral("Closes without adding. (Esc)"));
   QPushButton *cmdHelp = AddButton(row, QStringLiteral("cmdHelp"), QStringLiteral("&Help"), {});
-  cmdHelp->setEnabled(static_cast<bool>(navigator_.ShowHelp));
+  NeedsDoor(*cmdHelp, navigator_.ShowHelp);
   connect(cmdSelectClose, &QPushButton::clicked, this, &frmAddMeal::reject);
   connect(cmdHelp, &QPushButton::clicked, this, [this] { navigator_.ShowHelp(QStringLiteral("add_food")); });
 }

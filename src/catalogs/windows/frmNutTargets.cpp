@@ -12,6 +12,7 @@
 #include "catalogs/windows/nutrient_fields.h"
 #include "catalogs/windows/target_page.h"
 #include "core/session/failure_guard.h"
+#include "core/windows/controls/door_control.h"
 #include "core/windows/profiles/add_rec_page.h"
 #include "platform/text/text_format.h"
 #include "platform/windows/fields/number_field.h"
@@ -114,8 +115,8 @@ void frmNutTargets::AddButtons(QVBoxLayout *layout) {
   QPushButton *cmdHelp = AddButton(row, QStringLiteral("cmdHelp"), QStringLiteral("&Help"), {});
   QPushButton *cmdOK = AddButton(row, QStringLiteral("cmdOK"), QStringLiteral("&Close"), {});
   cmdOK->setDefault(true);
-  cmdAllNutrients->setEnabled(static_cast<bool>(navigator_.OpenNutrientSelection));
-  cmdHelp->setEnabled(static_cast<bool>(navigator_.ShowHelp));
+  NeedsDoor(*cmdAllNutrients, navigator_.OpenNutrientSelection);
+  NeedsDoor(*cmdHelp, navigator_.ShowHelp);
   connect(cmdAllNutrients, &QPushButton::clicked, this, [this] { navigator_.OpenNutrientSelection(this); });
   connect(cmdHelp, &QPushButton::clicked, this, [this] { navigator_.ShowHelp(QStringLiteral("targets")); });
   connect(cmdOK, &QPushButton::clicked, this, &frmNutTargets::accept);

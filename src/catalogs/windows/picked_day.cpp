@@ -9,6 +9,7 @@
 #include "core/windows/controls/show_calendar.h"
 #include "journal/day/meal_types.h"
 #include "platform/windows/controls/named_controls.h"
+#include "platform/windows/controls/spacing.h"
 #include "platform/windows/fields/date_field.h"
 
 namespace trimlog {
@@ -31,7 +32,7 @@ PickedDay::PickedDay(Session &session, const FoodPicking &picking, QWidget *pare
   row->addWidget(lblDate);
   row->addWidget(txtDate);
   row->addWidget(cmdDate);
-  row->addSpacing(12);
+  row->addSpacing(spacing::around);
   row->addWidget(lblMealType);
   row->addWidget(cboMealType);
   row->addStretch();

@@ -7,6 +7,7 @@
 #include <QScreen>
 
 #include "platform/windows/controls/member_name.h"
+#include "platform/windows/controls/spacing.h"
 #include "platform/windows/fields/number_field.h"
 
 namespace trimlog {
@@ -18,7 +19,7 @@ ServingsSelector::ServingsSelector(const QLocale &locale, QWidget *parent)
   setAccessibleName(windowTitle());
   setFrameShape(QFrame::StyledPanel);
   auto *layout = new QGridLayout(this);
-  layout->setSpacing(4);
+  layout->setSpacing(spacing::tight);
   layout->addWidget(new QLabel(QStringLiteral("Fraction:"), this), 0, 0);
   layout->addWidget(new QLabel(QStringLiteral("Whole:"), this), 1, 0);
   for (int toggle = 0; toggle < servingToggleCount; ++toggle) {

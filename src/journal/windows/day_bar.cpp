@@ -61,7 +61,7 @@ DayBar::DayBar(Session &session, JournalDay &day, QWidget *window) : QWidget(win
 
 void DayBar::MakeControls() {
   auto *row = new QHBoxLayout(this);
-  row->setContentsMargins(6, 3, 0, 3);
+  row->setContentsMargins(spacing::between, spacing::tight, 0, spacing::tight);
   row->setSpacing(spacing::tight);
   optViewAll = AddOption(row, QStringLiteral("optViewAll"), tr(" View All Dates"),
                          tr("Shows what was recorded on all days, the newest first"));

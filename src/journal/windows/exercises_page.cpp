@@ -6,6 +6,7 @@
 #include "core/session/error_log.h"
 #include "core/session/failure_guard.h"
 #include "core/session/print.h"
+#include "core/windows/controls/door_control.h"
 #include "core/windows/controls/grid_menu.h"
 #include "journal/day/activity_columns.h"
 #include "journal/day/day_source.h"
@@ -65,7 +66,7 @@ void ExercisesPage::MakeButtons(PageButtons &buttons) {
   QPushButton *const cmdPrintActivity =
       buttons.AddPrint(QStringLiteral("cmdPrintActivity"), tr("Prints the exercises shown here."));
   buttons.AddStretch();
-  DisableWithout(static_cast<bool>(doors_.AddActivity), *cmdNewActivity);
+  NeedsDoor(*cmdNewActivity, doors_.AddActivity);
   connect(cmdNewActivity, &QPushButton::clicked, this, &ExercisesPage::OnNew);
   connect(cmdDeleteActivity, &QPushButton::clicked, this, [this] {
     grdActivities->DeleteSelected();
@@ -77,7 +78,7 @@ void ExercisesPage::MakeButtons(PageButtons &buttons) {
       buttons.Add({.name = QStringLiteral("cmdExerciseSetup"),
                    .caption = tr("E&xercises..."),
                    .tip = tr("Opens the list of exercises, where you can add your own.")});
-  DisableWithout(static_cast<bool>(navigator_.OpenExercises), *cmdExerciseSetup);
+  NeedsDoor(*cmdExerciseSetup, navigator_.OpenExercises);
   connect(cmdExerciseSetup, &QPushButton::clicked, this, [this] {
     if (grdActivities->CommitRow()) navigator_.OpenExercises(window());
   });

@@ -6,6 +6,7 @@
 
 #include "core/session/session.h"
 #include "platform/windows/controls/named_controls.h"
+#include "platform/windows/controls/spacing.h"
 
 namespace trimlog {
 
@@ -16,7 +17,7 @@ frmConfirmMealUpdates::frmConfirmMealUpdates(Session &session, QWidget *owner) :
   auto *layout = new QVBoxLayout(this);
   AddNote(layout, QStringLiteral("lblQuestion"),
           QStringLiteral("Adjust the Nutrients for this meal to reflect the new serving size?"));
-  layout->addSpacing(6);
+  layout->addSpacing(spacing::between);
   QHBoxLayout *answers = AddRow(layout);
   answers->addStretch();
   auto *cmdOK = AddButton<QPushButton>(answers, QStringLiteral("cmdOK"), QStringLiteral("&Yes"));

@@ -1,5 +1,6 @@
 #include "journal/windows/frmDiary.h"
 
+#include <QButtonGroup>
 #include <QCheckBox>
 #include <QContextMenuEvent>
 #include <QHBoxLayout>
@@ -30,7 +31,7 @@ frmDiary::frmDiary(Session &session, const Navigator &navigator, const JournalDo
   SSTab1 = new JournalTabs({session_, navigator_, doors, day_}, this);
   auto *layout = new QVBoxLayout(this);
   layout->setContentsMargins(0, 0, 0, 0);
-  layout->setSpacing(2);
+  layout->setSpacing(spacing::tight);
   layout->addWidget(header_);
   layout->addWidget(SSTab1, 1);
   layout->addWidget(MakeFooter());
@@ -60,7 +61,7 @@ QWidget *frmDiary::MakeHeader() {
   NeedsDoor(*cmdTips, navigator_.ShowHelp);
   connect(cmdTips, &QToolButton::clicked, this, &frmDiary::OpenTips);
   auto *row = new QHBoxLayout(header);
-  row->setContentsMargins(0, 0, 6, 0);
+  row->setContentsMargins(0, 0, spacing::between, 0);
   row->setSpacing(spacing::tight);
   row->addWidget(bar, 1);
   row->addWidget(cmdTips);
@@ -70,7 +71,7 @@ QWidget *frmDiary::MakeHeader() {
 QWidget *frmDiary::MakeFooter() {
   auto *footer = new QWidget(this);
   auto *row = new QHBoxLayout(footer);
-  row->setContentsMargins(8, 2, 8, 4);
+  row->setContentsMargins(spacing::between, 0, spacing::between, spacing::tight);
   pnlWater = new WaterPanel(session_, day_, footer);
   // Among all dates the water is that of the meals' row, also while the exercises are looked at.
   pnlWater->rowDate = [this] {
@@ -89,14 +90,15 @@ QWidget *frmDiary::MakeFooter() {
 }
 
 void frmDiary::AddDefaultTabs(QLayout *row) {
+  auto *group = new QButtonGroup(this);  // one of them is always ticked
   for (int i = 0; i < SSTab1->count(); ++i) {
     QCheckBox *check = AddCheck(row, QStringLiteral("chkDefaultDiaryTab%1").arg(i), tr("Open on this page"),
                                 tr("The journal opens on this page from now on"));
     check->setAccessibleName(tr("Open on this page:%1").arg(SSTab1->tabText(i)).trimmed());
+    group->addButton(check);
     connect(check, &QCheckBox::clicked, this, [this, i] {
       session_.settings.DefaultDiaryTab = i;
       SaveSetting(session_.settings, session_.store, QStringLiteral("DefaultDiaryTab"));
-      ShowDefaultTab();  // one is always ticked: not by an exclusive group, where Tab passes by what is not ticked
     });
     chkDefaultDiaryTab_[static_cast<std::size_t>(i)] = check;
   }

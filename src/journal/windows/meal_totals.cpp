@@ -6,6 +6,7 @@
 #include "journal/day/meal_columns.h"
 #include "journal/windows/grid_day_rows.h"
 #include "journal/windows/net_calories_line.h"
+#include "platform/windows/controls/spacing.h"
 #include "platform/windows/grid/bound_grid.h"
 #include "platform/windows/grid/totals_strip.h"
 
@@ -57,7 +58,7 @@ MealTotals::MealTotals(const JournalParts &parts, BoundGrid &grid, QWidget *pare
   }
   if (kind.hasNetCalories) {
     netCalories_ = new NetCaloriesLine(parts.session, QStringLiteral("lblTotalsMeals2"), this);
-    layout->addSpacing(4);
+    layout->addSpacing(spacing::tight);
     layout->addWidget(netCalories_);
   }
   Arrange();

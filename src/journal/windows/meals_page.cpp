@@ -5,6 +5,7 @@
 
 #include "core/session/failure_guard.h"
 #include "core/session/print.h"
+#include "core/windows/controls/door_control.h"
 #include "core/windows/controls/grid_menu.h"
 #include "journal/day/grid_layout.h"
 #include "journal/day/meal_columns.h"
@@ -78,7 +79,7 @@ void MealsPage::AddButtons() {
   cmdNewMeal = buttons_->AddNew(QStringLiteral("cmdNewMeal"), QStringLiteral("Adds foods and meals."));
   cmdDeleteMeal = buttons_->AddDelete(QStringLiteral("cmdDeleteMeal"), QStringLiteral("Deletes the marked rows."));
   cmdPrintMeal = buttons_->AddPrint(QStringLiteral("cmdPrintMeal"), QStringLiteral("Prints this list and its totals."));
-  DisableWithout(static_cast<bool>(doors_.AddMeal), *cmdNewMeal);
+  NeedsDoor(*cmdNewMeal, doors_.AddMeal);
   connect(cmdNewMeal, &QPushButton::clicked, this, &MealsPage::OnNew);
   connect(cmdDeleteMeal, &QPushButton::clicked, this, [this] {
     grdMeals->DeleteSelected();
@@ -88,7 +89,7 @@ void MealsPage::AddButtons() {
   if (day_.Kind().isSmall) return buttons_->AddStretch();
   const auto addDoor = [this](const PageButton &button, const std::function<void(QWidget *)> &door) {
     QPushButton *const made = buttons_->Add(button);
-    DisableWithout(static_cast<bool>(door), *made);
+    NeedsDoor(*made, door);
     // These windows may give the list other columns: what is being typed is saved first.
     connect(made, &QPushButton::clicked, this, [this, &door] {
       if (grdMeals->CommitRow()) door(window());

@@ -14,6 +14,7 @@
 #include "platform/windows/controls/field_left.h"
 #include "platform/windows/controls/leave_check.h"
 #include "platform/windows/controls/named_controls.h"
+#include "platform/windows/controls/spacing.h"
 #include "platform/windows/fields/number_field.h"
 
 namespace trimlog {
@@ -93,7 +94,7 @@ void MeasurementBoxes::FollowBodyFatSetting() { chkBodyFat->setChecked(session_.
 
 void MeasurementBoxes::LayOutRows() {
   auto *layout = new QVBoxLayout(this);
-  layout->setContentsMargins(0, 6, 0, 0);
+  layout->setContentsMargins(0, spacing::tight, 0, 0);
   auto *rows = new QGridLayout;
   rows->setHorizontalSpacing(10);
   rows->setVerticalSpacing(6);
@@ -116,7 +117,7 @@ void MeasurementBoxes::LayOutRows() {
     AddPrevious(rows, field);
   }
   units_.first()->setObjectName(QStringLiteral("lblUom"));
-  layout->addSpacing(4);
+  layout->addSpacing(spacing::tight);
   layout->addWidget(MakeBodyFatChoice(), 0, Qt::AlignLeft);
   layout->addStretch();
 }

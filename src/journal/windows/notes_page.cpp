@@ -15,6 +15,7 @@
 #include "journal/windows/note_box.h"
 #include "journal/windows/page_buttons.h"
 #include "platform/windows/controls/named_controls.h"
+#include "platform/windows/controls/spacing.h"
 #include "platform/windows/grid/bound_grid.h"
 
 namespace trimlog {
@@ -76,7 +77,7 @@ QWidget *NotesPage::MakeList() {
   shpNotesLines->setFrameShape(QFrame::StyledPanel);
   layout->addWidget(shpNotesLines, 0, Qt::AlignLeft);
   auto *row = new QHBoxLayout(shpNotesLines);
-  row->setContentsMargins(8, 4, 8, 4);
+  row->setContentsMargins(spacing::between, spacing::tight, spacing::between, spacing::tight);
   QLabel *caption = AddLabel(row, QStringLiteral("lblNotesLines1"), QStringLiteral("Sho&w"));
   cboNotesLines = new QComboBox(shpNotesLines);
   cboNotesLines->setObjectName(QStringLiteral("cboNotesLines"));

@@ -3,14 +3,13 @@
 #include <QPushButton>
 #include <QVBoxLayout>
 
-#include "core/session/form_door.h"
 #include "core/windows/controls/art.h"
+#include "platform/windows/controls/spacing.h"
 
 namespace trimlog {
 
 namespace {
 
-constexpr int pageMargin = 6;
 constexpr int smallPageMargin = 2;
 
 /// The key behind the "&" of a caption.
@@ -66,19 +65,13 @@ void PageButtons::AddControl(QWidget *control) { layout_->addWidget(control); }
 QVBoxLayout *PageButtons::LayOutPage() {
   auto *content = new QVBoxLayout;
   auto *page = new QBoxLayout(small_ ? QBoxLayout::RightToLeft : QBoxLayout::TopToBottom, parentWidget());
-  const int margin = small_ ? smallPageMargin : pageMargin;
+  const int margin = small_ ? smallPageMargin : spacing::between;
   page->setContentsMargins(margin, margin, margin, margin);
   page->setSpacing(margin);
-  content->setSpacing(small_ ? 0 : pageMargin);
+  content->setSpacing(small_ ? 0 : spacing::between);
   page->addWidget(this);
   page->addLayout(content, 1);
   return content;
-}
-
-void DisableWithout(bool leads, QPushButton &button) {
-  if (leads) return;
-  button.setEnabled(false);
-  button.setToolTip(leadsNowhere);
 }
 
 }  // namespace trimlog

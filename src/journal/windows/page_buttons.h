@@ -42,7 +42,4 @@ class PageButtons : public QWidget {
   QBoxLayout *layout_;
 };
 
-/// A door that leads nowhere yet disables what would open it, and says so.
-void DisableWithout(bool leads, QPushButton &button);
-
 }  // namespace trimlog
