@@ -1,11 +1,12 @@
-// Nine thousand foods are deleted at once, their journal entries with them, and the program is killed on the way: all
-// of them are gone or none.
+// What takes many rows at once is killed on the way: nine thousand foods are deleted, their journal entries with them,
+// or five hundred entries are pasted. Then all of it was done or none.
 #include <gtest/gtest.h>
 
 #include <QElapsedTimer>
 #include <QProcess>
 #include <QTemporaryDir>
 #include <QThread>
+#include <functional>
 #include <random>
 
 #include "platform/store/recordset.h"
@@ -15,6 +16,7 @@ namespace trimlog {
 namespace {
 
 constexpr int foods = 9000;
+constexpr int pasted = 500;
 constexpr int kills = 24;
 
 int Count(Database &data, const QString &from) {
@@ -48,29 +50,31 @@ struct Outcome {
   bool committed = false;
 };
 
-/// Starts the deletion and kills it that long after it began; -1 lets it end.
-Outcome Delete(const QString &path, qint64 killAfter) {
-  QProcess deleter;
-  deleter.start(QStringLiteral(TRIMLOG_FOOD_DELETER), {path});
-  if (!deleter.waitForReadyRead(20000)) return {};
+/// Starts an action and kills it that long after it began; -1 lets it end.
+Outcome Do(const QString &folder, const QString &action, qint64 killAfter) {
+  QProcess writer;
+  writer.start(QStringLiteral(TRIMLOG_BULK_WRITER), {folder, action});
+  if (!writer.waitForReadyRead(20000)) return {};
   QElapsedTimer time;
   time.start();
   if (killAfter >= 0) {
     QThread::usleep(static_cast<unsigned long>(killAfter));
-    deleter.kill();
+    writer.kill();
   }
-  deleter.waitForFinished(60000);
-  return {time.nsecsElapsed() / 1000, deleter.readAllStandardOutput().contains("committed")};
+  writer.waitForFinished(60000);
+  return {time.nsecsElapsed() / 1000, writer.readAllStandardOutput().contains("committed")};
 }
 
-TEST(FoodDeletion, KilledOnTheWayItTookAllFoodsOrNone) {
+/// Kills an action again and again. `isDone` looks at what is left and fails the test for anything but all or none.
+void KillOnTheWay(const QString &action, const std::function<bool(Database &data)> &isDone) {
   const QTemporaryDir folder;
   const QString whole = folder.filePath(QStringLiteral("whole.dat"));
   const QString path = folder.filePath(QStringLiteral("tlg.dat"));
   MakeFile(whole);
   QFile::copy(whole, path);
-  const Outcome unharmed = Delete(path, -1);
+  const Outcome unharmed = Do(folder.path(), action, -1);
   ASSERT_TRUE(unharmed.committed);
+  ASSERT_TRUE(isDone(*Database::Open(path)));
 
   std::mt19937 random(9000);
   int kept = 0;
@@ -78,19 +82,35 @@ TEST(FoodDeletion, KilledOnTheWayItTookAllFoodsOrNone) {
   for (int kill = 0; kill < kills; ++kill) {
     QFile::remove(path);
     QFile::copy(whole, path);
-    const bool committed = Delete(path, static_cast<qint64>(random()) % unharmed.microseconds).committed;
+    const bool committed = Do(folder.path(), action, static_cast<qint64>(random()) % unharmed.microseconds).committed;
     const QFileInfo journal(path + QStringLiteral("-journal"));
     if (journal.exists() && journal.size() > 0) ++torn;
     const auto data = Database::Open(path);
-    const int left = OwnFoods(*data);
-    ASSERT_TRUE(left == 0 || left == foods) << left << " foods are left after kill " << kill;
-    ASSERT_EQ(Entries(*data), left) << "entries and foods go together";
-    ASSERT_FALSE(committed && left > 0) << "told as deleted and still there";
+    const bool done = isDone(*data);
+    if (testing::Test::HasFailure()) FAIL() << "after kill " << kill;
+    ASSERT_FALSE(committed && !done) << "told as committed and not there";
     ASSERT_TRUE(data->IntegrityOk());
-    if (left > 0) ++kept;
+    if (!done) ++kept;
   }
-  std::printf("%d kills, %d of them while the file was being written; %d times all foods stayed\n", kills, torn, kept);
+  std::printf("%d kills, %d of them while the file was being written; %d times nothing was done\n", kills, torn, kept);
   EXPECT_GT(torn, 0) << "no kill met the transaction, so nothing was tried";
+}
+
+TEST(BulkActions, ADeletionTookAllFoodsAndTheirEntriesOrNone) {
+  KillOnTheWay(QStringLiteral("delete"), [](Database &data) {
+    const int left = OwnFoods(data);
+    EXPECT_TRUE(left == 0 || left == foods) << left << " foods are left";
+    EXPECT_EQ(Entries(data), left) << "entries and foods go together";
+    return left == 0;
+  });
+}
+
+TEST(BulkActions, APastedDayIsThereWholeOrNotAtAll) {
+  KillOnTheWay(QStringLiteral("paste"), [](Database &data) {
+    const int there = Count(data, QStringLiteral("meals WHERE (ThisDate = #3/2/2026#)"));
+    EXPECT_TRUE(there == 0 || there == pasted) << there << " entries were pasted";
+    return there > 0;
+  });
 }
 
 }  // namespace
