@@ -1,9 +1,9 @@
 #!/usr/bin/env bash
-# Makes docs/calendar.png: the month of Sample Profile 1 in the built program, on a screen of its own. Needs a build (./run)
+# Makes docs/calendar.png and docs/journal.png: Sample Profile 1 in the built program, on a screen of its own. Needs a build (./run)
 # and what the tests need (./test).
 set -euo pipefail
 here=$(dirname "$(readlink -f "$0")")
-exec env PYTHONPATH="$here/../tests/roads" python3 - "$here/../build/app" "$here/../build/shipped" "$here/calendar.png" <<'PYTHON'
+exec env PYTHONPATH="$here/../tests/roads" python3 - "$here/../build/app" "$here/../build/shipped" "$here" <<'PYTHON'
 import sys
 import road
 
@@ -19,8 +19,11 @@ def screenshot(trimlog):
     trimlog.wait_for_window("Trimlog Pro 2")
     trimlog.expect_change(before, "the sample profile")
     trimlog.keys("alt+l")
-    picture = trimlog.settled_picture("sample.png")
-    road.shutil.copy(picture, sys.argv[3])
+    calendar = trimlog.settled_picture("calendar.png")
+    road.shutil.copy(calendar, sys.argv[3])
+    trimlog.keys("alt+v", "j")
+    trimlog.expect_change(calendar, "the journal")
+    road.shutil.copy(trimlog.settled_picture("journal.png"), sys.argv[3])
     trimlog.quit()
 
 

@@ -1,6 +1,5 @@
 #include "journal/windows/frmDiary.h"
 
-#include <QButtonGroup>
 #include <QCheckBox>
 #include <QContextMenuEvent>
 #include <QHBoxLayout>
@@ -90,15 +89,14 @@ QWidget *frmDiary::MakeFooter() {
 }
 
 void frmDiary::AddDefaultTabs(QLayout *row) {
-  auto *group = new QButtonGroup(this);  // one of them is always ticked
   for (int i = 0; i < SSTab1->count(); ++i) {
     QCheckBox *check = AddCheck(row, QStringLiteral("chkDefaultDiaryTab%1").arg(i), tr("Open on this page"),
                                 tr("The journal opens on this page from now on"));
     check->setAccessibleName(tr("Open on this page:%1").arg(SSTab1->tabText(i)).trimmed());
-    group->addButton(check);
     connect(check, &QCheckBox::clicked, this, [this, i] {
       session_.settings.DefaultDiaryTab = i;
       SaveSetting(session_.settings, session_.store, QStringLiteral("DefaultDiaryTab"));
+      ShowDefaultTab();  // one is always ticked: not by an exclusive group, where Tab passes by what is not ticked
     });
     chkDefaultDiaryTab_[static_cast<std::size_t>(i)] = check;
   }
