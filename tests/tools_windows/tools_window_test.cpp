@@ -1,8 +1,10 @@
 #include "core/session/navigator.h"
+#include "core/windows/controls/theme.h"
 #include "support/test_session.h"
 #include "support/windows/controls.h"
 #include "tools/body_fat.h"
 #include "tools/windows/frmTools.h"
+#include "tools/windows/tool_colours.h"
 
 namespace trimlog {
 namespace {
@@ -62,7 +64,18 @@ class ToolsWindow : public testing::Test {
     field.selectAll();
     QTest::keyClicks(&field, text);
     if (*text == 0) QTest::keyClick(&field, Qt::Key_Delete);
-  }  /// Acts on the reminder as soon as it stands above the window, which is modal itself.
+  }
+  /// Which of the three colours a control is painted in at a place: the nearest.
+  int ColourAt(const char *name, const QPoint &place) {
+    const QColor painted = Find<QWidget>(*window, name).grab().toImage().pixelColor(place);
+    const auto distance = [&painted](const QColor &colour) {
+      return std::abs(painted.red() - colour.red()) + std::abs(painted.green() - colour.green()) +
+             std::abs(painted.blue() - colour.blue());
+    };
+    const auto colours = ToolColours(*session);
+    return static_cast<int>(std::ranges::min_element(colours, {}, distance) - colours.begin());
+  }
+  /// Acts on the reminder as soon as it stands above the window, which is modal itself.
   static void WhenReminded(const std::function<void(QWidget &)> &act) {
     QTimer::singleShot(0, qApp, [act] {
       QWidget *modal = QApplication::activeModalWidget();
@@ -349,6 +362,13 @@ TEST_F(ToolsWindow, CaloricNeedsFromTheFieldsToTheAdvice) {
   EXPECT_EQ(TextOf("pnlBMRResults1"), "So, if you did nothing but lie awake in bed all day, you would burn");
   EXPECT_EQ(TextOf("pnlBMRValue"), "1534 calories.");
   EXPECT_EQ(TextOf("pnlBMRActivity(1)"), "2424 calories");
+  for (int i = 0, lower = 0; i < 3; ++i) {  // the more one moves, the higher the column
+    const std::string name = QStringLiteral("pnlBMRActivity(%1)").arg(i).toStdString();
+    const char *cell = name.c_str();
+    EXPECT_EQ(ColourAt(cell, {6, 6}), i);
+    EXPECT_LT(lower, Find<QWidget>(*window, cell).height());
+    lower = Find<QWidget>(*window, cell).height();
+  }
   EXPECT_TRUE(Shown("pnlBMRResults2") && Shown("pnlBMRResults3"));
   EXPECT_TRUE(TextOf("pnlBMRSummary")
                   .startsWith("With a moderate level of activity you will need to consume 2424 calories per day"));
@@ -399,9 +419,22 @@ TEST_F(ToolsWindow, BodyFatFromTheFieldsToTheBar) {
   EXPECT_NEAR(place("Line7").center().x(), expected, 2);
   EXPECT_NEAR(place("Line8").center().x(), expected, 2);
   EXPECT_NEAR(place("pnlBodyFatValue").center().x(), expected, 2);
+  EXPECT_LT(place("pnlBodyFatValue").bottom(), place("Line7").top() + 1);
+  EXPECT_EQ(place("Line7").bottom() + 1, place("Line8").top()) << "one line from the value into the bar";
+  for (int i = 0; i < 3; ++i) {
+    const QRect segment = place(qPrintable(QStringLiteral("pnlBodyFatChart%1").arg(i + 1)));
+    EXPECT_EQ(ColourAt("pnlBodyFatChart", segment.bottomLeft() + QPoint(4, -4)), i);
+    const QRect bound = place(qPrintable(QStringLiteral("pnlBodyFatPercent%1").arg(i)));
+    EXPECT_NEAR(bound.center().x(), segment.left(), 2);
+    EXPECT_GT(bound.top(), segment.bottom());
+  }
   EXPECT_FALSE(TextOf("pnlBodyFatSummary").isEmpty());
 
+  Choose("optBodyFatGoalWeight");
+  EXPECT_TRUE(Enabled("txtBodyFatGoal"));
+  EXPECT_TRUE(Find<QRadioButton>(*window, "optBodyFatCurrentWaist").isChecked()) << "a choice of its own";
   Choose("optBodyFatOtherWaist");
+  EXPECT_TRUE(Find<QRadioButton>(*window, "optBodyFatGoalWeight").isChecked());
   EXPECT_EQ(TextOf("pnlBodyFatSummary"), "");
   EXPECT_TRUE(Enabled("txtBodyFatWaist"));
   Type("txtBodyFatWaist", "");
@@ -488,6 +521,12 @@ TEST_F(ToolsWindow, TheStepInUseStandsOut) {
   Click("cmdCalculate");
   EXPECT_EQ(colour("pnlStep3"), accent);
   for (const char *panel : {"pnlStep1", "pnlStep2", "Picture1"}) EXPECT_NE(colour(panel), accent) << panel;
+  const QPalette before = QApplication::palette();
+  QApplication::setPalette(QPalette(QColor(0x2A, 0x2E, 0x32)));  // the desktop turns dark under the open window
+  QCoreApplication::processEvents();
+  EXPECT_TRUE(IsDark(Find<QWidget>(*window, "pnlStep3").palette()));
+  EXPECT_NE(colour("pnlStep3"), colour("pnlStep1")) << "it still stands out";
+  QApplication::setPalette(before);
 }
 
 TEST_F(ToolsWindow, MetricUnitsInEveryPanel) {
