@@ -1,6 +1,7 @@
 // What a person sees of every window: controls stand beside each other, inside what holds them, with their whole text.
 
 #include "app_windows/every_window.h"
+#include "platform/windows/grid/bound_grid.h"
 #include "support/windows/controls.h"
 
 namespace trimlog {
@@ -150,6 +151,55 @@ TEST_P(Layout, LeavesEveryControlItsPlaceAndItsText) {
       EXPECT_FALSE(stray) << "in no window: " << Place(*other);
     }
   }
+}
+
+/// The last column of a list that has a caption: none that takes what the others leave.
+int ColumnToWiden(const BoundGrid &grid) {
+  int column = grid.Model().columnCount() - 1;
+  while (column > 0 && (grid.isColumnHidden(column) || grid.Model().Columns()[column].caption.isEmpty())) --column;
+  return column;
+}
+
+TEST_P(Layout, ItsListsComeBackAsWideAsTheyWereMade) {
+  House house;
+  std::unique_ptr<QWidget> window = GetParam().open(house);
+  window->show();
+  QMap<QString, int> widths;
+  for (BoundGrid *grid : window->findChildren<BoundGrid *>()) {
+    if (!grid->isVisible() || grid->objectName() == "grdPeople") continue;  // two short columns
+    const int column = ColumnToWiden(*grid);
+    widths[grid->objectName()] = grid->columnWidth(column) + 17;
+    grid->setColumnWidth(column, widths[grid->objectName()]);
+  }
+  window->close();
+  window = GetParam().open(house);
+  window->show();
+  for (const auto &[name, width] : widths.toStdMap()) {
+    const auto &grid = Find<BoundGrid>(*window, name);
+    EXPECT_EQ(grid.columnWidth(ColumnToWiden(grid)), width) << name.toStdString();
+  }
+}
+
+/// Without the focus, which blinks.
+QImage PictureOf(QWidget &window) {
+  window.show();
+  QApplication::processEvents();
+  if (QWidget *focus = window.focusWidget()) focus->clearFocus();
+  QApplication::processEvents();
+  return window.grab().toImage();
+}
+
+TEST_P(Layout, FollowsADesktopThatTurnsDark) {
+  const QPalette before = QApplication::palette();
+  House house;
+  const std::unique_ptr<QWidget> turned = GetParam().open(house);
+  PictureOf(*turned);
+  QApplication::setPalette(QPalette(QColor(0x2A, 0x2E, 0x32)));
+  const QImage picture = PictureOf(*turned);
+  turned->hide();
+  const bool same = picture == PictureOf(*GetParam().open(house));
+  QApplication::setPalette(before);
+  EXPECT_TRUE(same) << "looks otherwise than one that was opened on the dark desktop";
 }
 
 INSTANTIATE_TEST_SUITE_P(OfTheProgram, Layout, testing::ValuesIn(EveryWindow()), NameOf);

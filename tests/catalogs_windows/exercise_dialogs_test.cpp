@@ -157,6 +157,14 @@ TEST_F(AddActivityTest, ANewExerciseIsMadeOnTheSpotAndSelected) {
   EXPECT_EQ(Entry("Calories") + "," + Entry("Amount") + "," + Entry("Sets") + "," + Entry("Reps"), "60,3 balls,,5");
 }
 
+TEST_F(AddActivityTest, ADoubleClickAddsTheExercise) {
+  Open();
+  const QPoint place = List().visualRect(List().currentIndex()).center();
+  QTest::mouseClick(List().viewport(), Qt::LeftButton, {}, place);
+  QTest::mouseDClick(List().viewport(), Qt::LeftButton, {}, place);
+  EXPECT_EQ(Entry("ActivityID"), QString::number(walkID));
+}
+
 TEST_F(AddActivityTest, AnExerciseDeletedElsewhereIsNotAdded) {
   Open();
   session.Data().Execute("DELETE activities_list.* FROM activities_list WHERE ActivityID = ?;", {walkID});

@@ -108,6 +108,18 @@ TEST_F(AddMealTest, LettersFindFoodsWhereTheOwnStandFirst) {
   EXPECT_EQ(List().CurrentField("RecordTypeID"), food_kind::preLoaded);
 }
 
+TEST_F(AddMealTest, TheNextOneIsSortedLikeTheLastAndTheButtonCloses) {
+  Open();
+  const QString calories = Find<QComboBox>(*window, "cboSort").itemData(2).toString();
+  Choose(*window, "cboSort", calories);
+  const QVariant first = List().CurrentField("MealID");
+  Click("cmdSelectClose");
+  EXPECT_FALSE(window->isVisible());
+  Open();
+  EXPECT_EQ(Find<QComboBox>(*window, "cboSort").currentData(), calories);
+  EXPECT_EQ(List().CurrentField("MealID"), first);
+}
+
 TEST_F(AddMealTest, FoodsFoundByWordsAreAnEnterAway) {
   const int own = AddOwn("Mum's \"best\" pie");
   Open(JournalKind::Planner());

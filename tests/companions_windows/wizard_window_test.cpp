@@ -288,6 +288,20 @@ TEST_F(FirstRun, LosesNothingGoingBackAndForth) {
   });
 }
 
+TEST_F(FirstRun, AGoalThatIsStillWrongDoesNotHoldTheStepBeforeIt) {
+  Run([&](QWidget &wizard, Keyboard &keys) {
+    PassProfile(keys);
+    const QString title = Title(wizard);
+    keys.Type("185");
+    keys.Tab();
+    keys.Type("99999");
+    keys.Alt(Qt::Key_B);
+    EXPECT_NE(Title(wizard), title);
+    keys.Enter();
+    EXPECT_EQ(Title(wizard), title);
+  });
+}
+
 TEST_F(FirstRun, SkippedLoadsASampleAndComesBack) {
   session.boxes.Expect("Skipping the Configuration Wizard...",
                        "A sample profile will now be loaded, which will help you get familiar with Trimlog Pro and all "

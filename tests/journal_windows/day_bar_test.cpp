@@ -154,6 +154,7 @@ TEST_F(Bar, NamesTheDayAsFarAsThereIsRoomAndAcrossMidnight) {
   window.resize(window.minimumSizeHint());
   QApplication::processEvents();
   EXPECT_LE(name.fontMetrics().horizontalAdvance(name.text()), name.width());
+  EXPECT_EQ(name.toolTip(), QStringLiteral("Sunday, yesterday")) << "the whole name is there for who points at it";
 }
 
 }  // namespace

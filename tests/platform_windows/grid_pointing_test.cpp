@@ -145,6 +145,12 @@ TEST_F(GridPointingTest, CaptionsSortAndAnEmptyOneDoesNothing) {
   Type("9999");
   press(3);
   EXPECT_EQ(captions->sortIndicatorSection(), 2) << "a refused row lets nothing be sorted";
+  grid.UndoRow();
+  GridSource byFat = Source();
+  byFat.order = {{"Fat"}};
+  ASSERT_TRUE(grid.SetSource(byFat));
+  EXPECT_EQ(captions->sortIndicatorSection(), 3) << "sorted by what opened it";
+  EXPECT_EQ(captions->sortIndicatorOrder(), Qt::AscendingOrder);
 }
 
 TEST_F(GridPointingTest, KeysClearACellAndDeleteOnlyMarkedRows) {
@@ -166,6 +172,10 @@ TEST_F(GridPointingTest, KeysClearACellAndDeleteOnlyMarkedRows) {
   Press(Qt::Key_Delete);
   EXPECT_EQ(Count(), 39);
   EXPECT_EQ(grid.Model().RowOfKey(3), -1);
+  grid.MarkRows({5});
+  GoTo(6, "Nut2");
+  Press(Qt::Key_Delete);
+  EXPECT_EQ(Count(), 39) << "a mark ends where one goes on";
 }
 
 TEST_F(GridPointingTest, ListsAndTheMenuOpenByKeys) {

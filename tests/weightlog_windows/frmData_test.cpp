@@ -475,6 +475,23 @@ TEST(FrmData, WeightsGrowWithTheirCellsAndStayUncut) {
   EXPECT_NEAR(centre("txtTotalMonth"), centre("txtTotal(1)"), 2) << "the month's total stands under its column";
 }
 
+TEST(FrmData, TheWeeksOfEveryMonthShareTheWholeGrid) {
+  Calendar c;
+  c.Open();
+  // From March 2026 with five weeks back to February with four, and on to May with six.
+  for (const int months : {0, -1, 3}) {
+    for (int step = 0; step < std::abs(months); ++step)
+      c.Click(c.Find<QToolButton>(months < 0 ? "cmdPrevMonth" : "cmdNextMonth"));
+    const QWidget *last = nullptr;
+    for (int i = 1; i <= 42; ++i) {
+      const QWidget *cell = c.Field(i)->parentWidget();
+      if (cell->isVisible()) last = cell;
+    }
+    ASSERT_TRUE(last);
+    EXPECT_NEAR(last->geometry().bottom(), last->parentWidget()->rect().bottom(), 2) << months;
+  }
+}
+
 TEST(FrmData, IsPrintedWithoutColoursAndButtonsAndComesBackAsItWas) {
   Calendar c;
   c.Open();

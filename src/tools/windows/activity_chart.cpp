@@ -9,6 +9,7 @@
 
 #include "platform/windows/controls/member_name.h"
 #include "platform/windows/controls/named_controls.h"
+#include "tools/windows/tool_colours.h"
 
 namespace trimlog {
 
@@ -48,7 +49,7 @@ namespace {
 /// A cell of the chart: black text on its own colour, whatever the desktop's colours are.
 class ActivityCell : public QLabel {
  public:
-  ActivityCell(const QColor &colour, QWidget *parent) : QLabel(parent), colour_(colour) {
+  ActivityCell(const Session &session, int level, QWidget *parent) : QLabel(parent), session_(session), level_(level) {
     setAlignment(Qt::AlignCenter);
     QPalette palette;
     palette.setColor(QPalette::WindowText, Qt::black);
@@ -63,24 +64,25 @@ class ActivityCell : public QLabel {
     QPainter painter(this);
     painter.setRenderHint(QPainter::Antialiasing);
     QLinearGradient gradient(0, 0, 0, height());
-    gradient.setColorAt(0, colour_.lighter(104));
-    gradient.setColorAt(1, colour_.darker(108));
-    painter.setPen(QPen(colour_.darker(170), 1));
+    const QColor colour = ToolColours(session_)[level_];
+    gradient.setColorAt(0, colour.lighter(104));
+    gradient.setColorAt(1, colour.darker(108));
+    painter.setPen(QPen(colour.darker(170), 1));
     painter.setBrush(gradient);
     painter.drawRoundedRect(QRectF(rect()).adjusted(0.5, 0.5, -0.5, -0.5), 4, 4);
     QLabel::paintEvent(event);
   }
 
  private:
-  QColor colour_;
+  const Session &session_;
+  int level_;
 };
 
 constexpr int frameMargin = 6;  // pixels between a column and the frame around it
 
 }  // namespace
 
-ActivityChart::ActivityChart(const std::array<QColor, activityLevels> &colours, QWidget *parent)
-    : QWidget(parent), colours_(colours) {
+ActivityChart::ActivityChart(const Session &session, QWidget *parent) : QWidget(parent), session_(session) {
   setObjectName(QStringLiteral("pnlBMRActivityChart"));
   auto *grid = new QGridLayout(this);
   grid->setContentsMargins(frameMargin + 2, frameMargin, frameMargin + 2, frameMargin);
@@ -89,7 +91,7 @@ ActivityChart::ActivityChart(const std::array<QColor, activityLevels> &colours, 
     const ActivityLevel &level = ActivityLevels()[i];
     optBMRActivity_[i] = new QRadioButton(level.caption, this);
     optBMRActivity_[i]->setObjectName(MemberName("optBMRActivity", i));
-    pnlBMRActivity_[i] = new ActivityCell(colours[i], this);
+    pnlBMRActivity_[i] = new ActivityCell(session, i, this);
     pnlBMRActivity_[i]->setObjectName(MemberName("pnlBMRActivity", i));
     pnlBMRActivity_[i]->setFixedHeight(qRound(fontMetrics().lineSpacing() * (2 * level.multiplier - 0.5)));
     pnlBMRActivityDesc_[i] = new QLabel(level.description, this);
@@ -136,7 +138,7 @@ void ActivityChart::PlaceHighlight() {
   const int chosen = Chosen();
   for (HighlightFrame *frame : {shpBMRActivity_, shpCell_}) {
     frame->setVisible(chosen >= 0);
-    if (chosen >= 0) frame->SetColour(colours_[chosen]);
+    if (chosen >= 0) frame->SetColour(ToolColours(session_)[chosen]);
   }
   if (chosen < 0) return;
   const QRect cell = pnlBMRActivity_[chosen]->geometry();
@@ -147,7 +149,8 @@ void ActivityChart::PlaceHighlight() {
 
 bool ActivityChart::event(QEvent *event) {
   const bool handled = QWidget::event(event);
-  if (event->type() == QEvent::LayoutRequest || event->type() == QEvent::Resize || event->type() == QEvent::Show) {
+  if (event->type() == QEvent::LayoutRequest || event->type() == QEvent::Resize || event->type() == QEvent::Show ||
+      event->type() == QEvent::PaletteChange) {
     PlaceHighlight();
   }
   return handled;

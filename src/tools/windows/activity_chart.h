@@ -11,12 +11,14 @@ class QRadioButton;
 
 namespace trimlog {
 
+class Session;
+
 /// The three activity levels side by side, each as a coloured cell as high as its share of calories. One of them can be
 /// chosen, by its option, its cell or its description, and then stands out in its own colour.
 class ActivityChart : public QWidget {
   Q_OBJECT
  public:
-  explicit ActivityChart(const std::array<QColor, activityLevels> &colours, QWidget *parent = nullptr);
+  explicit ActivityChart(const Session &session, QWidget *parent = nullptr);
 
   void ShowAmounts(const std::array<QString, activityLevels> &amounts);
   /// -1 while none is chosen.
@@ -32,10 +34,10 @@ class ActivityChart : public QWidget {
  private:
   void PlaceHighlight();
 
+  const Session &session_;
   std::array<QRadioButton *, activityLevels> optBMRActivity_{};
   std::array<QLabel *, activityLevels> pnlBMRActivity_{};
   std::array<QLabel *, activityLevels> pnlBMRActivityDesc_{};
-  std::array<QColor, activityLevels> colours_;
   class HighlightFrame *shpBMRActivity_ = nullptr;  ///< around the column
   class HighlightFrame *shpCell_ = nullptr;         ///< around its cell
 };

@@ -5,6 +5,8 @@
 #include <QLabel>
 #include <QPainter>
 
+#include "tools/windows/tool_colours.h"
+
 namespace trimlog {
 
 namespace {
@@ -34,8 +36,7 @@ int PanelWidth() {
 
 }  // namespace
 
-BodyFatBar::BodyFatBar(const std::array<QColor, bodyFatSegments> &colours, QWidget *parent)
-    : QWidget(parent), colours_(colours) {
+BodyFatBar::BodyFatBar(const Session &session, QWidget *parent) : QWidget(parent), session_(session) {
   setObjectName(QStringLiteral("pnlBodyFatChart"));
   QPalette onBar;
   onBar.setColor(QPalette::WindowText, Qt::black);  // the segments are light on every desktop
@@ -105,12 +106,13 @@ void BodyFatBar::PlaceLabels() {
 void BodyFatBar::paintEvent(QPaintEvent *) {
   QPainter painter(this);
   painter.setRenderHint(QPainter::Antialiasing);
+  const auto colours = ToolColours(session_);
   for (int i = 0; i < bodyFatSegments; ++i) {
     const QRectF segment = SegmentRect(i);
     QLinearGradient gradient(segment.topLeft(), segment.bottomLeft());
-    gradient.setColorAt(0, colours_[i].lighter(104));
-    gradient.setColorAt(1, colours_[i].darker(110));
-    painter.setPen(QPen(colours_[i].darker(180), 1));
+    gradient.setColorAt(0, colours[i].lighter(104));
+    gradient.setColorAt(1, colours[i].darker(110));
+    painter.setPen(QPen(colours[i].darker(180), 1));
     painter.setBrush(gradient);
     painter.drawRect(segment.adjusted(0.5, 0.5, -0.5, -0.5));
   }
@@ -120,7 +122,7 @@ void BodyFatBar::paintEvent(QPaintEvent *) {
   const QPolygonF arrow(
       {{x - side, BarTop() - 1.2 * side}, {x + side, BarTop() - 1.2 * side}, {x, BarTop() + 0.3 * side}});
   painter.setPen(QPen(palette().color(QPalette::WindowText), 1.5));
-  painter.setBrush(colours_[marker_.Segment()]);
+  painter.setBrush(colours[marker_.Segment()]);
   painter.drawPolygon(arrow);
 }
 

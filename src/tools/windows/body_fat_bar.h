@@ -11,11 +11,13 @@ class QLabel;
 
 namespace trimlog {
 
+class Session;
+
 /// The bar of body fat: three segments, the percentages where they begin, and a marker with the percentage assessed.
 class BodyFatBar : public QWidget {
   Q_OBJECT
  public:
-  explicit BodyFatBar(const std::array<QColor, bodyFatSegments> &colours, QWidget *parent = nullptr);
+  explicit BodyFatBar(const Session &session, QWidget *parent = nullptr);
 
   void ShowAssessment(const BodyFatAssessment &assessment);
   QSize sizeHint() const override;
@@ -34,7 +36,7 @@ class BodyFatBar : public QWidget {
   int BarHeight() const;
   void PlaceLabels();
 
-  std::array<QColor, bodyFatSegments> colours_;
+  const Session &session_;
   BodyFatMarker marker_;
   std::array<QLabel *, bodyFatSegments> pnlBodyFatChart_{};
   std::array<QLabel *, bodyFatSegments> pnlBodyFatPercent_{};

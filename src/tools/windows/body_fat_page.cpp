@@ -28,7 +28,7 @@ BodyFatPage::BodyFatPage(Session &session, const ToolsProfile &profile, QWidget 
   auto *layout = new QVBoxLayout(this);
   AddHeading(layout, QStringLiteral("lblBodyFatTitle"), QStringLiteral("Estimating Your Percentage of Body Fat"));
   AddInputs(layout);
-  pnlBodyFatChart = new BodyFatBar(ToolColours(session_), this);
+  pnlBodyFatChart = new BodyFatBar(session_, this);
   QSizePolicy policy = pnlBodyFatChart->sizePolicy();
   policy.setRetainSizeWhenHidden(true);
   pnlBodyFatChart->setSizePolicy(policy);

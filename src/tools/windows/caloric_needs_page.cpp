@@ -37,7 +37,7 @@ CaloricNeedsPage::CaloricNeedsPage(Session &session, const ToolsProfile &profile
   AddHeading(layout, QStringLiteral("lblBMRTitle"), QStringLiteral("Estimating Your Caloric Needs:"));
   AddInputs(layout);
   AddResults(layout);
-  chart_ = new ActivityChart(ToolColours(session_), this);
+  chart_ = new ActivityChart(session_, this);
   layout->addWidget(chart_);
   pnlBMRSummary = new ResultText(QStringLiteral("pnlBMRSummary"), this);
   pnlBMRSummary->MakeFrame(linesOfSummary);

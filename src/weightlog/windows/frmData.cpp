@@ -236,7 +236,9 @@ void frmData::ShowSettings() {
 
 void frmData::changeEvent(QEvent *event) {
   ContentWindow::changeEvent(event);
-  if (entry_ && event->type() == QEvent::PaletteChange) ShowMonth();
+  if (!entry_ || event->type() != QEvent::PaletteChange) return;
+  ShowSettings();
+  ShowMonth();
 }
 
 void frmData::keyPressEvent(QKeyEvent *event) {
