@@ -24,5 +24,21 @@ TEST(FigureFieldTest, DrawsSmallerWhatHasNoRoomOnceItIsSeen) {
   EXPECT_EQ(size(), roomy);
 }
 
+TEST(FigureFieldTest, ShowsTheBeginningOfWhatIsTooLongAlsoAfterAVisit) {
+  QWidget window;
+  FigureField field(QStringLiteral("txtFigure"), Qt::AlignCenter, &window);
+  QLineEdit next(&window);
+  field.ShowText(QStringLiteral("A long name of a person"));
+  window.show();
+  ASSERT_TRUE(QTest::qWaitForWindowActive(&window));
+  field.setFocus(Qt::TabFocusReason);
+  ASSERT_TRUE(field.hasFocus());
+  EXPECT_EQ(field.selectedText(), field.text());
+  EXPECT_EQ(field.cursorPosition(), 0);
+  QTest::keyClick(&field, Qt::Key_Tab);
+  ASSERT_TRUE(next.hasFocus());
+  EXPECT_EQ(field.cursorPosition(), 0);
+}
+
 }  // namespace
 }  // namespace trimlog

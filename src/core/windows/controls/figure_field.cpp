@@ -54,4 +54,16 @@ void FigureField::showEvent(QShowEvent *event) {
   Fit();
 }
 
+// Where a text is too long even so, its beginning is to be seen: the field would stay at the end of what it selected.
+void FigureField::focusInEvent(QFocusEvent *event) {
+  QLineEdit::focusInEvent(event);
+  const int length = static_cast<int>(text().size());
+  if (hasSelectedText()) setSelection(length, -length);
+}
+
+void FigureField::focusOutEvent(QFocusEvent *event) {
+  QLineEdit::focusOutEvent(event);
+  setCursorPosition(0);
+}
+
 }  // namespace trimlog

@@ -7,7 +7,7 @@ namespace trimlog {
 
 namespace {
 
-constexpr double smallestShare = 0.7;  ///< of the font's size
+constexpr double smallestShare = 0.6;  ///< of the font's size
 constexpr double shrinkStep = 0.25;    ///< points
 
 }  // namespace

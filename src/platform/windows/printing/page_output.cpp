@@ -1,6 +1,7 @@
 #include "platform/windows/printing/page_output.h"
 
 #include <QBuffer>
+#include <QLocale>
 #include <QPainter>
 #include <QPdfWriter>
 #include <QPrintPreviewDialog>
