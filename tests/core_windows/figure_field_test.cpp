@@ -31,6 +31,7 @@ TEST(FigureFieldTest, ShowsTheBeginningOfWhatIsTooLongAlsoAfterAVisit) {
   field.ShowText(QStringLiteral("A long name of a person"));
   window.show();
   ASSERT_TRUE(QTest::qWaitForWindowActive(&window));
+  next.setFocus();
   field.setFocus(Qt::TabFocusReason);
   ASSERT_TRUE(field.hasFocus());
   EXPECT_EQ(field.selectedText(), field.text());
