@@ -1,6 +1,7 @@
 // What a person sees of every window: controls stand beside each other, inside what holds them, with their whole text.
 
 #include "app_windows/every_window.h"
+#include "core/windows/controls/theme.h"
 #include "platform/windows/grid/bound_grid.h"
 #include "support/windows/controls.h"
 
@@ -74,6 +75,15 @@ void CheckKeys(const QWidget &widget) {
       << "guesses what is markup: " << Place(widget);
 }
 
+void CheckContrast(const QWidget &widget) {
+  const auto *button = qobject_cast<const QAbstractButton *>(&widget);
+  const auto *label = qobject_cast<const QLabel *>(&widget);
+  if (!widget.isEnabled() || (!button && !(label && !label->text().isEmpty()))) return;
+  const QPalette &palette = widget.palette();
+  EXPECT_GE(ContrastRatio(palette.color(widget.foregroundRole()), palette.color(widget.backgroundRole())), 4.0)
+      << "hard to read: " << Place(widget);
+}
+
 void CheckInside(const QWidget &parent) {
   const bool scrolls = parent.objectName() == "qt_scrollarea_viewport" || parent.inherits("trimlog::BodyTotals");
   const QList<QWidget *> children = ShownChildren(parent);
@@ -86,6 +96,7 @@ void CheckInside(const QWidget &parent) {
     }
     CheckText(child);
     CheckKeys(child);
+    CheckContrast(child);
     if (!IsWhole(child)) CheckInside(child);
   }
 }
@@ -196,6 +207,7 @@ TEST_P(Layout, FollowsADesktopThatTurnsDark) {
   PictureOf(*turned);
   QApplication::setPalette(QPalette(QColor(0x2A, 0x2E, 0x32)));
   const QImage picture = PictureOf(*turned);
+  CheckInside(*turned);
   turned->hide();
   const bool same = picture == PictureOf(*GetParam().open(house));
   QApplication::setPalette(before);

@@ -122,6 +122,16 @@ TEST_F(GridPointingTest, RowsChangedElsewhereAreReadAfresh) {
   EXPECT_EQ(grid.Model().RowOfKey(99), 0);
   EXPECT_EQ(grid.CurrentKey(), 4);
   EXPECT_EQ(grid.CurrentColumn(), "Nut2");
+  GoTo(20, "Nut2");
+  grid.verticalScrollBar()->setValue(12);
+  file->Execute("INSERT INTO foods ( FoodID, FoodDesc ) VALUES ( 98, \"A second food\" );");
+  const qint64 top = *grid.Model().KeyOfRow(grid.rowAt(0));
+  grid.RefreshRows({98});
+  EXPECT_EQ(grid.Model().KeyOfRow(grid.rowAt(0)), top) << "what is being looked at stays";
+  GridSource byFat = Source();
+  byFat.order = {{"Fat"}};
+  ASSERT_TRUE(grid.SetSource(byFat));
+  EXPECT_EQ(grid.verticalScrollBar()->value(), 0) << "another order begins at its first row";
 }
 
 TEST_F(GridPointingTest, CaptionsSortAndAnEmptyOneDoesNothing) {

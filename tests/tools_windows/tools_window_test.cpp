@@ -344,6 +344,10 @@ TEST_F(ToolsWindow, CaloricNeedsFromTheFieldsToTheAdvice) {
   Open(ToolsPanel::CaloricNeeds);
   EXPECT_TRUE(Shown("pnlBMR") && !Shown("pnlPlanner") && !Shown("pnlBodyFat"));
   EXPECT_EQ(TextOf("pnlBMRGender"), "Female");
+  for (const char *caption : {"Gender:", "Height:"}) {
+    const QList<QLabel *> labels = Find<QWidget>(*window, "pnlBMR").findChildren<QLabel *>();
+    EXPECT_EQ(std::ranges::count(labels, QString(caption), &QLabel::text), 1) << caption;
+  }
   EXPECT_EQ(TextOf("pnlBMRHeight"), "66 Inches");
   EXPECT_EQ(TextOf("optBMRCurrentWeight"), "Use My Current Weight of 170 Lbs");
   EXPECT_EQ(TextOf("txtBMRAge"), "35");
