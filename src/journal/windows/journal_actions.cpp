@@ -16,7 +16,7 @@ void JournalActions::FillList(ActionsCombo &list) const {
       {"Get Help for the Meals Journal", Goal::MealsHelp},
   };
   for (const auto &[caption, goal] : entries) {
-    list.AddAction(QString::fromLatin1(caption), WhyNot(goal), [*this, goal] { Go(goal); });
+    list.AddAction(QString::fromLatin1(caption), WhyNot(goal), [*this, goal = goal] { Go(goal); });
   }
 }
 
