@@ -104,6 +104,9 @@ TEST_F(AddMealTest, LettersFindFoodsWhereTheOwnStandFirst) {
   Type("butter");
   EXPECT_TRUE(List().CurrentField("MealDesc").toString().startsWith("butter", Qt::CaseInsensitive));
   Click("cmdAplha");
+  QApplication::processEvents();
+  const QWidget &letters = *Find<QWidget>(*window, "pshAplha(25)").parentWidget();
+  EXPECT_FALSE(letters.geometry().intersects(List().geometry())) << "the letters have a row of their own";
   QTest::mouseClick(&Find<QAbstractButton>(*window, "pshAplha(25)"), Qt::LeftButton);
   EXPECT_EQ(List().CurrentField("RecordTypeID"), food_kind::preLoaded);
 }

@@ -322,8 +322,13 @@ TEST_F(FirstRun, SkippedLoadsASampleAndComesBack) {
 }
 
 TEST_F(FirstRun, IsNotLeftWithAnswersWithoutAQuestion) {
+  navigator.ImportData = [](QWidget *) { ADD_FAILURE(); };
   EXPECT_FALSE(Run([&](QWidget &wizard, Keyboard &keys) {
     GoToNutrients(keys);
+    for (int step = 4; step > 1; --step) keys.Alt(Qt::Key_B);
+    ExpectLeaveQuestion(BoxButton::No);
+    keys.Alt(Qt::Key_I);
+    EXPECT_TRUE(wizard.isVisible());
     ExpectLeaveQuestion(BoxButton::No);
     keys.Press(Qt::Key_Escape);
     EXPECT_EQ(session.boxes.Shown().back().defaultButton, BoxButton::No);
@@ -448,6 +453,7 @@ TEST_F(AddingProfile, TakesTwoStepsAndLeavesSelectionTargetsAndUnitsAlone) {
     EXPECT_TRUE(Run([&](QWidget &wizard, Keyboard &keys) {
       EXPECT_EQ(Title(wizard), "Your Profile Information (Step 1 of 2)");
       EXPECT_EQ(TextOf(wizard, "lblHeight1"), uomID == 1 ? "Feet" : "Meters");
+      Find<QRadioButton>(wizard, uomID == 1 ? "optGenderMale" : "optGenderFemale").click();
       keys.FillStep({"Ann", uomID == 1 ? "5" : "1", uomID == 1 ? "9.5" : "76", "12/31/1980"});
       EXPECT_EQ(Title(wizard), "Your Weight Information (Step 2 of 2)");
       for (const char *absent : {"cboUomID", "cmdSkip", "cboDiet"}) {
@@ -457,10 +463,11 @@ TEST_F(AddingProfile, TakesTwoStepsAndLeavesSelectionTargetsAndUnitsAlone) {
     }));
     const QString added = QString::number(uomID + 1);
     EXPECT_EQ(session->profile.CurrentPersonID, added);
-    EXPECT_EQ(session.Rows("SELECT PersonName, HeightInches, Goal, ThisWeight FROM people INNER JOIN weight_loss ON "
-                           "people.PersonID = weight_loss.PersonID WHERE people.PersonID=?;",
-                           {added.toInt()}),
-              uomID == 1 ? "Ann|9.5|72.5|81" : "Ann|76|72.5|81");
+    EXPECT_EQ(session.Rows(
+                  "SELECT PersonName, HeightInches, GenderID, Goal, ThisWeight FROM people INNER JOIN weight_loss ON "
+                  "people.PersonID = weight_loss.PersonID WHERE people.PersonID=?;",
+                  {added.toInt()}),
+              uomID == 1 ? "Ann|9.5|1|72.5|81" : "Ann|76|2|72.5|81");
     EXPECT_EQ(kept(), before);
     EXPECT_EQ(session->settings.UomID, uomID);
   }
