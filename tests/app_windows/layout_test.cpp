@@ -75,10 +75,18 @@ void CheckKeys(const QWidget &widget) {
       << "guesses what is markup: " << Place(widget);
 }
 
-void CheckContrast(const QWidget &widget) {
+bool IsBlank(QWidget &widget) {
+  const QImage picture = widget.grab().toImage();
+  QImage plain = picture;
+  plain.fill(picture.pixelColor(0, 0));
+  return picture == plain;
+}
+
+void CheckContrast(QWidget &widget) {
   const auto *button = qobject_cast<const QAbstractButton *>(&widget);
   const auto *label = qobject_cast<const QLabel *>(&widget);
   if (!widget.isEnabled() || (!button && !(label && !label->text().isEmpty()))) return;
+  EXPECT_FALSE(label && !label->text().trimmed().isEmpty() && IsBlank(widget)) << "not painted: " << Place(widget);
   const QPalette &palette = widget.palette();
   EXPECT_GE(ContrastRatio(palette.color(widget.foregroundRole()), palette.color(widget.backgroundRole())), 4.0)
       << "hard to read: " << Place(widget);
@@ -88,7 +96,7 @@ void CheckInside(const QWidget &parent) {
   const bool scrolls = parent.objectName() == "qt_scrollarea_viewport" || parent.inherits("trimlog::BodyTotals");
   const QList<QWidget *> children = ShownChildren(parent);
   for (qsizetype i = 0; i < children.size(); ++i) {
-    const QWidget &child = *children[i];
+    QWidget &child = *children[i];
     EXPECT_TRUE(scrolls || parent.rect().contains(child.geometry())) << "outside: " << Place(child);
     for (qsizetype j = i + 1; j < children.size(); ++j) {
       EXPECT_FALSE(child.geometry().intersects(children[j]->geometry()))
