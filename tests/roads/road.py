@@ -251,9 +251,17 @@ class Trimlog:
             self._give_up(f"{what}: the window still looks like {former}")
 
     def quit(self, seconds=PATIENCE):
-        """Closes the window in front as a person would, and waits for the end of the program."""
+        """Closes the window in front as a person would, and waits for the end of the program. The key is the window
+        manager's, which can miss it while it is busy with the window's first moments: it is pressed again then, as long
+        as the same window stands there and nothing above it."""
+        front = self.active_window()
         self.keys("alt+F4")
-        code = self.process.wait(timeout=seconds)
+        try:
+            code = self.process.wait(timeout=seconds / 3)
+        except subprocess.TimeoutExpired:
+            check(self.active_window(), front, "the window in front after Alt+F4")
+            self.keys("alt+F4")
+            code = self.process.wait(timeout=seconds)
         check(code, 0, "exit code")
 
     def kill(self):
